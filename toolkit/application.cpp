@@ -1,0 +1,160 @@
+// SPDX-License-Identifier: MIT
+#include "toolkit/application.h"
+
+#include "toolkit/frame.h"
+#include "toolkit/resource_database.h"
+#include "toolkit/text_conversion.h"
+#include "toolkit/theme.h"
+
+#include <QApplication>
+#include <QIcon>
+#include <QScreen>
+#include <QSocketNotifier>
+#include <QWidget>
+
+#include <array>
+#include <csignal>
+#include <cstdlib>
+#include <memory>
+
+#include <X11/Xlib.h>
+#include <X11/Xutil.h>
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace {
+
+struct ToolkitOptions {
+    std::string display;
+    std::string geometry;
+    std::vector<std::string> resources;
+};
+
+/// Takes the toolkit's options out; one without its value is dropped alone.
+ToolkitOptions take_options(std::vector<std::string>& arguments) {
+    ToolkitOptions taken;
+    std::vector<std::string> rest;
+    for (std::size_t i = 0; i < arguments.size(); ++i) {
+        const std::string& name = arguments[i];
+        if (i == 0 || (name != "-display" && name != "-geometry" && name != "-xrm")) {
+            rest.push_back(name);
+            continue;
+        }
+        const std::string value = ++i < arguments.size() ? arguments[i] : std::string();
+        if (name == "-xrm") {
+            taken.resources.push_back(value);
+        } else {
+            (name == "-display" ? taken.display : taken.geometry) = value;
+        }
+    }
+    arguments = std::move(rest);
+    return taken;
+}
+
+/// What QApplication is given; it keeps references to count and vector for its whole life.
+struct QtArguments {
+    std::vector<std::string> texts;
+    std::vector<char*> pointers;
+    int count = 0;
+
+    explicit QtArguments(std::vector<std::string> arguments) : texts(std::move(arguments)) {
+        for (std::string& text : texts) {
+            pointers.push_back(text.data());
+        }
+        count = static_cast<int>(pointers.size());
+        pointers.push_back(nullptr);
+    }
+};
+
+std::unique_ptr<QtArguments> qt_arguments;
+std::unique_ptr<QApplication> application;
+std::string main_geometry;
+std::array<int, 2> signal_pipe{-1, -1};
+
+void note_signal(int /*number*/) {
+    const char byte = 0;
+    [[maybe_unused]] const auto written = write(signal_pipe[1], &byte, 1);
+}
+
+/// A signal to end leads through the event loop, so that the shell and the status file are put in order.
+void end_on_signals() {
+    if (pipe2(signal_pipe.data(), O_CLOEXEC | O_NONBLOCK) != 0) {
+        return;
+    }
+    auto* notifier = new QSocketNotifier(signal_pipe[0], QSocketNotifier::Read, application.get());
+    QObject::connect(notifier, &QSocketNotifier::activated, notifier, [] { notify_stop(); });
+    struct sigaction action {};
+    action.sa_handler = note_signal;
+    action.sa_flags = SA_RESTART;
+    sigemptyset(&action.sa_mask);
+    for (const int number : {SIGTERM, SIGINT, SIGHUP}) {
+        sigaction(number, &action, nullptr);
+    }
+}
+
+/// Applies an X geometry text (XParseGeometry): negative offsets count from the screen's right and bottom
+/// edges.
+void apply_geometry(QWidget& window, const std::string& geometry) {
+    int x = 0;
+    int y = 0;
+    unsigned width = static_cast<unsigned>(window.width());
+    unsigned height = static_cast<unsigned>(window.height());
+    const int given = XParseGeometry(geometry.c_str(), &x, &y, &width, &height);
+    constexpr unsigned largest = 16384;
+    window.resize(static_cast<int>(std::min(width, largest)), static_cast<int>(std::min(height, largest)));
+    if ((given & (XValue | YValue)) == 0) {
+        return;
+    }
+    const QRect screen = window.screen()->geometry();
+    const bool from_right = (given & XNegative) != 0;
+    const bool from_bottom = (given & YNegative) != 0;
+    window.move(from_right ? screen.right() + 1 + x - window.width() : screen.left() + x,
+                from_bottom ? screen.bottom() + 1 + y - window.height() : screen.top() + y);
+}
+
+std::string display_failure(const std::string& name) {
+    const std::string display = XDisplayName(name.empty() ? nullptr : name.c_str());
+    return display.empty() ? "Can't open display: DISPLAY is not set"
+                           : "Can't open display \"" + display + "\"";
+}
+
+}  // namespace
+
+std::string xv_init(std::vector<std::string>& arguments) {
+    const ToolkitOptions options = take_options(arguments);
+    Display* display = XOpenDisplay(options.display.empty() ? nullptr : options.display.c_str());
+    if (display == nullptr) {
+        return display_failure(options.display);
+    }
+    load_resource_database(XResourceManagerString(display), options.resources);
+    XCloseDisplay(display);
+
+    std::vector<std::string> texts{arguments.empty() ? "orvik" : arguments.front(), "-platform", "xcb"};
+    if (!options.display.empty()) {
+        texts.insert(texts.end(), {"-display", options.display});
+    }
+    qt_arguments = std::make_unique<QtArguments>(std::move(texts));
+    application = std::make_unique<QApplication>(qt_arguments->count, qt_arguments->pointers.data());
+    application->setApplicationName(QStringLiteral("orvik"));
+    application->setApplicationDisplayName(QString());
+    application->setQuitOnLastWindowClosed(false);
+    main_geometry = options.geometry;
+    apply_theme();
+    end_on_signals();
+    return {};
+}
+
+void xv_main_loop(Frame& main_window) {
+    if (!main_geometry.empty()) {
+        apply_geometry(*main_window.widget(), main_geometry);
+    }
+    main_window.on_close(notify_stop);
+    main_window.show();
+    QApplication::exec();
+}
+
+void notify_stop() { QApplication::quit(); }
+
+void xv_destroy() { application.reset(); }
+
+void set_application_icon(const std::string& path) { QApplication::setWindowIcon(QIcon(to_qstring(path))); }

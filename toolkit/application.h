@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+#include <vector>
+
+class Frame;
+
+/// Connects to the X server and readies the toolkit. The toolkit's own options are taken out of `arguments`:
+/// "-display NAME", "-geometry GEOMETRY" (X's form; pixels; for the main window) and "-xrm RESOURCE". On
+/// failure the result says why in one line, else it is empty. Called once, before anything else of the
+/// toolkit.
+[[nodiscard]] std::string xv_init(std::vector<std::string>& arguments);
+
+/// Shows the main window and handles events until it is closed or the process is asked to end (SIGTERM,
+/// SIGINT, SIGHUP).
+void xv_main_loop(Frame& main_window);
+/// Makes `xv_main_loop` return.
+void notify_stop();
+/// Ends the toolkit; all windows are gone by then.
+void xv_destroy();
+
+/// Puts the application's icon, an SVG file, on its windows.
+void set_application_icon(const std::string& path);

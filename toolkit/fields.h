@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "toolkit/notify.h"
+#include "toolkit/panel.h"
+
+#include <string>
+#include <string_view>
+
+class QLineEdit;
+class QSpinBox;
+
+/// One line of text with a label. Line feeds cannot be entered; bytes that are not UTF-8 are kept.
+class TextField {
+  public:
+    /// `notify` is called on Return.
+    TextField(Container& parent, std::string_view label, Notify notify = nullptr);
+    [[nodiscard]] std::string text() const;
+    /// Sets the text; `notify` is not called. An equal text leaves cursor and selection as they are.
+    void set_text(std::string_view text);
+    /// For fields of known content: asks for room for so many characters.
+    void set_display_length(int characters);
+
+  private:
+    QLineEdit* widget_;
+};
+
+/// A whole number, entered or stepped through.
+class NumberField {
+  public:
+    NumberField(Container& parent, std::string_view label, int initial = 0, Notify notify = nullptr);
+    [[nodiscard]] int value() const;
+    void set_value(int value);
+
+  private:
+    QSpinBox* widget_;
+};

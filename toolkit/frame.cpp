@@ -1,0 +1,171 @@
+// SPDX-License-Identifier: MIT
+#include "toolkit/frame.h"
+
+#include "toolkit/footer.h"
+#include "toolkit/text_conversion.h"
+
+#include <QBoxLayout>
+#include <QCloseEvent>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QScreen>
+
+#include <algorithm>
+#include <cassert>
+
+namespace {
+
+constexpr int popup_right = 740;
+constexpr int popup_down = 100;
+
+Frame* base_frame = nullptr;
+
+/// Moves an interval of `length` inside [low, high]; what is too long begins at `low`.
+int moved_inside(int at, int length, int low, int high) {
+    return std::max(low, std::min(at, high - length + 1));
+}
+
+}  // namespace
+
+class FrameWidget : public QWidget {
+  public:
+    FrameWidget(QWidget* owner, Qt::WindowFlags flags) : QWidget(owner, flags) {
+        auto* column = new QVBoxLayout(this);
+        column->setContentsMargins(0, 0, 0, 0);
+        column->setSpacing(0);
+        areas = new QVBoxLayout;
+        areas->setSpacing(0);
+        column->addLayout(areas, 1);
+        auto* footers = new QHBoxLayout;
+        footers->setContentsMargins(8, 3, 8, 4);
+        footers->setSpacing(16);
+        left_footer = new Footer(QStringLiteral("left footer"), Qt::AlignLeft, this);
+        right_footer = new Footer(QStringLiteral("right footer"), Qt::AlignRight, this);
+        footers->addWidget(left_footer, 1);
+        footers->addWidget(right_footer);
+        column->addLayout(footers);
+    }
+
+    QVBoxLayout* areas = nullptr;
+    Footer* left_footer = nullptr;
+    Footer* right_footer = nullptr;
+    Notify close_notify = nullptr;
+    bool iconified_at_first = false;
+
+  protected:
+    void closeEvent(QCloseEvent* event) override {
+        event->accept();
+        if (close_notify != nullptr) {
+            close_notify();
+        }
+    }
+    void keyPressEvent(QKeyEvent* event) override {
+        if (event->key() == Qt::Key_Escape && parentWidget() != nullptr) {
+            close();
+            return;
+        }
+        QWidget::keyPressEvent(event);
+    }
+};
+
+Frame::Frame(std::string_view label)
+    : widget_(new FrameWidget(base_frame == nullptr ? nullptr : base_frame->widget(),
+                              base_frame == nullptr ? Qt::Window : Qt::Dialog)) {
+    if (base_frame == nullptr) {
+        base_frame = this;
+    }
+    set_label(label);
+}
+
+Frame::~Frame() {
+    if (base_frame == this) {
+        base_frame = nullptr;
+    }
+    delete widget_;
+}
+
+Frame& Frame::base() {
+    assert(base_frame != nullptr);
+    return *base_frame;
+}
+
+void Frame::set_label(std::string_view label) {
+    widget_->setWindowTitle(visible_text(label));
+    widget_->setWindowIconText(visible_text(label));
+    widget_->setAccessibleName(visible_text(label));
+}
+
+std::string Frame::label() const { return from_qstring(widget_->windowTitle()); }
+
+void Frame::set_left_footer(std::string_view text) { widget_->left_footer->set_full_text(to_qstring(text)); }
+
+void Frame::set_right_footer(std::string_view text) {
+    widget_->right_footer->set_full_text(to_qstring(text));
+}
+
+std::string Frame::left_footer() const { return from_qstring(widget_->left_footer->full_text()); }
+
+std::string Frame::right_footer() const { return from_qstring(widget_->right_footer->full_text()); }
+
+void Frame::show() {
+    if (widget_->iconified_at_first) {
+        widget_->iconified_at_first = false;
+        widget_->showMinimized();
+        return;
+    }
+    if (widget_->isMinimized()) {
+        widget_->showNormal();
+    }
+    widget_->show();
+    widget_->raise();
+    widget_->activateWindow();
+}
+
+void Frame::hide() { widget_->hide(); }
+
+bool Frame::shown() const { return widget_->isVisible(); }
+
+void Frame::start_iconified() { widget_->iconified_at_first = true; }
+
+void Frame::resize(int width, int height) { widget_->resize(width, height); }
+
+void Frame::place_beside_base(int right, int down) {
+    const QWidget* base_widget = base().widget();
+    const QPoint wanted = base_widget->pos() + QPoint(right, down);
+    const QScreen* screen = base_widget->screen();
+    const QRect room = screen->availableGeometry();
+    widget_->adjustSize();
+    // The window manager's frame round the new window is not known before it is shown: the main window's
+    // serves.
+    const QSize size = widget_->size() + base_widget->frameSize() - base_widget->size();
+    widget_->move(moved_inside(wanted.x(), size.width(), room.left(), room.right()),
+                  moved_inside(wanted.y(), size.height(), room.top(), room.bottom()));
+}
+
+void Frame::on_close(Notify notify) { widget_->close_notify = notify; }
+
+void Frame::add(std::string_view /*label*/, QWidget* area) {
+    const bool takes_height = (area->sizePolicy().verticalPolicy() & QSizePolicy::ExpandFlag) != 0;
+    widget_->areas->addWidget(area, takes_height ? 1 : 0);
+}
+
+QWidget* Frame::widget() const { return widget_; }
+
+BusyState::BusyState(Frame& frame) : frame_(frame) {
+    if (frame_.busy_++ == 0) {
+        frame_.widget()->setCursor(Qt::WaitCursor);
+    }
+}
+
+BusyState::~BusyState() {
+    if (--frame_.busy_ == 0) {
+        frame_.widget()->unsetCursor();
+    }
+}
+
+void CommandFrame::open() {
+    if (!shown()) {
+        place_beside_base(popup_right, popup_down);
+    }
+    show();
+}

@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "toolkit/notify.h"
+#include "toolkit/panel.h"
+
+#include <string>
+#include <string_view>
+
+class FrameWidget;
+
+/// A window: areas from top to bottom (panels, text panes, the terminal pane), and a line with a left and a
+/// right footer. The first frame made is the main window; the others belong to it and close with Escape.
+class Frame : public Container {
+  public:
+    explicit Frame(std::string_view label);
+    ~Frame() override;
+    Frame(const Frame&) = delete;
+    Frame& operator=(const Frame&) = delete;
+
+    /// The frame made first: the application's main window.
+    [[nodiscard]] static Frame& base();
+
+    /// The text of the title bar, and of the icon.
+    void set_label(std::string_view label);
+    [[nodiscard]] std::string label() const;
+
+    void set_left_footer(std::string_view text);
+    void set_right_footer(std::string_view text);
+    [[nodiscard]] std::string left_footer() const;
+    [[nodiscard]] std::string right_footer() const;
+
+    /// Shows the window and brings it to the front with the keyboard focus.
+    void show();
+    void hide();
+    [[nodiscard]] bool shown() const;
+    /// The next `show` shows the icon only.
+    void start_iconified();
+    /// Size in pixels, without the window manager's frame.
+    void resize(int width, int height);
+    /// Places the window at an offset in pixels from the main window's origin, moved back where that would be
+    /// outside the screen.
+    void place_beside_base(int right, int down);
+    /// Called when the user closes the window.
+    void on_close(Notify notify);
+
+    void add(std::string_view label, QWidget* area) override;
+    [[nodiscard]] QWidget* widget() const override;
+
+  private:
+    friend class BusyState;
+    FrameWidget* widget_;
+    int busy_ = 0;
+};
+
+/// While it lives, the frame is busy: a waiting pointer shows that input has to wait. Nests.
+class BusyState {
+  public:
+    explicit BusyState(Frame& frame);
+    ~BusyState();
+    BusyState(const BusyState&) = delete;
+    BusyState& operator=(const BusyState&) = delete;
+
+  private:
+    Frame& frame_;
+};
+
+/// A pop-up with one panel of controls.
+class CommandFrame : public Frame {
+  public:
+    explicit CommandFrame(std::string_view label) : Frame(label) {}
+    /// Shows the pop-up; if it is not shown yet, at its place right of the main window.
+    void open();
+
+    Panel panel{*this};
+};

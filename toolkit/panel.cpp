@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: MIT
+#include "toolkit/panel.h"
+
+#include "toolkit/text_conversion.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+
+namespace {
+
+constexpr int spacing = 6;
+constexpr int margin = 10;
+
+QLabel* make_label(std::string_view text, QWidget* control, QWidget* parent) {
+    auto* label = new QLabel(without_mnemonic(text), parent);
+    label->setTextFormat(Qt::PlainText);
+    label->setBuddy(control);
+    return label;
+}
+
+}  // namespace
+
+Panel::Panel(Container& parent) : widget_(new QWidget(parent.widget())), layout_(new QGridLayout(widget_)) {
+    layout_->setContentsMargins(margin, margin, margin, margin);
+    layout_->setHorizontalSpacing(spacing + 2);
+    layout_->setVerticalSpacing(spacing);
+    layout_->setColumnStretch(1, 1);
+    parent.add({}, widget_);
+}
+
+void Panel::add(std::string_view label, QWidget* control) {
+    const int row = layout_->rowCount();
+    if (label.empty()) {
+        layout_->addWidget(control, row, 0, 1, 2);
+        return;
+    }
+    layout_->addWidget(make_label(label, control, widget_), row, 0, Qt::AlignRight | Qt::AlignVCenter);
+    layout_->addWidget(control, row, 1);
+}
+
+Row::Row(Container& parent, std::string_view label)
+    : widget_(new QWidget(parent.widget())), layout_(new QHBoxLayout(widget_)) {
+    layout_->setContentsMargins(0, 0, 0, 0);
+    layout_->setSpacing(spacing);
+    parent.add(label, widget_);
+}
+
+void Row::add(std::string_view label, QWidget* control) {
+    if (!label.empty()) {
+        layout_->addWidget(make_label(label, control, widget_));
+    }
+    layout_->addWidget(control);
+}
+
+void Row::add_stretch() { layout_->addStretch(1); }

@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+#include <string>
+#include <string_view>
+
+/// UTF-8 bytes as a QString. A byte that is not valid UTF-8 becomes a lone low surrogate (U+DC80 to U+DCFF
+/// for the bytes 0x80 to 0xFF, as Python's "surrogateescape" does), so that `from_qstring` gives the same
+/// bytes back.
+QString to_qstring(std::string_view text);
+std::string from_qstring(const QString& text);
+
+/// For text that is only looked at: control characters show as their pictures (U+2400 on), so that a name
+/// holding a line feed cannot pass for two.
+QString visible_text(std::string_view text);
+
+/// A label for a widget that takes "&" for the mark of a mnemonic.
+QString without_mnemonic(std::string_view label);
