@@ -1,0 +1,116 @@
+// SPDX-License-Identifier: MIT
+#include "tests/house/rules.h"
+#include "tests/support/scratch_directory.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using Faults = std::vector<std::string>;
+
+const std::string licence = "// SPDX-License-Identifier: MIT\n";
+
+struct Case {
+    const char* name;
+    std::vector<std::pair<std::string, std::string>> files;  ///< path and what follows the licence line
+    Faults expected;
+};
+
+std::ostream& operator<<(std::ostream& out, const Case& row) { return out << row.name; }
+
+const std::vector<Case> cases{
+    {"WhatIsAllowed",
+     {{"terminal/screen.h", "#include \"terminal/cell.h\"  // as QString's\n"},
+      {"terminal/cell.h", "#pragma once\n"},
+      {"toolkit/pane.h", "#include \"terminal/screen.h\"\nclass QString;\n"},
+      {"ui/window.h", "#include \"toolkit/pane.h\"\n#include \"browsers/notify.h\"\n"},
+      {"browsers/notify.h", ""},
+      {"app/shell.cpp", "#include \"ui/window.h\"\nttysw_input(pane, text);\n"},
+      {"app/startup.h", ""},
+      {"app/main.cpp", "#include \"app/startup.h\"\n"},
+      {"tests/all.h", "#include \"app/startup.h\"\nQString text;\n"},
+      {"build/generated.h", "#include \"build/generated.h\"\n"}},
+     {}},
+    {"LongFile",
+     {{"app/short.cpp", std::string(499, '\n')}, {"app/long.cpp", std::string(500, '\n')}},
+     {"app/long.cpp:501: longer than 500 lines"}},
+    {"CycleOfHeaders",
+     {{"ui/a.h", "#include \"ui/b.h\"\n"},
+      {"ui/b.h", "#include \"c.h\"\n"},
+      {"ui/c.h", "#include <ui/a.h>\n"},
+      {"ui/a.cpp", "#include \"ui/a.h\"\n"}},
+     {"ui/a.h:1: include cycle ui/a.h -> ui/b.h -> ui/c.h -> ui/a.h"}},
+    {"TerminalIncludesNothingOfOurs",
+     {{"terminal/pty.cpp", "#include \"toolkit/pane.h\"\n"}, {"toolkit/pane.h", ""}},
+     {"terminal/pty.cpp:2: terminal/ may not include toolkit/pane.h"}},
+    {"ToolkitKnowsNoWindow",
+     {{"toolkit/pane.cpp", "\n#include \"../ui/window.h\"\n"}, {"ui/window.h", ""}},
+     {"toolkit/pane.cpp:3: toolkit/ may not include ui/window.h"}},
+    {"UiKnowsFeaturesByTheirNotifyHeaders",
+     {{"ui/window.h", "#include \"app/notify.h\"\n#include \"app/shell.h\"\n"},
+      {"app/notify.h", ""},
+      {"app/shell.h", ""}},
+     {"ui/window.h:3: ui/ may not include app/shell.h"}},
+    {"AppKnowsNoCommands",
+     {{"app/termpane.cpp", "#include \"commands/tar.h\"\n"}, {"commands/tar.h", ""}},
+     {"app/termpane.cpp:2: app/ may not include commands/tar.h"}},
+    {"BrowsersKnowNoCommands",
+     {{"browsers/list.cpp", "#include \"commands/tar.h\"\n"}, {"commands/tar.h", ""}},
+     {"browsers/list.cpp:2: browsers/ may not include commands/tar.h"}},
+    {"SettingsKnowNoBrowsers",
+     {{"settings/setup.cpp", "#include \"browsers/list.h\"\n"}, {"browsers/list.h", ""}},
+     {"settings/setup.cpp:2: settings/ may not include browsers/list.h"}},
+    {"CommandsKnowNoSettings",
+     {{"commands/tar.cpp", "#include \"settings/setup.h\"\n"}, {"settings/setup.h", ""}},
+     {"commands/tar.cpp:2: commands/ may not include settings/setup.h"}},
+    {"FolderWithoutRule",
+     {{"misc/any.cpp", ""}},
+     {"misc/any.cpp:1: the folder has no rule that says what it may include"}},
+    {"GroundFloorBelowTheRoof",
+     {{"app/status.cpp", "#include \"app/startup.h\"\n"},
+      {"app/messages.h", "#include \"app/termpane.h\"\n"},
+      {"app/startup.h", ""},
+      {"app/termpane.h", ""}},
+     {"app/messages.h:2: the ground floor may not include app/termpane.h",
+      "app/status.cpp:2: the ground floor may not include app/startup.h"}},
+    {"QtInTheTerminalEngine",
+     {{"terminal/pty.cpp", "#include <QTimer>\nint a;\nQByteArray bytes;\n"}},
+     {"terminal/pty.cpp:2: the terminal engine knows no Qt",
+      "terminal/pty.cpp:4: the terminal engine knows no Qt"}},
+    {"QStringInAHeader",
+     {{"app/text.h", "class QString;\n"}, {"app/text.cpp", "QString local;\n"}},
+     {"app/text.h:2: QString does not leave toolkit/"}},
+    {"TypingPastTheDoor",
+     {{"browsers/list.cpp", "ttysw_input (pane, text);\n"}, {"app/quit.cpp", "// ttysw_input(pane, text)\n"}},
+     {"browsers/list.cpp:2: text is typed into the shell through app/shell.h only"}},
+};
+
+class HouseRules : public testing::TestWithParam<Case> {};
+
+TEST_P(HouseRules, AreSeenBroken) {
+    const ScratchDirectory tree;
+    for (const auto& [path, text] : GetParam().files) {
+        tree.write(path, licence + text);
+    }
+    EXPECT_EQ(house_faults(tree.path()), GetParam().expected);
+}
+
+INSTANTIATE_TEST_SUITE_P(All, HouseRules, testing::ValuesIn(cases),
+                         [](const testing::TestParamInfo<Case>& row) { return std::string(row.param.name); });
+
+TEST(House, LicenceLineIsMissed) {
+    const ScratchDirectory tree;
+    tree.write("app/empty.h", "");
+    tree.write("app/late.h", "#pragma once\n" + licence);
+    EXPECT_EQ(house_faults(tree.path()), (Faults{"app/empty.h:1: the first line is not the licence's",
+                                                 "app/late.h:1: the first line is not the licence's"}));
+}
+
+TEST(House, ThisTreeKeepsItsRules) {
+    ASSERT_TRUE(std::filesystem::exists(ORVIK_SOURCE_DIR "/tests/house/rules.cpp"));
+    for (const std::string& fault : house_faults(ORVIK_SOURCE_DIR)) {
+        ADD_FAILURE() << fault;
+    }
+}
+
+}  // namespace

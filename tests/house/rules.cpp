@@ -1,0 +1,173 @@
+// SPDX-License-Identifier: MIT
+#include "tests/house/rules.h"
+
+#include "tests/house/source_tree.h"
+
+#include <algorithm>
+#include <array>
+#include <functional>
+#include <regex>
+#include <set>
+#include <string_view>
+
+namespace {
+
+constexpr std::size_t most_lines = 500;
+
+/// What a folder may include of ours. "*" stands for everything, "notify.h" for that header of any folder.
+struct FolderRule {
+    std::string_view folder;
+    std::vector<std::string_view> may_include;
+};
+
+const std::array<FolderRule, 10> folder_rules{{
+    {"terminal", {"terminal"}},
+    {"toolkit", {"toolkit", "terminal"}},
+    {"ui", {"ui", "toolkit", "notify.h"}},
+    {"app", {"app", "ui", "toolkit", "terminal", "browsers", "settings"}},
+    {"settings", {"settings", "ui", "toolkit", "app"}},
+    {"browsers", {"browsers", "ui", "toolkit", "app"}},
+    {"commands", {"commands", "ui", "toolkit", "app", "browsers"}},
+    {"tests", {"*"}},
+    {"bench", {"*"}},
+    {"fuzz", {"*"}},
+}};
+
+/// The ground floor of app/, which every feature stands on, and the roof, which nothing on it may know.
+const std::set<std::string_view> ground_floor{"process", "shell", "messages", "text",
+                                              "status",  "fonts", "paths"};
+const std::set<std::string_view> roof{"app/startup.h", "app/termpane.h"};
+
+/// A word that code may use only in some places.
+struct WordRule {
+    std::regex word;
+    std::function<bool(const SourceFile&)> forbidden_in;
+    std::string_view fault;
+};
+
+bool for_checking_only(const SourceFile& file) {
+    return file.folder() == "tests" || file.folder() == "bench" || file.folder() == "fuzz";
+}
+
+const std::vector<WordRule>& word_rules() {
+    static const std::vector<WordRule> rules{
+        {std::regex(R"(\bQ[A-Z][a-z]\w*)"),
+         [](const SourceFile& file) { return file.folder() == "terminal"; },
+         "the terminal engine knows no Qt"},
+        {std::regex(R"(\bQString\b)"),
+         [](const SourceFile& file) {
+             return file.is_header() && file.folder() != "toolkit" && !for_checking_only(file);
+         },
+         "QString does not leave toolkit/"},
+        {std::regex(R"(\bttysw_input\s*\()"),
+         [](const SourceFile& file) {
+             return file.folder() != "toolkit" && file.path != "app/shell.cpp" && !for_checking_only(file);
+         },
+         "text is typed into the shell through app/shell.h only"},
+    };
+    return rules;
+}
+
+using Faults = std::vector<std::string>;
+
+std::string at(const SourceFile& file, std::size_t line, std::string_view fault) {
+    return file.path + ":" + std::to_string(line) + ": " + std::string(fault);
+}
+
+void check_form(const SourceFile& file, Faults& faults) {
+    if (file.lines.size() > most_lines) {
+        faults.push_back(at(file, most_lines + 1, "longer than 500 lines"));
+    }
+    if (file.lines.empty() || file.lines.front() != "// SPDX-License-Identifier: MIT") {
+        faults.push_back(at(file, 1, "the first line is not the licence's"));
+    }
+}
+
+void check_words(const SourceFile& file, Faults& faults) {
+    for (const WordRule& rule : word_rules()) {
+        if (!rule.forbidden_in(file)) {
+            continue;
+        }
+        for (std::size_t i = 0; i < file.lines.size(); ++i) {
+            if (std::regex_search(without_comment(file.lines[i]), rule.word)) {
+                faults.push_back(at(file, i + 1, rule.fault));
+            }
+        }
+    }
+}
+
+bool may_include(const FolderRule& rule, const std::string& header) {
+    return std::ranges::any_of(rule.may_include, [&](std::string_view allowed) {
+        return allowed == "*" || folder_of(header) == allowed ||
+               (allowed == "notify.h" && header.ends_with("/notify.h"));
+    });
+}
+
+void check_includes(const SourceFile& file, Faults& faults) {
+    const auto* const rule = std::ranges::find(folder_rules, file.folder(), &FolderRule::folder);
+    if (rule == folder_rules.end()) {
+        faults.push_back(at(file, 1, "the folder has no rule that says what it may include"));
+        return;
+    }
+    const bool on_ground =
+        file.folder() == "app" && ground_floor.contains(std::filesystem::path(file.path).stem().native());
+    for (const Include& include : file.includes) {
+        if (!may_include(*rule, include.header)) {
+            faults.push_back(
+                at(file, include.line, std::string(rule->folder) + "/ may not include " + include.header));
+        } else if (on_ground && roof.contains(include.header)) {
+            faults.push_back(at(file, include.line, "the ground floor may not include " + include.header));
+        }
+    }
+}
+
+/// Walks the includes in depth and reports each way that leads back to a header it came through.
+class CycleSearch {
+  public:
+    CycleSearch(const SourceTree& tree, Faults& faults) : tree_(tree), faults_(faults) {}
+
+    void visit(const std::string& path) {
+        if (const auto seen = std::ranges::find(way_, path); seen != way_.end()) {
+            report(seen);
+            return;
+        }
+        if (!done_.insert(path).second) {
+            return;
+        }
+        way_.push_back(path);
+        for (const Include& include : tree_.at(path).includes) {
+            visit(include.header);
+        }
+        way_.pop_back();
+    }
+
+  private:
+    void report(std::vector<std::string>::const_iterator first) {
+        std::string text = "include cycle";
+        for (auto step = first; step != way_.end(); ++step) {
+            text += ' ' + *step + " ->";
+        }
+        faults_.push_back(at(tree_.at(*first), 1, text + ' ' + *first));
+    }
+
+    const SourceTree& tree_;
+    Faults& faults_;
+    std::vector<std::string> way_;
+    std::set<std::string> done_;
+};
+
+}  // namespace
+
+std::vector<std::string> house_faults(const std::filesystem::path& tree) {
+    const SourceTree sources = read_source_tree(tree);
+    Faults faults;
+    CycleSearch cycles(sources, faults);
+    for (const auto& [path, file] : sources) {
+        check_form(file, faults);
+        check_words(file, faults);
+        check_includes(file, faults);
+        cycles.visit(path);
+    }
+    std::ranges::sort(faults);
+    return faults;
+}
