@@ -72,6 +72,7 @@ struct Modifiers {
     bool alt = false;
     bool control = false;
     bool meta = false;
+    bool operator==(const Modifiers&) const = default;
 };
 
 /// The bytes a key sends, as xterm does (PC-style keys with modifiers as the parameter after "1;"). `text` is

@@ -97,8 +97,8 @@ void end_on_signals() {
 void apply_geometry(QWidget& window, const std::string& geometry) {
     int x = 0;
     int y = 0;
-    unsigned width = static_cast<unsigned>(window.width());
-    unsigned height = static_cast<unsigned>(window.height());
+    auto width = static_cast<unsigned>(window.width());
+    auto height = static_cast<unsigned>(window.height());
     const int given = XParseGeometry(geometry.c_str(), &x, &y, &width, &height);
     constexpr unsigned largest = 16384;
     window.resize(static_cast<int>(std::min(width, largest)), static_cast<int>(std::min(height, largest)));
@@ -144,10 +144,13 @@ std::string xv_init(std::vector<std::string>& arguments) {
     return {};
 }
 
-void xv_main_loop(Frame& main_window) {
+void apply_geometry_option(Frame& main_window) {
     if (!main_geometry.empty()) {
         apply_geometry(*main_window.widget(), main_geometry);
     }
+}
+
+void xv_main_loop(Frame& main_window) {
     main_window.on_close(notify_stop);
     main_window.show();
     QApplication::exec();
@@ -156,5 +159,10 @@ void xv_main_loop(Frame& main_window) {
 void notify_stop() { QApplication::quit(); }
 
 void xv_destroy() { application.reset(); }
+
+void set_pointer_limits(int multiclick_microseconds, int drag_pixels) {
+    QApplication::setDoubleClickInterval(multiclick_microseconds / 1000);
+    QApplication::setStartDragDistance(drag_pixels);
+}
 
 void set_application_icon(const std::string& path) { QApplication::setWindowIcon(QIcon(to_qstring(path))); }

@@ -12,6 +12,9 @@ class Frame;
 /// toolkit.
 [[nodiscard]] std::string xv_init(std::vector<std::string>& arguments);
 
+/// Gives the main window the size and place of the -geometry option, if there was one.
+void apply_geometry_option(Frame& main_window);
+
 /// Shows the main window and handles events until it is closed or the process is asked to end (SIGTERM,
 /// SIGINT, SIGHUP).
 void xv_main_loop(Frame& main_window);
@@ -19,6 +22,10 @@ void xv_main_loop(Frame& main_window);
 void notify_stop();
 /// Ends the toolkit; all windows are gone by then.
 void xv_destroy();
+
+/// Longest time between the clicks of a double click, in microseconds, and how far in pixels the pointer may
+/// move before a press becomes a drag.
+void set_pointer_limits(int multiclick_microseconds, int drag_pixels);
 
 /// Puts the application's icon, an SVG file, on its windows.
 void set_application_icon(const std::string& path);

@@ -21,8 +21,8 @@ class Menu {
     /// An empty title makes no title line.
     Menu(std::string_view title, std::span<const MenuItem> items);
     ~Menu();
-    Menu(Menu&&) noexcept;
-    Menu& operator=(Menu&&) noexcept;
+    Menu(Menu&& other) noexcept;
+    Menu& operator=(Menu&& other) noexcept;
 
     [[nodiscard]] QMenu* widget() const { return menu_.get(); }
 

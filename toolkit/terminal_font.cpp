@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: MIT
+#include "toolkit/terminal_font.h"
+
+#include <QFontMetricsF>
+#include <QTextLayout>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+constexpr qsizetype cache_limit = 8192;  ///< texts and characters kept for each face
+
+ShapedCell shape(const QString& text, const QFont& font) {
+    QTextLayout layout(text, font);
+    layout.beginLayout();
+    const QTextLine line = layout.createLine();
+    layout.endLayout();
+    ShapedCell cell{layout.glyphRuns(), line.naturalTextWidth()};
+    for (QGlyphRun& run : cell.runs) {
+        QList<QPointF> positions = run.positions();
+        for (QPointF& position : positions) {
+            position.ry() -= line.ascent();
+        }
+        run.setPositions(positions);
+    }
+    return cell;
+}
+
+quint32 find_glyph(const QRawFont& font, char32_t character) {
+    const QList<quint32> glyphs = font.glyphIndexesForString(QString::fromUcs4(&character, 1));
+    return glyphs.size() == 1 ? glyphs.front() : 0;
+}
+
+}  // namespace
+
+TerminalFont::TerminalFont(const QFont& font) {
+    for (std::size_t face = 0; face < faces; ++face) {
+        fonts_[face] = font;
+        fonts_[face].setKerning(false);
+        fonts_[face].setFixedPitch(true);
+        if ((face & 1) != 0) {
+            fonts_[face].setBold(true);
+        }
+        if ((face & 2) != 0) {
+            fonts_[face].setItalic(true);
+        }
+        raw_[face] = QRawFont::fromFont(fonts_[face]);
+        for (char32_t character = ' '; character < 127; ++character) {
+            ascii_[face][character] = find_glyph(raw_[face], character);
+        }
+    }
+    const QFontMetricsF metrics(fonts_[0]);
+    cell_width_ = std::max(1, static_cast<int>(std::lround(metrics.horizontalAdvance(u'M'))));
+    ascent_ = static_cast<int>(std::ceil(metrics.ascent()));
+    cell_height_ = std::max(1, ascent_ + static_cast<int>(std::ceil(metrics.descent())));
+    line_width_ = std::max(1, static_cast<int>(std::lround(cell_width_ / 8.0)));
+}
+
+quint32 TerminalFont::glyph(char32_t character, Face face) {
+    const auto index = static_cast<std::size_t>(face);
+    if (character < 128) {
+        return ascii_[index][character];
+    }
+    QHash<char32_t, quint32>& known = others_[index];
+    if (const auto found = known.constFind(character); found != known.constEnd()) {
+        return *found;
+    }
+    if (known.size() >= cache_limit) {
+        known.clear();
+    }
+    return *known.insert(character, find_glyph(raw_[index], character));
+}
+
+const ShapedCell& TerminalFont::shaped(const QString& text, Face face) {
+    const auto index = static_cast<std::size_t>(face);
+    QHash<QString, ShapedCell>& known = shaped_[index];
+    if (const auto found = known.constFind(text); found != known.constEnd()) {
+        return *found;
+    }
+    if (known.size() >= cache_limit) {
+        known.clear();
+    }
+    return *known.insert(text, shape(text, fonts_[index]));
+}

@@ -1,0 +1,167 @@
+// SPDX-License-Identifier: MIT
+#include "toolkit/terminal_pane.h"
+
+#include "terminal/text.h"
+#include "toolkit/terminal_accessible.h"
+#include "toolkit/terminal_colours.h"
+#include "toolkit/terminal_find_bar.h"
+#include "toolkit/terminal_session.h"
+#include "toolkit/terminal_view.h"
+#include "toolkit/text_conversion.h"
+
+#include <QAction>
+#include <QGridLayout>
+#include <QMenu>
+#include <QScrollBar>
+
+/// The widgets of a pane and its session: the view with a scroll bar, and the find bar under them.
+class PaneWidget final : public QWidget {
+  public:
+    explicit PaneWidget(QWidget* parent);
+
+    [[nodiscard]] TerminalSession& session() { return session_; }
+    [[nodiscard]] TerminalView& view() { return *view_; }
+    void set_bell_callback(std::function<void()> callback) { on_bell_ = std::move(callback); }
+    void set_end_callback(std::function<void()> callback) { on_end_ = std::move(callback); }
+
+  private:
+    void show_menu(QPoint place);
+
+    TerminalSession session_;
+    QScrollBar* scroll_bar_;
+    TerminalView* view_;
+    TerminalFindBar* find_bar_;
+    std::function<void()> on_bell_;
+    std::function<void()> on_end_;
+};
+
+namespace {
+
+/// The scroll bar stands in the terminal's dark frame.
+QPalette scroll_bar_palette() {
+    const terminal::Rgb background = terminal_colours::background;
+    const QColor dark(background.red, background.green, background.blue);
+    QPalette palette(dark.lighter(190), dark.lighter(140));
+    palette.setColor(QPalette::Base, dark);
+    return palette;
+}
+
+}  // namespace
+
+PaneWidget::PaneWidget(QWidget* parent)
+    : QWidget(parent),
+      scroll_bar_(new QScrollBar(Qt::Vertical, this)),
+      view_(new TerminalView(session_, *scroll_bar_, this)),
+      find_bar_(new TerminalFindBar(*view_, this)) {
+    scroll_bar_->setPalette(scroll_bar_palette());
+    scroll_bar_->setFocusPolicy(Qt::NoFocus);
+    scroll_bar_->setAccessibleName(QStringLiteral("Scrollback"));
+    auto* layout = new QGridLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(view_, 0, 0);
+    layout->addWidget(scroll_bar_, 0, 1);
+    layout->addWidget(find_bar_, 1, 0, 1, 2);
+    layout->setRowStretch(0, 1);
+    layout->setColumnStretch(0, 1);
+    setFocusProxy(view_);
+
+    view_->set_menu_callback([this](QPoint place) { show_menu(place); });
+    view_->set_find_callback([this] { find_bar_->open(); });
+    session_.set_events({.changed = [this] { view_->content_changed(); },
+                         .bell =
+                             [this] {
+                                 view_->ring();
+                                 if (on_bell_) {
+                                     on_bell_();
+                                 }
+                             },
+                         .ended =
+                             [this] {
+                                 if (on_end_) {
+                                     on_end_();
+                                 }
+                             }});
+}
+
+void PaneWidget::show_menu(QPoint place) {
+    auto* menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    // The view handles the keys itself; the menu only tells them.
+    menu->addAction(QStringLiteral("Copy\tCtrl+Shift+C"), view_, [this] { view_->copy(); })
+        ->setEnabled(!view_->selection().empty());
+    menu->addAction(QStringLiteral("Paste\tCtrl+Shift+V"), view_,
+                    [this] { view_->paste(TerminalView::PasteSource::clipboard); });
+    menu->addAction(QStringLiteral("Paste Selection\tShift+Insert"), view_,
+                    [this] { view_->paste(TerminalView::PasteSource::primary); });
+    menu->addSeparator();
+    menu->addAction(QStringLiteral("Find...\tCtrl+Shift+F"), find_bar_, [this] { find_bar_->open(); });
+    menu->addAction(QStringLiteral("Clear"), view_, [this] { session_.clear(); });
+    menu->popup(place);
+}
+
+TerminalPane::TerminalPane(Container& parent, std::string_view accessible_name)
+    : TerminalPane(parent.widget(), accessible_name) {
+    parent.add({}, pane_);
+}
+
+TerminalPane::TerminalPane(QWidget* parent, std::string_view accessible_name)
+    : pane_(new PaneWidget(parent)) {
+    install_terminal_accessibility();
+    pane_->view().setAccessibleName(to_qstring(accessible_name));
+}
+
+void TerminalPane::start(const terminal::Program& program) { pane_->session().start(program); }
+
+QWidget* TerminalPane::widget() const { return pane_; }
+
+void TerminalPane::set_font(const Font& font) {
+    if (font) {
+        pane_->view().set_terminal_font(font.qt());
+    }
+}
+
+void TerminalPane::set_focus() { pane_->view().setFocus(); }
+
+void TerminalPane::clear() { pane_->session().clear(); }
+
+void TerminalPane::ring_bell() { pane_->view().ring(); }
+
+std::string TerminalPane::line_to_cursor_text() const {
+    return terminal::line_to_cursor_text(pane_->session().terminal());
+}
+
+int TerminalPane::columns() const { return pane_->session().terminal().size().columns; }
+
+int TerminalPane::rows() const { return pane_->session().terminal().size().rows; }
+
+bool TerminalPane::shows_alternate_screen() const {
+    return pane_->session().terminal().modes().alternate_screen;
+}
+
+bool TerminalPane::reads_lines() const {
+    const terminal::Pty* const pty = pane_->session().pty();
+    return pty != nullptr && pty->reads_lines();
+}
+
+pid_t TerminalPane::child() const {
+    const terminal::Pty* const pty = pane_->session().pty();
+    return pty != nullptr ? pty->child() : -1;
+}
+
+void TerminalPane::on_bell(std::function<void()> callback) { pane_->set_bell_callback(std::move(callback)); }
+
+void TerminalPane::on_end(std::function<void()> callback) { pane_->set_end_callback(std::move(callback)); }
+
+void ttysw_input(TerminalPane& pane, std::string_view text) { pane.pane_->session().type(text); }
+
+void ttysw_output(TerminalPane& pane, std::string_view text) { pane.pane_->session().show(text); }
+
+void notify_interpose_event_func(TerminalPane& pane, std::function<bool(KeyEvent&)> function) {
+    pane.pane_->view().set_interposer(std::move(function));
+}
+
+void textsw_possibly_normalize(TerminalPane& pane) {
+    const terminal::Terminal& terminal = pane.pane_->session().terminal();
+    pane.pane_->view().show_row(terminal.cursor().position.row);
+}

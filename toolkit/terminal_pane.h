@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "terminal/input.h"
+#include "terminal/pty.h"
+#include "toolkit/font.h"
+#include "toolkit/panel.h"
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <string_view>
+
+#include <sys/types.h>
+
+class PaneWidget;
+class QWidget;
+
+/// A key pressed or released in a terminal pane.
+struct KeyEvent {
+    enum class Kind : std::uint8_t { press, release };
+    Kind kind = Kind::press;
+    bool repeated = false;                    ///< made by holding the key down
+    terminal::Key key = terminal::Key::none;  ///< none: a key that types its text
+    terminal::Modifiers modifiers;
+    std::string text;  ///< what the key types (UTF-8), before control and alt are applied: "c" for Ctrl+C
+
+    /// Whether this is that letter with control and nothing else.
+    [[nodiscard]] bool is_control(char letter) const {
+        return key == terminal::Key::none && text.size() == 1 && text.front() == letter &&
+               modifiers == terminal::Modifiers{.control = true};
+    }
+    bool operator==(const KeyEvent&) const = default;
+};
+
+/// A pane that shows a terminal with a program, the user's shell, in it. It looks after scrolling, selecting,
+/// pasting, searching and the accessible text itself, and lives as long as its parent widget.
+class TerminalPane {
+  public:
+    TerminalPane(Container& parent, std::string_view accessible_name);
+    TerminalPane(QWidget* parent, std::string_view accessible_name);
+
+    /// Starts the program. When it has ended, the pane says so, and Return starts it again.
+    void start(const terminal::Program& program);
+
+    [[nodiscard]] QWidget* widget() const;
+    void set_font(const Font& font);
+    void set_focus();
+    /// Empties the text, with the scrollback.
+    void clear();
+    void ring_bell();
+
+    /// Text from the start of the cursor's line (behind the last line feed) to the insertion point.
+    [[nodiscard]] std::string line_to_cursor_text() const;
+    [[nodiscard]] int columns() const;
+    [[nodiscard]] int rows() const;
+    /// A full-screen program is at work: keys belong to it.
+    [[nodiscard]] bool shows_alternate_screen() const;
+    /// The program reads lines: the kernel cuts one at 4,095 bytes.
+    [[nodiscard]] bool reads_lines() const;
+    /// The program's process, -1 when none runs.
+    [[nodiscard]] pid_t child() const;
+
+    /// Called when the bell rings, and when the program has ended and this was announced.
+    void on_bell(std::function<void()> callback);
+    void on_end(std::function<void()> callback);
+
+  private:
+    PaneWidget* pane_;  ///< owned by its parent
+    friend void ttysw_input(TerminalPane& pane, std::string_view text);
+    friend void ttysw_output(TerminalPane& pane, std::string_view text);
+    friend void notify_interpose_event_func(TerminalPane& pane, std::function<bool(KeyEvent&)> function);
+    friend void textsw_possibly_normalize(TerminalPane& pane);
+};
+
+/// Types text into the pane's program: in order, and nothing is lost, also before the program runs. Once it
+/// has ended and until Return starts a new one, text is dropped: what was meant for one shell must not run in
+/// the next.
+void ttysw_input(TerminalPane& pane, std::string_view text);
+/// Shows text in the pane only; the program does not see it.
+void ttysw_output(TerminalPane& pane, std::string_view text);
+/// The function sees key events before the pane does; it may change them, or consume them by returning true.
+void notify_interpose_event_func(TerminalPane& pane, std::function<bool(KeyEvent&)> function);
+/// Scrolls the insertion point into view.
+void textsw_possibly_normalize(TerminalPane& pane);

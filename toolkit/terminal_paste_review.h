@@ -1,0 +1,11 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <functional>
+#include <string>
+
+class QWidget;
+
+/// Shows the user what is about to be pasted, with its control characters made visible, and calls `accepted`
+/// if it is to be pasted. Returns at once.
+void review_paste(QWidget* parent, const std::string& text, std::function<void()> accepted);

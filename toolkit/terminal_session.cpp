@@ -1,0 +1,227 @@
+// SPDX-License-Identifier: MIT
+#include "toolkit/terminal_session.h"
+
+#include "toolkit/terminal_colours.h"
+
+#include <array>
+#include <csignal>
+#include <cstring>
+
+#include <fmt/format.h>
+#include <sys/wait.h>
+
+namespace {
+
+// One turn of the event loop takes at most this much output, so that keys and painting get their turn.
+constexpr std::size_t slice_bytes = 256 * 1024;
+constexpr int slice_milliseconds = 3;
+constexpr int update_limit_milliseconds = 150;
+constexpr int hung_up_interval_milliseconds = 100;
+// Output can ask for answers faster than a program that does not listen takes them.
+constexpr std::size_t unread_replies_limit = 1024 * 1024;
+
+// Takes back what a program that ended untidily may have left: margins and modes (DECSTR), mouse and
+// focus reports, brackets around pastes, an open update.
+constexpr std::string_view tidy_up =
+    "\x1b[?2026l\x1b[!p\x1b[?9;1000;1002;1003;1004;1005;1006;1015;2004l\x1b[?7h\x1b[0m";
+
+/// Names from the C library, without the "SIG" before them.
+std::string end_text(int status) {
+    constexpr std::string_view hint = "press Return to start a new one";
+    if (WIFSIGNALED(status)) {
+        const char* const name = sigabbrev_np(WTERMSIG(status));
+        const std::string signal =
+            name != nullptr ? fmt::format("SIG{}", name) : fmt::format("{}", WTERMSIG(status));
+        return fmt::format("[shell ended by signal {}; {}]", signal, hint);
+    }
+    return fmt::format("[shell ended with status {}; {}]", WEXITSTATUS(status), hint);
+}
+
+}  // namespace
+
+TerminalSession::TerminalSession() : terminal_(terminal::Options{}, *this) {
+    terminal_.set_standard_colours(terminal_colours::foreground, terminal_colours::background,
+                                   terminal_colours::cursor, terminal_colours::palette);
+    hung_up_.setInterval(hung_up_interval_milliseconds);
+    hung_up_.setSingleShot(true);
+    QObject::connect(&hung_up_, &QTimer::timeout, [this] { readable_->setEnabled(true); });
+}
+
+TerminalSession::~TerminalSession() = default;
+
+void TerminalSession::start(const terminal::Program& program) {
+    program_ = program;
+    restart();
+}
+
+void TerminalSession::restart() {
+    if (!program_) {
+        return;
+    }
+    drop_pty();
+    std::string error;
+    pty_ = terminal::Pty::start(*program_, terminal_.size(), error);
+    if (!pty_) {
+        state_ = State::ended;
+        announce(fmt::format("[shell can't be started: {}; press Return to try again]", error));
+        return;
+    }
+    state_ = State::running;
+    pty_->resize(terminal_.size(), pixel_width_, pixel_height_);
+    readable_ = std::make_unique<QSocketNotifier>(pty_->descriptor(), QSocketNotifier::Read);
+    QObject::connect(readable_.get(), &QSocketNotifier::activated, [this] { read_slice(); });
+    writable_ = std::make_unique<QSocketNotifier>(pty_->descriptor(), QSocketNotifier::Write);
+    writable_->setEnabled(false);
+    QObject::connect(writable_.get(), &QSocketNotifier::activated, [this] { write_pending(); });
+    if (pty_->exit_descriptor() >= 0) {
+        exited_ = std::make_unique<QSocketNotifier>(pty_->exit_descriptor(), QSocketNotifier::Read);
+        QObject::connect(exited_.get(), &QSocketNotifier::activated, [this] { check_for_end(); });
+    }
+    if (!waiting_.empty()) {
+        type(std::exchange(waiting_, {}));
+    }
+}
+
+void TerminalSession::type(std::string_view bytes) {
+    switch (state_) {
+        case State::idle:
+            waiting_.append(bytes);
+            break;
+        case State::ended:
+            break;
+        case State::running:
+            pty_->write(bytes);
+            writable_->setEnabled(pty_->pending() > 0);
+            break;
+    }
+}
+
+void TerminalSession::show(std::string_view text) {
+    terminal_.write_local(text);
+    if (events_.changed) {
+        events_.changed();
+    }
+}
+
+void TerminalSession::resize(terminal::Size size, int pixel_width, int pixel_height,
+                             std::span<terminal::Position> anchors) {
+    pixel_width_ = pixel_width;
+    pixel_height_ = pixel_height;
+    terminal_.resize(size, anchors);
+    if (pty_) {
+        pty_->resize(size, pixel_width, pixel_height);
+    }
+}
+
+void TerminalSession::clear() {
+    terminal_.clear_all();
+    if (events_.changed) {
+        events_.changed();
+    }
+}
+
+bool TerminalSession::update_is_open() const {
+    return terminal_.modes().synchronized_output && update_open_.isValid() &&
+           !update_open_.hasExpired(update_limit_milliseconds);
+}
+
+void TerminalSession::reply(std::string_view bytes) {
+    if (pty_ && pty_->pending() < unread_replies_limit) {
+        type(bytes);
+    }
+}
+
+void TerminalSession::bell() {
+    if (events_.bell) {
+        events_.bell();
+    }
+}
+
+void TerminalSession::title_changed(std::string_view /*title*/) {}  // the window's title is the tool's own
+
+void TerminalSession::note_update_state() {
+    if (!terminal_.modes().synchronized_output) {
+        update_open_.invalidate();
+    } else if (!update_open_.isValid()) {
+        update_open_.start();
+    }
+}
+
+void TerminalSession::read_slice() {
+    QElapsedTimer clock;
+    clock.start();
+    std::array<char, 16 * 1024> buffer;
+    std::size_t total = 0;
+    auto state = terminal::Pty::ReadState::data;
+    while (total < slice_bytes && !clock.hasExpired(slice_milliseconds)) {
+        const terminal::Pty::ReadResult result = pty_->read(buffer);
+        state = result.state;
+        if (state != terminal::Pty::ReadState::data) {
+            break;
+        }
+        terminal_.write({buffer.data(), result.size});
+        note_update_state();
+        total += result.size;
+    }
+    if (total > 0 && events_.changed) {
+        events_.changed();
+    }
+    if (state == terminal::Pty::ReadState::hung_up) {
+        // Nobody holds the terminal open. Most likely the program has ended; else somebody may open it again.
+        readable_->setEnabled(false);
+        hung_up_.start();
+        check_for_end();
+    }
+}
+
+void TerminalSession::write_pending() {
+    pty_->flush();
+    writable_->setEnabled(pty_->pending() > 0);
+}
+
+void TerminalSession::check_for_end() {
+    if (const std::optional<int> status = pty_ ? pty_->exit_status() : std::nullopt) {
+        finish(*status);
+    }
+}
+
+void TerminalSession::finish(int status) {
+    // The last words of the program are still in the pty; jobs it left behind must not keep us here.
+    std::array<char, 16 * 1024> buffer;
+    std::size_t total = 0;
+    auto result = pty_->read(buffer);
+    while (result.state == terminal::Pty::ReadState::data && total < slice_bytes) {
+        terminal_.write({buffer.data(), result.size});
+        total += result.size;
+        result = pty_->read(buffer);
+    }
+    state_ = State::ended;
+    drop_pty();
+    announce(end_text(status));
+}
+
+void TerminalSession::announce(const std::string& text) {
+    // Leaving the alternate screen when it is not shown would move the cursor.
+    if (terminal_.modes().alternate_screen) {
+        terminal_.write_local("\x1b[?1049l");
+    }
+    terminal_.write_local(tidy_up);
+    note_update_state();
+    const bool line_begun = terminal_.cursor().position.column > 0;
+    show(fmt::format("{}{}\n", line_begun ? "\n" : "", text));
+    if (events_.ended) {
+        events_.ended();
+    }
+}
+
+void TerminalSession::drop_pty() {
+    hung_up_.stop();
+    // May be called by one of the notifiers itself.
+    for (auto* notifier : {&readable_, &writable_, &exited_}) {
+        if (*notifier) {
+            (*notifier)->setEnabled(false);
+            notifier->release()->deleteLater();
+        }
+    }
+    pty_.reset();
+}

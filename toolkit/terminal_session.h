@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "terminal/client.h"
+#include "terminal/pty.h"
+#include "terminal/terminal.h"
+
+#include <QElapsedTimer>
+#include <QSocketNotifier>
+#include <QTimer>
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+/// A terminal with the program that runs in it: moves bytes between the two in bounded slices of the event
+/// loop's time, and starts the program anew when asked to. Knows no window.
+class TerminalSession final : private terminal::Client {
+  public:
+    /// What the session tells its owner; each is called from the event loop.
+    struct Events {
+        std::function<void()> changed;  ///< the terminal was written to
+        std::function<void()> bell;
+        std::function<void()> ended;  ///< the program has ended and this was announced
+    };
+
+    TerminalSession();
+    ~TerminalSession() override;
+    TerminalSession(const TerminalSession&) = delete;
+    TerminalSession& operator=(const TerminalSession&) = delete;
+    void set_events(Events events) { events_ = std::move(events); }
+
+    /// Starts the program, and after it has ended starts it anew. A failure is shown in the terminal.
+    void start(const terminal::Program& program);
+    void restart();
+
+    /// Queues bytes for the program, in order and without loss. What comes before the first start waits for
+    /// it. What comes after the program has ended is dropped: the announcement is still the last line to be
+    /// seen, and a later shell must not run what was meant for an earlier one.
+    void type(std::string_view bytes);
+    /// Shows a text that the program does not see.
+    void show(std::string_view text);
+
+    /// Columns and rows, and the size of their area in pixels. Anchors are moved with their text.
+    void resize(terminal::Size size, int pixel_width, int pixel_height,
+                std::span<terminal::Position> anchors);
+    void clear();
+
+    [[nodiscard]] const terminal::Terminal& terminal() const { return terminal_; }
+    [[nodiscard]] const terminal::Pty* pty() const { return pty_.get(); }
+    /// A program ran and has ended.
+    [[nodiscard]] bool has_ended() const { return state_ == State::ended; }
+    /// The program has begun an update of the screen that should be seen whole (mode 2026), and not taken
+    /// unduly long.
+    [[nodiscard]] bool update_is_open() const;
+
+  private:
+    enum class State : std::uint8_t { idle, running, ended };
+
+    void reply(std::string_view bytes) override;
+    void bell() override;
+    void title_changed(std::string_view title) override;
+
+    void read_slice();
+    void write_pending();
+    void check_for_end();
+    void finish(int status);
+    void announce(const std::string& text);
+    void note_update_state();
+    void drop_pty();
+
+    Events events_;
+    terminal::Terminal terminal_;
+    std::optional<terminal::Program> program_;
+    std::unique_ptr<terminal::Pty> pty_;
+    std::unique_ptr<QSocketNotifier> readable_;
+    std::unique_ptr<QSocketNotifier> writable_;
+    std::unique_ptr<QSocketNotifier> exited_;
+    QTimer hung_up_;  ///< looks after a program that has closed its terminal but not ended
+    State state_ = State::idle;
+    std::string waiting_;  ///< typed before the first start
+    int pixel_width_ = 0;
+    int pixel_height_ = 0;
+    QElapsedTimer update_open_;  ///< since when mode 2026 is on
+};

@@ -1,0 +1,342 @@
+// SPDX-License-Identifier: MIT
+#include "toolkit/terminal_view.h"
+
+#include "toolkit/terminal_reader.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QFontDatabase>
+#include <QPaintEvent>
+#include <QPainter>
+#include <QScrollBar>
+#include <QTimerEvent>
+
+#include <algorithm>
+#include <cmath>
+
+using terminal::Position;
+using terminal::RowId;
+
+namespace {
+
+constexpr int margin = 4;
+constexpr int frame_milliseconds = 16;
+constexpr int flash_milliseconds = 120;
+constexpr int bell_interval_milliseconds = 500;
+constexpr int text_blink_milliseconds = 600;
+constexpr terminal::Size smallest{2, 1};
+
+}  // namespace
+
+TerminalView::TerminalView(TerminalSession& session, QScrollBar& scroll_bar, QWidget* parent)
+    : QWidget(parent),
+      session_(session),
+      scroll_bar_(scroll_bar),
+      font_(std::make_unique<TerminalFont>(QFontDatabase::systemFont(QFontDatabase::FixedFont))),
+      reader_(std::make_unique<TerminalReader>(session.terminal())),
+      selection_(session.terminal()) {
+    setFocusPolicy(Qt::StrongFocus);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setAttribute(Qt::WA_InputMethodEnabled);
+    setMouseTracking(true);
+    setCursor(Qt::IBeamCursor);
+    frame_timer_.setSingleShot(true);
+    frame_timer_.setTimerType(Qt::PreciseTimer);
+    connect(&frame_timer_, &QTimer::timeout, this, [this] { frame(); });
+    connect(&scroll_bar_, &QScrollBar::valueChanged, this,
+            [this](int value) { scroll_to(terminal().first_row() + value); });
+    connect(QGuiApplication::clipboard(), &QClipboard::selectionChanged, this,
+            [this] { primary_selection_changed(); });
+}
+
+TerminalView::~TerminalView() = default;
+
+void TerminalView::set_terminal_font(const QFont& font) {
+    font_ = std::make_unique<TerminalFont>(font);
+    fit_to_size();
+    updateGeometry();
+    refresh_all();
+}
+
+QSize TerminalView::sizeHint() const {
+    const terminal::Size standard;
+    return {standard.columns * font_->cell_width() + 2 * margin,
+            standard.rows * font_->cell_height() + 2 * margin};
+}
+
+// Geometry.
+
+void TerminalView::resizeEvent(QResizeEvent* /*event*/) { fit_to_size(); }
+
+void TerminalView::fit_to_size() {
+    const terminal::Size size{std::max(smallest.columns, (width() - 2 * margin) / font_->cell_width()),
+                              std::max(smallest.rows, (height() - 2 * margin) / font_->cell_height())};
+    if (size != terminal().size()) {
+        std::vector<Position> anchors(selection_.anchors().begin(), selection_.anchors().end());
+        anchors.insert(anchors.end(), {match_.begin, match_.end, Position{top_row(), 0}});
+        session_.resize(size, size.columns * font_->cell_width(), size.rows * font_->cell_height(), anchors);
+        std::copy_n(anchors.begin(), selection_.anchors().size(), selection_.anchors().begin());
+        selection_.anchors_moved();
+        match_ = {anchors[anchors.size() - 3], anchors[anchors.size() - 2]};
+        view_top_ = anchors.back().row;
+    }
+    refresh_all();
+}
+
+QRect TerminalView::row_area(int line) const {
+    return {0, margin + line * font_->cell_height(), width(), font_->cell_height()};
+}
+
+QRect TerminalView::cell_area(Position position) const {
+    const auto line = static_cast<int>(position.row - top_row());
+    return {margin + position.column * font_->cell_width(), margin + line * font_->cell_height(),
+            font_->cell_width(), font_->cell_height()};
+}
+
+Position TerminalView::position_at(QPointF point) const {
+    const terminal::Size size = terminal().size();
+    const auto cell = [](qreal at, int cell_size, int count) {
+        return std::clamp(static_cast<int>(std::floor((at - margin) / cell_size)), 0, count - 1);
+    };
+    return {top_row() + cell(point.y(), font_->cell_height(), size.rows),
+            cell(point.x(), font_->cell_width(), size.columns)};
+}
+
+// Scrolling.
+
+RowId TerminalView::top_row() const {
+    return follows_output_ ? terminal().screen_top()
+                           : std::clamp(view_top_, terminal().first_row(), terminal().screen_top());
+}
+
+void TerminalView::scroll_to(RowId top) {
+    view_top_ = std::clamp(top, terminal().first_row(), terminal().screen_top());
+    follows_output_ = view_top_ == terminal().screen_top();
+    content_changed();
+}
+
+void TerminalView::scroll_to_bottom() { scroll_to(terminal().screen_top()); }
+
+void TerminalView::scroll_lines(int lines) { scroll_to(top_row() + lines); }
+
+void TerminalView::show_row(RowId row) {
+    const int rows = terminal().size().rows;
+    if (row < top_row() || row >= top_row() + rows) {
+        scroll_to(row - rows / 2);
+    }
+}
+
+void TerminalView::update_scroll_bar() {
+    const QSignalBlocker blocker(scroll_bar_);
+    const RowId first = terminal().first_row();
+    scroll_bar_.setPageStep(terminal().size().rows);
+    scroll_bar_.setRange(0, static_cast<int>(terminal().screen_top() - first));
+    scroll_bar_.setValue(static_cast<int>(top_row() - first));
+}
+
+// Frames.
+
+void TerminalView::content_changed() {
+    if (frame_timer_.isActive()) {
+        return;
+    }
+    const qint64 passed = since_frame_.isValid() ? since_frame_.elapsed() : frame_milliseconds;
+    frame_timer_.start(
+        static_cast<int>(std::clamp<qint64>(frame_milliseconds - passed, 0, frame_milliseconds)));
+}
+
+void TerminalView::frame() {
+    if (session_.update_is_open()) {
+        frame_timer_.start(frame_milliseconds);
+        return;
+    }
+    since_frame_.start();
+    refresh();
+    reader_->tell_changes(*this);
+}
+
+TerminalView::Picture TerminalView::picture_of(RowId row) const {
+    const int columns = terminal().size().columns;
+    const auto columns_of = [&](const terminal::Range& range) -> Columns {
+        if (range.empty() || row < range.begin.row || row > range.end.row) {
+            return {};
+        }
+        return {row == range.begin.row ? range.begin.column : 0,
+                row == range.end.row ? range.end.column : columns};
+    };
+    Picture picture{row, terminal().row(row).stamp, {}};
+    picture.marks.selection = columns_of(selection_.range());
+    picture.marks.match = columns_of(match_);
+    const terminal::Cursor cursor = terminal().cursor();
+    if (cursor.position.row == row) {
+        picture.marks.cursor = cursor_look();
+        picture.marks.cursor_column = cursor.position.column;
+        picture.marks.preedit = preedit_;
+    }
+    return picture;
+}
+
+CursorLook TerminalView::cursor_look() const {
+    const terminal::Cursor cursor = terminal().cursor();
+    if (!cursor.visible || session_.has_ended()) {
+        return CursorLook::none;
+    }
+    if (!hasFocus()) {
+        return CursorLook::hollow;
+    }
+    if (cursor_hidden_ && cursor.blinking) {
+        return CursorLook::none;
+    }
+    switch (cursor.shape) {
+        case terminal::CursorShape::block:
+            break;
+        case terminal::CursorShape::underline:
+            return CursorLook::underline;
+        case terminal::CursorShape::bar:
+            return CursorLook::bar;
+    }
+    return CursorLook::block;
+}
+
+void TerminalView::refresh_all() {
+    pictures_.clear();
+    update();
+    content_changed();
+}
+
+void TerminalView::repaint_all_if_colours_changed() {
+    constexpr int palette_size = 256;
+    std::vector<terminal::Rgb> colours{terminal().foreground(), terminal().background(),
+                                       terminal().cursor_colour()};
+    for (int index = 0; index < palette_size; ++index) {
+        colours.push_back(terminal().palette(index));
+    }
+    const ScreenLook look{terminal().modes().reverse_video, look_.blink_hidden};
+    if (colours != colours_ || look != look_) {
+        colours_ = std::move(colours);
+        look_ = look;
+        pictures_.clear();
+        update();
+    }
+}
+
+/// What is still to be seen after scrolling is moved, not painted anew.
+void TerminalView::shift_pictures(RowId top) {
+    const auto rows = static_cast<RowId>(pictures_.size());
+    const RowId shift = rows == 0 ? 0 : top - pictures_.front().row;
+    if (shift == 0 || std::abs(shift) >= rows) {
+        return;
+    }
+    const auto lines = static_cast<int>(shift);
+    const QRect area(0, margin, width(), static_cast<int>(rows) * font_->cell_height());
+    scroll(0, -lines * font_->cell_height(), area);
+    if (lines > 0) {
+        std::move(pictures_.begin() + lines, pictures_.end(), pictures_.begin());
+        std::fill(pictures_.end() - lines, pictures_.end(), Picture{-1, 0, {}});
+    } else {
+        std::move_backward(pictures_.begin(), pictures_.end() + lines, pictures_.end());
+        std::fill(pictures_.begin(), pictures_.begin() - lines, Picture{-1, 0, {}});
+    }
+}
+
+void TerminalView::refresh() {
+    if (selection_.drop_if_changed()) {
+        mouse_.selecting = false;
+    }
+    update_scroll_bar();
+    repaint_all_if_colours_changed();
+    const RowId top = top_row();
+    shift_pictures(top);
+    const auto rows = static_cast<std::size_t>(terminal().size().rows);
+    if (pictures_.size() != rows) {
+        pictures_.assign(rows, Picture{-1, 0, {}});
+    }
+    for (std::size_t line = 0; line < rows; ++line) {
+        Picture picture = picture_of(top + static_cast<RowId>(line));
+        if (picture != pictures_[line]) {
+            pictures_[line] = std::move(picture);
+            update(row_area(static_cast<int>(line)));
+        }
+    }
+    if (terminal().cursor().blinking != cursor_timer_.isActive()) {
+        restart_cursor_blinking();
+    }
+}
+
+void TerminalView::paintEvent(QPaintEvent* event) {
+    if (pictures_.empty()) {
+        refresh();
+    }
+    QPainter painter(this);
+    TerminalPainter rows(painter, terminal(), *font_, look_);
+    const terminal::Rgb standard = look_.reverse_video ? terminal().foreground() : terminal().background();
+    const QColor background(standard.red, standard.green, standard.blue);
+    const int columns = terminal().size().columns;
+    const QRect cells(margin, margin, columns * font_->cell_width(),
+                      static_cast<int>(pictures_.size()) * font_->cell_height());
+    for (const QRect& area : event->region() - cells) {
+        painter.fillRect(area, background);
+    }
+    for (std::size_t line = 0; line < pictures_.size(); ++line) {
+        const QRect area = row_area(static_cast<int>(line));
+        if (!event->region().intersects(area)) {
+            continue;
+        }
+        const Picture& picture = pictures_[line];
+        painter.setClipRect(area & cells);
+        rows.draw_row(terminal().row(picture.row), picture.marks, {margin, area.y()}, columns);
+    }
+    painter.setClipping(false);
+    if (flash_timer_.isActive()) {
+        const terminal::Rgb colour = terminal().cursor_colour();
+        painter.setPen(QPen(QColor(colour.red, colour.green, colour.blue), margin - 1));
+        painter.drawRect(rect().adjusted(1, 1, -2, -2));
+    }
+    if (rows.has_blinking_text() && !text_blink_timer_.isActive()) {
+        text_blink_timer_.start(text_blink_milliseconds, this);
+    }
+    has_blinking_text_ = has_blinking_text_ || rows.has_blinking_text();
+}
+
+// Timers.
+
+void TerminalView::restart_cursor_blinking() {
+    cursor_hidden_ = false;
+    cursor_timer_.stop();
+    const int period = QApplication::cursorFlashTime();
+    if (terminal().cursor().blinking && hasFocus() && period > 0) {
+        cursor_timer_.start(period / 2, this);
+    }
+}
+
+void TerminalView::ring() {
+    if (since_bell_.isValid() && !since_bell_.hasExpired(bell_interval_milliseconds)) {
+        return;
+    }
+    since_bell_.start();
+    QApplication::beep();
+    flash_timer_.start(flash_milliseconds, this);
+    update();
+}
+
+void TerminalView::timerEvent(QTimerEvent* event) {
+    const int id = event->timerId();
+    if (id == cursor_timer_.timerId()) {
+        cursor_hidden_ = !cursor_hidden_;
+        content_changed();
+    } else if (id == text_blink_timer_.timerId()) {
+        look_.blink_hidden = has_blinking_text_ && !look_.blink_hidden;
+        if (!has_blinking_text_) {
+            text_blink_timer_.stop();
+        }
+        has_blinking_text_ = false;
+        update();
+    } else if (id == flash_timer_.timerId()) {
+        flash_timer_.stop();
+        update();
+    } else if (id == drag_timer_.timerId()) {
+        scroll_while_dragging();
+    } else {
+        QWidget::timerEvent(event);
+    }
+}

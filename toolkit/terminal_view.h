@@ -1,0 +1,173 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "terminal/input.h"
+#include "toolkit/terminal_font.h"
+#include "toolkit/terminal_painter.h"
+#include "toolkit/terminal_pane.h"
+#include "toolkit/terminal_selection.h"
+#include "toolkit/terminal_session.h"
+
+#include <QBasicTimer>
+#include <QElapsedTimer>
+#include <QTimer>
+#include <QWidget>
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+class QScrollBar;
+class TerminalReader;
+
+/// Shows a session's terminal: paints what changed, at most once a display frame, and turns keys and the
+/// mouse into what the program reads. The scroll bar belongs to the pane around it.
+class TerminalView final : public QWidget {
+  public:
+    TerminalView(TerminalSession& session, QScrollBar& scroll_bar, QWidget* parent);
+    ~TerminalView() override;
+
+    void set_terminal_font(const QFont& font);
+    void set_interposer(std::function<bool(KeyEvent&)> function) { interposer_ = std::move(function); }
+    /// Called for the context menu, with a global position; and for the find key.
+    void set_menu_callback(std::function<void(QPoint)> callback) { show_menu_ = std::move(callback); }
+    void set_find_callback(std::function<void()> callback) { show_find_ = std::move(callback); }
+
+    /// The terminal has changed: it is painted with the next frame.
+    void content_changed();
+    /// A short flash and a sound; bells that follow too soon are passed over.
+    void ring();
+
+    [[nodiscard]] const terminal::Terminal& terminal() const { return session_.terminal(); }
+    [[nodiscard]] QSize sizeHint() const override;
+
+    // Scrolling.
+    void scroll_to_bottom();
+    void scroll_lines(int lines);
+    /// Brings a row into view, in the middle if it is not yet to be seen.
+    void show_row(terminal::RowId row);
+
+    // Selection and clipboard.
+    [[nodiscard]] const TerminalSelection& selection() const { return selection_; }
+    void select(terminal::Range range);
+    void clear_selection();
+    void copy();
+    enum class PasteSource : std::uint8_t { clipboard, primary };
+    void paste(PasteSource source);
+
+    /// The find bar's match, shown in a colour of its own; an empty range for none.
+    void set_match(terminal::Range match);
+    [[nodiscard]] terminal::Range match() const { return match_; }
+
+    // Geometry, in the widget's coordinates.
+    [[nodiscard]] terminal::Position position_at(QPointF point) const;
+    /// The area of a cell; also of one scrolled out of view.
+    [[nodiscard]] QRect cell_area(terminal::Position position) const;
+
+    /// The text as assistive tools read it.
+    [[nodiscard]] TerminalReader& reader() { return *reader_; }
+
+  protected:
+    bool event(QEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void timerEvent(QTimerEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
+    void inputMethodEvent(QInputMethodEvent* event) override;
+    [[nodiscard]] QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+
+  private:
+    /// What was painted for a row of the view.
+    struct Picture {
+        terminal::RowId row = 0;
+        std::uint64_t stamp = 0;
+        RowMarks marks;
+        bool operator==(const Picture&) const = default;
+    };
+    /// Where the mouse is in a drag or a report to the program.
+    struct MouseState {
+        bool selecting = false;
+        terminal::MouseButton held = terminal::MouseButton::none;  ///< reported as pressed
+        terminal::Position last_report{-1, -1};
+        QPointF drag_point;
+        QPointF double_click_point;
+        QElapsedTimer since_double_click;
+        int wheel_remainder = 0;
+    };
+
+    // Frames.
+    void frame();
+    void refresh();
+    void refresh_all();
+    void repaint_all_if_colours_changed();
+    void shift_pictures(terminal::RowId top);
+    [[nodiscard]] Picture picture_of(terminal::RowId row) const;
+    [[nodiscard]] CursorLook cursor_look() const;
+    [[nodiscard]] QRect row_area(int line) const;
+    void restart_cursor_blinking();
+
+    // Geometry and scrolling.
+    void fit_to_size();
+    [[nodiscard]] terminal::RowId top_row() const;
+    void update_scroll_bar();
+    void scroll_to(terminal::RowId top);
+
+    // Keys.
+    bool handle_own_key(const QKeyEvent& event);
+    bool handle_scroll_key(const QKeyEvent& event);
+    void type_key(const KeyEvent& event);
+
+    // Mouse.
+    [[nodiscard]] bool program_has_mouse(Qt::KeyboardModifiers modifiers) const;
+    bool report_mouse(terminal::MouseAction action, terminal::MouseButton button, QPointF point,
+                      Qt::KeyboardModifiers modifiers);
+    [[nodiscard]] terminal::Position boundary_at(QPointF point) const;
+    void begin_selection(QPointF point, SelectionUnit unit, Qt::KeyboardModifiers modifiers);
+    void extend_selection(QPointF point);
+    void scroll_while_dragging();
+    void publish_selection();
+    void primary_selection_changed();
+    void turn_wheel(int notches, QPointF point, Qt::KeyboardModifiers modifiers);
+
+    void type_paste(const std::string& text);
+
+    TerminalSession& session_;
+    QScrollBar& scroll_bar_;
+    std::unique_ptr<TerminalFont> font_;
+    std::unique_ptr<TerminalReader> reader_;
+    TerminalSelection selection_;
+    terminal::Range match_;
+    std::function<bool(KeyEvent&)> interposer_;
+    std::function<void(QPoint)> show_menu_;
+    std::function<void()> show_find_;
+
+    std::vector<Picture> pictures_;
+    ScreenLook look_;
+    std::vector<terminal::Rgb> colours_;  ///< painted with
+    bool has_blinking_text_ = false;
+    QTimer frame_timer_;
+    QElapsedTimer since_frame_;
+
+    bool follows_output_ = true;
+    terminal::RowId view_top_ = 0;  ///< when not following
+
+    QBasicTimer cursor_timer_;
+    bool cursor_hidden_ = false;  ///< by blinking
+    QBasicTimer text_blink_timer_;
+    QBasicTimer flash_timer_;
+    QElapsedTimer since_bell_;
+    QBasicTimer drag_timer_;
+    MouseState mouse_;
+    bool publishing_ = false;  ///< the change of the primary selection is our own doing
+    QString preedit_;
+};

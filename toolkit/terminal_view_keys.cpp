@@ -1,0 +1,172 @@
+// SPDX-License-Identifier: MIT
+#include "toolkit/terminal_keys.h"
+#include "toolkit/terminal_view.h"
+#include "toolkit/text_conversion.h"
+
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+
+// The terminal view's keyboard: what the pane does itself, and what goes to the program.
+
+namespace {
+
+constexpr Qt::KeyboardModifiers control_shift = Qt::ControlModifier | Qt::ShiftModifier;
+
+Qt::KeyboardModifiers modifiers_of(const QKeyEvent& event) {
+    return event.modifiers() & ~Qt::KeyboardModifiers(Qt::KeypadModifier);
+}
+
+}  // namespace
+
+/// Every key is the program's before it is a menu's or a button's short cut.
+bool TerminalView::event(QEvent* event) {
+    if (event->type() == QEvent::ShortcutOverride) {
+        event->accept();
+        return true;
+    }
+    return QWidget::event(event);
+}
+
+/// Tab is the program's; the focus leaves with Ctrl+Tab.
+bool TerminalView::focusNextPrevChild(bool /*next*/) { return false; }
+
+void TerminalView::keyPressEvent(QKeyEvent* event) {
+    KeyEvent key = to_key_event(*event);
+    if (interposer_ && interposer_(key)) {
+        return;
+    }
+    if (key == to_key_event(*event) && handle_own_key(*event)) {
+        return;
+    }
+    type_key(key);
+}
+
+void TerminalView::keyReleaseEvent(QKeyEvent* event) {
+    KeyEvent key = to_key_event(*event);
+    if (interposer_ && !key.repeated) {
+        interposer_(key);
+    }
+}
+
+bool TerminalView::handle_own_key(const QKeyEvent& event) {
+    const Qt::KeyboardModifiers modifiers = modifiers_of(event);
+    if (modifiers == control_shift) {
+        switch (event.key()) {
+            case Qt::Key_C:
+                copy();
+                return true;
+            case Qt::Key_V:
+                paste(PasteSource::clipboard);
+                return true;
+            case Qt::Key_F:
+                show_find_();
+                return true;
+            case Qt::Key_Tab:
+            case Qt::Key_Backtab:
+                QWidget::focusNextPrevChild(false);
+                return true;
+            default:
+                return false;
+        }
+    }
+    const bool menu_key =
+        event.key() == Qt::Key_Menu || (event.key() == Qt::Key_F10 && modifiers == Qt::ShiftModifier);
+    if (menu_key) {
+        show_menu_(mapToGlobal(cell_area(terminal().cursor().position).bottomLeft()));
+        return true;
+    }
+    if (event.key() == Qt::Key_Tab && modifiers == Qt::ControlModifier) {
+        QWidget::focusNextPrevChild(true);
+        return true;
+    }
+    if (event.key() == Qt::Key_Insert && modifiers == Qt::ShiftModifier) {
+        paste(PasteSource::primary);
+        return true;
+    }
+    return modifiers == Qt::ShiftModifier && handle_scroll_key(event);
+}
+
+/// Where there is nothing to scroll to, the keys are the program's.
+bool TerminalView::handle_scroll_key(const QKeyEvent& event) {
+    if (terminal().modes().alternate_screen) {
+        return false;
+    }
+    const int page = std::max(1, terminal().size().rows - 1);
+    switch (event.key()) {
+        case Qt::Key_PageUp:
+            scroll_lines(-page);
+            return true;
+        case Qt::Key_PageDown:
+            scroll_lines(page);
+            return true;
+        case Qt::Key_Home:
+            scroll_to(terminal().first_row());
+            return true;
+        case Qt::Key_End:
+            scroll_to_bottom();
+            return true;
+        default:
+            return false;
+    }
+}
+
+void TerminalView::type_key(const KeyEvent& event) {
+    if (session_.has_ended()) {
+        const bool restarts = event.key == terminal::Key::enter || event.key == terminal::Key::keypad_enter;
+        if (restarts) {
+            scroll_to_bottom();
+            session_.restart();
+        }
+        return;
+    }
+    const std::string bytes =
+        terminal::encode_key(event.key, event.modifiers, event.text, terminal().modes());
+    if (bytes.empty()) {
+        return;
+    }
+    session_.type(bytes);
+    scroll_to_bottom();
+    restart_cursor_blinking();
+}
+
+// Input methods and dead keys.
+
+void TerminalView::inputMethodEvent(QInputMethodEvent* event) {
+    preedit_ = event->preeditString();
+    if (!event->commitString().isEmpty()) {
+        KeyEvent key;
+        key.text = from_qstring(event->commitString());
+        if (!interposer_ || !interposer_(key)) {
+            type_key(key);
+        }
+    }
+    content_changed();
+    event->accept();
+}
+
+QVariant TerminalView::inputMethodQuery(Qt::InputMethodQuery query) const {
+    switch (query) {
+        case Qt::ImEnabled:
+            return true;
+        case Qt::ImCursorRectangle:
+            return cell_area(terminal().cursor().position);
+        case Qt::ImFont:
+            return font_->font();
+        case Qt::ImHints:
+            return static_cast<int>(Qt::ImhNoPredictiveText | Qt::ImhNoAutoUppercase | Qt::ImhMultiLine);
+        default:
+            return QWidget::inputMethodQuery(query);
+    }
+}
+
+void TerminalView::focusInEvent(QFocusEvent* /*event*/) {
+    session_.type(terminal::encode_focus(true, terminal().modes()));
+    restart_cursor_blinking();
+    content_changed();
+}
+
+void TerminalView::focusOutEvent(QFocusEvent* /*event*/) {
+    session_.type(terminal::encode_focus(false, terminal().modes()));
+    restart_cursor_blinking();
+    content_changed();
+}
