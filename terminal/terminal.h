@@ -46,6 +46,8 @@ struct Cursor {
     bool wrap_pending = false;  ///< the last column was written: the insertion point stands behind it
 };
 
+class Engine;
+
 /// A video terminal after DEC's VT220 to VT420 and xterm: bytes go in, a screen with its scrollback is there
 /// to be shown. Plain value logic: knows no pty, no window and no clock. Owned by whoever shows it.
 class Terminal {
@@ -82,6 +84,7 @@ class Terminal {
     /// Grows with every change of anything that can be seen: same stamp, same picture.
     [[nodiscard]] std::uint64_t stamp() const;
 
+    /// Ids of styles, links and clusters are good until the next `write`: those out of use are given anew.
     [[nodiscard]] const Style& style(StyleId id) const;
     /// The text of a cell as UTF-8, appended: a blank for a cell never written, nothing for a wide tail.
     void append_text(const Cell& cell, std::string& out) const;
@@ -98,7 +101,6 @@ class Terminal {
     void set_standard_colours(Rgb foreground, Rgb background, Rgb cursor, std::span<const Rgb> palette);
 
   private:
-    class Engine;
     std::unique_ptr<Engine> engine_;
 };
 

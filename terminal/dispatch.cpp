@@ -1,0 +1,195 @@
+// SPDX-License-Identifier: MIT
+#include "terminal/engine.h"
+
+#include <array>
+#include <cassert>
+
+// Which function a control, an escape sequence or a control sequence calls.
+
+namespace terminal {
+
+namespace {
+
+constexpr std::size_t final_count = 0x80 - 0x30;  // final bytes lie from 3/0 on, those of CSI from 4/0 on
+
+constexpr char bel = 0x07;
+constexpr char bs = 0x08;
+constexpr char ht = 0x09;
+constexpr char lf = 0x0A;
+constexpr char vt = 0x0B;
+constexpr char ff = 0x0C;
+constexpr char cr = 0x0D;
+constexpr char so = 0x0E;
+constexpr char si = 0x0F;
+
+}  // namespace
+
+struct Engine::Tables {
+    /// A sequence by what stands before its final byte, the prefix or the intermediate or both in order.
+    struct Entry {
+        std::string_view lead;
+        char final;
+        Handler handler;
+    };
+    using Row = std::array<Handler, final_count>;
+
+    static constexpr Entry escapes[] = {
+        {"", '6', &Engine::decbi}, {"", '7', &Engine::decsc},   {"", '8', &Engine::decrc},
+        {"", '9', &Engine::decfi}, {"", '=', &Engine::deckpam}, {"", '>', &Engine::deckpnm},
+        {"", 'D', &Engine::ind},   {"", 'E', &Engine::nel},     {"", 'H', &Engine::hts},
+        {"", 'M', &Engine::ri},    {"", 'N', &Engine::ss2},     {"", 'O', &Engine::ss3},
+        {"", 'Z', &Engine::decid}, {"", 'c', &Engine::ris},     {"", 'n', &Engine::ls2},
+        {"", 'o', &Engine::ls3},   {"#", '8', &Engine::decaln},
+    };
+
+    static constexpr Entry sequences[] = {
+        {"", '@', &Engine::ich},
+        {"", 'A', &Engine::cuu},
+        {"", 'B', &Engine::cud},
+        {"", 'C', &Engine::cuf},
+        {"", 'D', &Engine::cub},
+        {"", 'E', &Engine::cnl},
+        {"", 'F', &Engine::cpl},
+        {"", 'G', &Engine::cha},
+        {"", 'H', &Engine::cup},
+        {"", 'I', &Engine::cht},
+        {"", 'J', &Engine::ed},
+        {"", 'K', &Engine::el},
+        {"", 'L', &Engine::il},
+        {"", 'M', &Engine::dl},
+        {"", 'P', &Engine::dch},
+        {"", 'S', &Engine::su},
+        {"", 'T', &Engine::sd},
+        {"", 'X', &Engine::ech},
+        {"", 'Z', &Engine::cbt},
+        {"", '`', &Engine::cha},  // HPA
+        {"", 'a', &Engine::cuf},  // HPR
+        {"", 'b', &Engine::rep},
+        {"", 'c', &Engine::da1},
+        {"", 'd', &Engine::vpa},
+        {"", 'e', &Engine::cud},  // VPR
+        {"", 'f', &Engine::cup},  // HVP
+        {"", 'g', &Engine::tbc},
+        {"", 'h', &Engine::sm},
+        {"", 'j', &Engine::cub},  // HPB
+        {"", 'k', &Engine::cuu},  // VPB
+        {"", 'l', &Engine::rm},
+        {"", 'm', &Engine::sgr},
+        {"", 'n', &Engine::dsr},
+        {"", 'r', &Engine::decstbm},
+        {"", 's', &Engine::scosc_or_decslrm},
+        {"", 't', &Engine::xtwinops},
+        {"", 'u', &Engine::decrc},  // SCORC
+        {"", 'x', &Engine::decreqtparm},
+        {"?", 'J', &Engine::decsed},
+        {"?", 'K', &Engine::decsel},
+        {"?", 'h', &Engine::decset},
+        {"?", 'l', &Engine::decrst},
+        {"?", 'n', &Engine::decdsr},
+        {"?", 'r', &Engine::xtrestore},
+        {"?", 's', &Engine::xtsave},
+        {">", 'c', &Engine::da2},
+        {">", 'q', &Engine::xtversion},
+        {"=", 'c', &Engine::da3},
+        {"!", 'p', &Engine::decstr},
+        {" ", '@', &Engine::sl},
+        {" ", 'A', &Engine::sr},
+        {" ", 'q', &Engine::decscusr},
+        {"\"", 'q', &Engine::decsca},
+        {"$", 'p', &Engine::decrqm},
+        {"?$", 'p', &Engine::decrqm},
+        {"$", 'r', &Engine::deccara},
+        {"$", 't', &Engine::decrara},
+        {"$", 'v', &Engine::deccra},
+        {"$", 'x', &Engine::decfra},
+        {"$", 'z', &Engine::decera},
+        {"$", '{', &Engine::decsera},
+        {"*", 'x', &Engine::decsace},
+        {"'", '}', &Engine::decic},
+        {"'", '~', &Engine::decdc},
+    };
+
+    /// The plain control sequences once more, by their final byte: nearly all that come are of these.
+    static constexpr Row plain = [] {
+        Row row{};
+        for (const Entry& entry : sequences) {
+            if (entry.lead.empty()) {
+                row[static_cast<std::size_t>(entry.final) - 0x30] = entry.handler;
+            }
+        }
+        return row;
+    }();
+
+    static Handler find(std::span<const Entry> entries, Function function) {
+        std::array<char, 1 + max_intermediates> lead{};
+        std::size_t length = 0;
+        if (function.prefix != 0) {
+            lead[length++] = function.prefix;
+        }
+        for (std::size_t i = 0; i < function.intermediate_count; ++i) {
+            lead[length++] = function.intermediates[i];
+        }
+        for (const Entry& entry : entries) {
+            if (entry.final == function.final && entry.lead == std::string_view(lead.data(), length)) {
+                return entry.handler;
+            }
+        }
+        return nullptr;
+    }
+};
+
+void Engine::control(char c0) {
+    switch (c0) {
+        case bel:
+            client_.bell();
+            break;
+        case bs:
+            backspace();
+            break;
+        case ht:
+            tab(1);
+            break;
+        case lf:
+        case vt:
+        case ff:
+            line_feed();
+            if (modes_.newline) {
+                carriage_return();
+            }
+            break;
+        case cr:
+            carriage_return();
+            break;
+        case so:
+            sets_.invoked = 1;
+            break;
+        case si:
+            sets_.invoked = 0;
+            break;
+        default:
+            break;
+    }
+    assert(is_consistent());
+}
+
+void Engine::escape_sequence(const ControlFunction& function) {
+    const char lead = function.intermediates[0];
+    if (function.intermediate_count == 1 && lead >= '(' && lead <= '+') {
+        scs(function);
+    } else if (const Handler handler = Tables::find(Tables::escapes, function)) {
+        (this->*handler)(function);
+    }
+    assert(is_consistent());
+}
+
+void Engine::control_sequence(const ControlFunction& function) {
+    const bool is_plain = function.prefix == 0 && function.intermediate_count == 0;
+    const Handler handler = is_plain ? Tables::plain[static_cast<std::size_t>(function.final) - 0x30]
+                                     : Tables::find(Tables::sequences, function);
+    if (handler != nullptr) {
+        (this->*handler)(function);
+    }
+    assert(is_consistent());
+}
+
+}  // namespace terminal

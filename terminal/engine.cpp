@@ -1,0 +1,129 @@
+// SPDX-License-Identifier: MIT
+#include "terminal/engine.h"
+
+#include "terminal/utf8.h"
+
+#include <algorithm>
+#include <cassert>
+
+namespace terminal {
+
+namespace {
+
+/// Rows of the alternate screen are numbered from here on, so that a place on one screen is never taken for
+/// one on the other.
+constexpr RowId alternate_top = RowId{1} << 40;
+
+Size within_limits(Size size) {
+    return {std::clamp(size.columns, min_columns, max_columns), std::clamp(size.rows, min_rows, max_rows)};
+}
+
+}  // namespace
+
+Engine::Engine(const Options& options, Client& client)
+    : client_(client),
+      scrollback_(options.scrollback_rows, within_limits(options.size).columns),
+      primary_(within_limits(options.size), 0, clock_),
+      alternate_({min_columns, min_rows}, alternate_top, clock_),
+      margins_(primary_.all()),
+      styles_(max_styles, Style{}),
+      links_(max_links, Link{}),
+      clusters_(max_clusters, std::string{}),
+      parser_(*this),
+      local_parser_(*this) {
+    reset_tabs(0);
+}
+
+void Engine::write(std::string_view bytes) {
+    parser_.feed(bytes);
+    finish();
+}
+
+void Engine::write_local(std::string_view text) {
+    while (!text.empty()) {
+        const std::size_t end = text.find('\n');
+        local_parser_.feed(text.substr(0, end));
+        if (end == std::string_view::npos) {
+            break;
+        }
+        local_parser_.feed("\r\n");
+        text.remove_prefix(end + 1);
+    }
+    finish();
+}
+
+/// A cursor that only moved is a change of the picture too.
+void Engine::finish() {
+    if (cursor_ != shown_cursor_) {
+        shown_cursor_ = cursor_;
+        count_change();
+    }
+    assert(is_wholly_consistent());
+}
+
+void Engine::clear_all() {
+    scrollback_.clear();
+    screen_->fill(screen_->all(), Cell{});
+    move_to(0, 0);
+    count_change();
+    finish();
+}
+
+Cursor Engine::cursor() const {
+    return {{screen_->top() + cursor_.row, cursor_.column},
+            inner_.cursor_visible,
+            inner_.cursor_blinking,
+            cursor_shape_,
+            cursor_.wrap_pending};
+}
+
+RowId Engine::first_row() const { return is_alternate() ? screen_->top() : scrollback_.begin_row(); }
+
+Row Engine::row(RowId id) {
+    if (id >= screen_->top() && id < end_row()) {
+        const int row = static_cast<int>(id - screen_->top());
+        return {screen_->cells(row), screen_->wrapped(row), std::max(screen_->stamp(row), epoch_)};
+    }
+    if (is_alternate() || id < scrollback_.begin_row() || id >= scrollback_.end_row()) {
+        return {};
+    }
+    const Scrollback::RowState state = scrollback_.row(id, row_buffer_);
+    return {row_buffer_, state.wrapped, std::max(state.stamp, epoch_)};
+}
+
+void Engine::append_text(const Cell& cell, std::string& out) const {
+    if (cell.is_cluster()) {
+        out += clusters_[cell.character()];
+    } else if (cell.character() != 0) {
+        append_utf8(cell.character(), out);
+    } else if (!cell.is_wide_tail()) {
+        out += ' ';
+    }
+}
+
+void Engine::set_standard_colours(Rgb foreground, Rgb background, Rgb cursor, std::span<const Rgb> colours) {
+    palette_.set_standard(foreground, background, cursor, colours);
+    palette_changed();
+}
+
+/// What holds after each operation, as far as it costs nothing to speak of.
+bool Engine::is_consistent() const {
+    const Size limits = size();
+    return cursor_.row >= 0 && cursor_.row < limits.rows && cursor_.column >= 0 &&
+           cursor_.column < limits.columns && margins_.top >= 0 && margins_.top < margins_.bottom &&
+           margins_.bottom <= limits.rows && margins_.left >= 0 && margins_.left < margins_.right &&
+           margins_.right <= limits.columns && screen_->size() == limits &&
+           screen_->is_consistent(cursor_.row) && primary_.top() == scrollback_.end_row();
+}
+
+bool Engine::is_wholly_consistent() const {
+    for (int row = 0; row < size().rows; ++row) {
+        if (!screen_->is_consistent(row)) {
+            return false;
+        }
+    }
+    return is_consistent() && tabs_.size() == static_cast<std::size_t>(size().columns) &&
+           scrollback_.begin_row() <= scrollback_.end_row();
+}
+
+}  // namespace terminal

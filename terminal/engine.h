@@ -1,0 +1,316 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "terminal/character_set.h"
+#include "terminal/intern_table.h"
+#include "terminal/palette.h"
+#include "terminal/parser.h"
+#include "terminal/screen.h"
+#include "terminal/scrollback.h"
+#include "terminal/style.h"
+#include "terminal/terminal.h"
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <initializer_list>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace terminal {
+
+struct StyleHash {
+    std::size_t operator()(const Style& style) const;
+};
+
+/// An OSC 8 link: cells with the same one are highlighted together.
+struct Link {
+    std::string id;
+    std::string address;
+    bool operator==(const Link&) const = default;
+};
+struct LinkHash {
+    std::size_t operator()(const Link& link) const;
+};
+
+/// What the terminal does with what the parser reads: keeps cursor, modes and tables, and acts on the screen
+/// and the scrollback. The body of `Terminal`, which describes its public functions. Functions named with a
+/// mnemonic do what ECMA-48, a DEC manual or xterm's control sequences describe under it.
+class Engine final : public ParserHandler {
+  public:
+    Engine(const Options& options, Client& client);
+    Engine(const Engine&) = delete;
+    Engine& operator=(const Engine&) = delete;
+
+    void write(std::string_view bytes);
+    void write_local(std::string_view text);
+    void resize(Size size, std::span<Position> anchors);
+    void clear_all();
+    void reset();
+
+    [[nodiscard]] Size size() const { return primary_.size(); }
+    [[nodiscard]] const Modes& modes() const { return modes_; }
+    [[nodiscard]] Cursor cursor() const;
+    [[nodiscard]] RowId first_row() const;
+    [[nodiscard]] RowId screen_top() const { return screen_->top(); }
+    [[nodiscard]] RowId end_row() const { return screen_->top() + size().rows; }
+    [[nodiscard]] Row row(RowId id);
+    [[nodiscard]] std::uint64_t stamp() const { return clock_; }
+    [[nodiscard]] const Style& style(StyleId id) const { return styles_[id]; }
+    void append_text(const Cell& cell, std::string& out) const;
+    [[nodiscard]] std::string_view link(LinkId id) const { return links_[id].address; }
+    [[nodiscard]] const Palette& palette() const { return palette_; }
+    void set_standard_colours(Rgb foreground, Rgb background, Rgb cursor, std::span<const Rgb> colours);
+
+    /// Bytes held by the scrollback.
+    [[nodiscard]] std::size_t scrollback_memory() const { return scrollback_.memory(); }
+
+  private:
+    using Function = const ControlFunction&;
+    using Handler = void (Engine::*)(Function);
+    struct Tables;  // which handler does what: dispatch.cpp
+    struct Mode;    // what can be set and reset: engine_modes.cpp
+    class Flow;     // the primary screen's text while it is laid out anew: engine_resize.cpp
+
+    struct CursorState {
+        int row = 0;
+        int column = 0;
+        bool wrap_pending = false;
+        bool operator==(const CursorState&) const = default;
+    };
+    /// What DECSC saves and DECRC brings back.
+    struct SavedCursor {
+        CursorState place;
+        Style pen;
+        bool guarded = false;
+        bool origin = false;
+        CharacterSets sets;
+    };
+    /// Modes that nobody above needs to know.
+    struct InnerModes {
+        bool insert = false;           // IRM
+        bool origin = false;           // DECOM
+        bool autowrap = true;          // DECAWM
+        bool reverse_wrap = false;     // xterm 45
+        bool side_margins = false;     // DECLRMM
+        bool cursor_visible = true;    // DECTCEM
+        bool cursor_blinking = false;  // xterm 12, DECSCUSR
+    };
+    enum class Which : std::uint8_t { begin_to_cursor, cursor_to_end, all };
+
+    // ParserHandler
+    void print_ascii(std::string_view text) override;
+    void print(std::span<const char32_t> text) override;
+    void control(char c0) override;
+    void escape_sequence(const ControlFunction& function) override;
+    void control_sequence(const ControlFunction& function) override;
+    void device_control(const ControlFunction& function, std::string_view data) override;
+    void operating_system_command(std::string_view data) override;
+
+    // engine_text.cpp: characters
+    void print_plain(std::string_view text);
+    void put(char32_t character);
+    void put_visible(char32_t character, int width);
+    void combine(char32_t character);
+    void wrap();
+    [[nodiscard]] int right_limit() const;
+    const Cell& pen();
+    const Cell& blank();
+    void change_pen() { pen_changed_ = true; }
+    void refresh_pen();
+    StyleId intern_style(const Style& style);
+    void collect_unused();
+    void rep(Function function);
+
+    // engine_cursor.cpp: movement
+    void move_to(int row, int column);
+    void move_in_origin(int row, int column);
+    void move_vertically(int rows);
+    void move_horizontally(int columns);
+    void carriage_return();
+    void line_feed();
+    void reverse_line_feed();
+    void backspace();
+    void tab(int count);
+    void back_tab(int count);
+    void save_cursor();
+    void restore_cursor();
+    void reset_tabs(int from);
+    void cuu(Function function);
+    void cud(Function function);
+    void cuf(Function function);
+    void cub(Function function);
+    void cnl(Function function);
+    void cpl(Function function);
+    void cha(Function function);
+    void cup(Function function);
+    void cht(Function function);
+    void cbt(Function function);
+    void vpa(Function function);
+    void tbc(Function function);
+    void hts(Function function);
+    void ind(Function function);
+    void nel(Function function);
+    void ri(Function function);
+    void decbi(Function function);
+    void decfi(Function function);
+    void decsc(Function function);
+    void decrc(Function function);
+    void scosc_or_decslrm(Function function);
+
+    // engine_edit.cpp: erasing, inserting, deleting, scrolling
+    void erase_row(int row, int from, int to, bool selective);
+    void erase_in_row(Which which, bool selective);
+    void erase_on_screen(Which which, bool selective);
+    void scroll_text_up(int count);
+    void scroll_text_down(int count);
+    [[nodiscard]] Region below_cursor() const;
+    [[nodiscard]] Region rectangle(Function function, std::size_t first) const;
+    void ich(Function function);
+    void dch(Function function);
+    void ech(Function function);
+    void il(Function function);
+    void dl(Function function);
+    void ed(Function function);
+    void el(Function function);
+    void decsed(Function function);
+    void decsel(Function function);
+    void su(Function function);
+    void sd(Function function);
+    void sl(Function function);
+    void sr(Function function);
+    void decic(Function function);
+    void decdc(Function function);
+    void decaln(Function function);
+
+    // engine_rectangle.cpp: DEC's rectangular areas
+    void decera(Function function);
+    void decsera(Function function);
+    void decfra(Function function);
+    void deccra(Function function);
+    void deccara(Function function);
+    void decrara(Function function);
+    void decsace(Function function);
+    void change_styles(Function function, void (*change)(const Parameters&, std::size_t, Style&));
+
+    // engine_modes.cpp: modes, resets
+    void sm(Function function);
+    void rm(Function function);
+    void decset(Function function);
+    void decrst(Function function);
+    void xtsave(Function function);
+    void xtrestore(Function function);
+    void decrqm(Function function);
+    void decstbm(Function function);
+    void decstr(Function function);
+    void ris(Function function);
+    void sgr(Function function);
+    void decsca(Function function);
+    void decscusr(Function function);
+    void deckpam(Function function);
+    void deckpnm(Function function);
+    void scs(Function function);
+    void ls2(Function function);
+    void ls3(Function function);
+    void ss2(Function function);
+    void ss3(Function function);
+    void change_modes(Function function, bool on);
+    template <auto flag>
+    void set_mode(bool on);
+    template <auto flag>
+    [[nodiscard]] bool mode() const;
+    template <MouseTracking tracking>
+    void set_mouse_tracking(bool on);
+    template <MouseTracking tracking>
+    [[nodiscard]] bool has_mouse_tracking() const;
+    template <MouseEncoding encoding>
+    void set_mouse_encoding(bool on);
+    template <MouseEncoding encoding>
+    [[nodiscard]] bool has_mouse_encoding() const;
+    void set_origin(bool on);
+    void set_side_margins(bool on);
+    void set_reverse_video(bool on);
+    void set_alternate(bool on);
+    void set_alternate_cleared(bool on);
+    void set_alternate_saved(bool on);
+    void set_saved_cursor(bool on);
+    [[nodiscard]] bool is_alternate() const { return modes_.alternate_screen; }
+    void soft_reset();
+    void reset_margins();
+
+    // engine_report.cpp: replies
+    void reply(std::string_view bytes);
+    void da1(Function function);
+    void da2(Function function);
+    void da3(Function function);
+    void decid(Function function);
+    void dsr(Function function);
+    void decdsr(Function function);
+    void decreqtparm(Function function);
+    void xtversion(Function function);
+    void xtwinops(Function function);
+    void report_position(std::string_view introducer, std::string_view end);
+    void decrqss(std::string_view request);
+
+    // engine_osc.cpp: operating system commands
+    void set_title(std::string_view text);
+    void set_link(std::string_view data);
+    void osc_palette(std::string_view data);
+    void osc_role(int number, std::string_view data);
+    void osc_reset_palette(std::string_view data);
+    void reply_colour(std::string_view prefix, Rgb colour);
+    void palette_changed();
+
+    // engine_resize.cpp
+    void resize_primary(Size wanted, std::span<Position> anchors);
+    void flow_primary(Size wanted, int cursor_row);
+    void resize_alternate(Size wanted);
+    [[nodiscard]] CursorState cursor_at(Position place) const;
+    [[nodiscard]] std::vector<Mark> marks(std::span<const Position> positions) const;
+    [[nodiscard]] Position position(Mark mark) const;
+
+    void finish();
+    void count_change() { ++clock_; }
+    [[nodiscard]] bool is_consistent() const;
+    [[nodiscard]] bool is_wholly_consistent() const;
+    SavedCursor& saved() { return saved_[is_alternate() ? 1 : 0]; }
+
+    Client& client_;
+    std::uint64_t clock_ = 0;  // the stamp given last
+    std::uint64_t epoch_ = 0;  // stamp of the last change that concerned all rows
+    Scrollback scrollback_;
+    Screen primary_;
+    Screen alternate_;
+    Screen* screen_ = &primary_;
+
+    CursorState cursor_;
+    CursorState shown_cursor_;  // as of the last stamp
+    CursorShape cursor_shape_ = CursorShape::block;
+    std::array<SavedCursor, 2> saved_;
+    Region margins_;
+    std::vector<bool> tabs_;
+    Modes modes_;
+    InnerModes inner_;
+    std::vector<std::pair<int, bool>> saved_modes_;
+    CharacterSets sets_;
+    char32_t last_character_ = 0;    // for REP
+    bool whole_rectangles_ = false;  // DECSACE
+
+    Style style_;  // the pen's
+    bool guarded_ = false;
+    bool pen_changed_ = false;
+    Cell pen_;    // no character, the pen's attributes
+    Cell blank_;  // what erasing leaves: the pen's background
+
+    InternTable<Style, StyleHash> styles_;
+    InternTable<Link, LinkHash> links_;
+    InternTable<std::string> clusters_;
+    Palette palette_;
+    Parser parser_;
+    Parser local_parser_;
+    std::vector<Cell> row_buffer_;
+};
+
+}  // namespace terminal

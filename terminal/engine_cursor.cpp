@@ -1,0 +1,220 @@
+// SPDX-License-Identifier: MIT
+#include "terminal/engine.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+// Moving the cursor. Rows and columns count from 0 here, from 1 in the sequences.
+
+namespace terminal {
+
+namespace {
+
+constexpr int tab_width = 8;
+
+}  // namespace
+
+void Engine::move_to(int row, int column) {
+    cursor_ = {std::clamp(row, 0, size().rows - 1), std::clamp(column, 0, size().columns - 1), false};
+}
+
+/// As CUP counts: from the margins in origin mode.
+void Engine::move_in_origin(int row, int column) {
+    if (!inner_.origin) {
+        move_to(row, column);
+        return;
+    }
+    move_to(std::min(margins_.top + row, margins_.bottom - 1),
+            std::min(margins_.left + column, margins_.right - 1));
+}
+
+/// Up or down, as far as the margin the cursor is within, else the screen's edge.
+void Engine::move_vertically(int rows) {
+    const int top = cursor_.row >= margins_.top ? margins_.top : 0;
+    const int bottom = cursor_.row < margins_.bottom ? margins_.bottom : size().rows;
+    move_to(std::clamp(cursor_.row + rows, top, bottom - 1), cursor_.column);
+}
+
+void Engine::move_horizontally(int columns) {
+    const int left = cursor_.column >= margins_.left ? margins_.left : 0;
+    move_to(cursor_.row, std::clamp(cursor_.column + columns, left, right_limit() - 1));
+}
+
+void Engine::carriage_return() {
+    move_to(cursor_.row, cursor_.column >= margins_.left || inner_.origin ? margins_.left : 0);
+}
+
+void Engine::line_feed() {
+    const bool at_margin = cursor_.row == margins_.bottom - 1;
+    if (at_margin && cursor_.column >= margins_.left && cursor_.column < margins_.right) {
+        scroll_text_up(1);
+    } else if (!at_margin && cursor_.row < size().rows - 1) {
+        ++cursor_.row;
+    }
+    cursor_.wrap_pending = false;
+}
+
+void Engine::reverse_line_feed() {
+    const bool at_margin = cursor_.row == margins_.top;
+    if (at_margin && cursor_.column >= margins_.left && cursor_.column < margins_.right) {
+        scroll_text_down(1);
+    } else if (!at_margin && cursor_.row > 0) {
+        --cursor_.row;
+    }
+    cursor_.wrap_pending = false;
+}
+
+void Engine::backspace() {
+    const bool at_left = cursor_.column == margins_.left || cursor_.column == 0;
+    if (at_left && inner_.reverse_wrap && inner_.autowrap && cursor_.row > margins_.top &&
+        screen_->wrapped(cursor_.row - 1)) {
+        move_to(cursor_.row - 1, margins_.right - 1);
+        return;
+    }
+    move_horizontally(-1);
+}
+
+void Engine::tab(int count) {
+    const int last = right_limit() - 1;
+    for (; count > 0 && cursor_.column < last; --count) {
+        do {
+            ++cursor_.column;
+        } while (cursor_.column < last && !tabs_[static_cast<std::size_t>(cursor_.column)]);
+    }
+}
+
+void Engine::back_tab(int count) {
+    const int first = inner_.origin ? margins_.left : 0;
+    cursor_.wrap_pending = false;
+    for (; count > 0 && cursor_.column > first; --count) {
+        do {
+            --cursor_.column;
+        } while (cursor_.column > first && !tabs_[static_cast<std::size_t>(cursor_.column)]);
+    }
+}
+
+/// Puts the stops of a new terminal on the columns from `from` on.
+void Engine::reset_tabs(int from) {
+    tabs_.resize(static_cast<std::size_t>(size().columns));
+    for (int column = from; column < size().columns; ++column) {
+        tabs_[static_cast<std::size_t>(column)] = column % tab_width == 0;
+    }
+}
+
+void Engine::save_cursor() { saved() = {cursor_, style_, guarded_, inner_.origin, sets_}; }
+
+void Engine::restore_cursor() {
+    const SavedCursor& from = saved();
+    style_ = from.pen;
+    guarded_ = from.guarded;
+    change_pen();
+    sets_ = from.sets;
+    inner_.origin = from.origin;
+    move_to(from.place.row, from.place.column);
+    cursor_.wrap_pending = from.place.wrap_pending && from.place.column == cursor_.column;
+}
+
+void Engine::cuu(Function function) { move_vertically(-function.parameters.count(0)); }
+void Engine::cud(Function function) { move_vertically(function.parameters.count(0)); }
+void Engine::cuf(Function function) { move_horizontally(function.parameters.count(0)); }
+
+void Engine::cub(Function function) {
+    int count = function.parameters.count(0);
+    if (inner_.reverse_wrap) {
+        for (count = std::min(count, size().columns * size().rows); count > 0; --count) {
+            backspace();
+        }
+        return;
+    }
+    move_horizontally(-count);
+}
+
+void Engine::cnl(Function function) {
+    move_vertically(function.parameters.count(0));
+    carriage_return();
+}
+
+void Engine::cpl(Function function) {
+    move_vertically(-function.parameters.count(0));
+    carriage_return();
+}
+
+void Engine::cha(Function function) {
+    const int row = inner_.origin ? cursor_.row - margins_.top : cursor_.row;
+    move_in_origin(row, function.parameters.count(0) - 1);
+}
+
+void Engine::cup(Function function) {
+    move_in_origin(function.parameters.count(0) - 1, function.parameters.count(1) - 1);
+}
+
+void Engine::cht(Function function) { tab(function.parameters.count(0)); }
+void Engine::cbt(Function function) { back_tab(function.parameters.count(0)); }
+
+void Engine::vpa(Function function) {
+    const int column = inner_.origin ? cursor_.column - margins_.left : cursor_.column;
+    move_in_origin(function.parameters.count(0) - 1, column);
+}
+
+void Engine::tbc(Function function) {
+    const int which = function.parameters.get(0);
+    if (which == 0) {
+        tabs_[static_cast<std::size_t>(cursor_.column)] = false;
+    } else if (which == 3) {
+        std::fill(tabs_.begin(), tabs_.end(), false);
+    }
+}
+
+void Engine::hts(Function /*function*/) { tabs_[static_cast<std::size_t>(cursor_.column)] = true; }
+
+void Engine::ind(Function /*function*/) { line_feed(); }
+
+void Engine::nel(Function /*function*/) {
+    carriage_return();
+    line_feed();
+}
+
+void Engine::ri(Function /*function*/) { reverse_line_feed(); }
+
+void Engine::decbi(Function /*function*/) {
+    if (cursor_.column != margins_.left) {
+        move_to(cursor_.row, cursor_.column - 1);
+    } else if (margins_.contains(cursor_.row, cursor_.column)) {
+        for (int row = margins_.top; row < margins_.bottom; ++row) {
+            screen_->insert_cells(row, margins_.left, margins_.right, 1, blank());
+        }
+    }
+}
+
+void Engine::decfi(Function /*function*/) {
+    if (cursor_.column != margins_.right - 1) {
+        move_to(cursor_.row, cursor_.column + 1);
+    } else if (margins_.contains(cursor_.row, cursor_.column)) {
+        for (int row = margins_.top; row < margins_.bottom; ++row) {
+            screen_->delete_cells(row, margins_.left, margins_.right, 1, blank());
+        }
+    }
+}
+
+void Engine::decsc(Function /*function*/) { save_cursor(); }
+void Engine::decrc(Function /*function*/) { restore_cursor(); }
+
+/// `CSI s` sets the side margins where they may be set, else saves the cursor as the SCO console does.
+void Engine::scosc_or_decslrm(Function function) {
+    if (!inner_.side_margins) {
+        if (function.parameters.size() == 0) {
+            save_cursor();
+        }
+        return;
+    }
+    const int left = function.parameters.count(0);
+    const int right = std::min(std::max(function.parameters.get(1), 0), size().columns);
+    const int end = right == 0 ? size().columns : right;
+    if (left < end) {
+        margins_.left = left - 1;
+        margins_.right = end;
+        move_in_origin(0, 0);
+    }
+}
+
+}  // namespace terminal

@@ -1,0 +1,114 @@
+// SPDX-License-Identifier: MIT
+#include "terminal/engine.h"
+#include "terminal/sgr.h"
+
+#include <algorithm>
+#include <optional>
+#include <utility>
+
+// DEC's rectangular area operations (VT420 manual).
+
+namespace terminal {
+
+namespace {
+
+/// As SGR, but only what DECCARA changes; xterm lets it change colours too.
+void change_attributes(const Parameters& parameters, std::size_t first, Style& style) {
+    apply_sgr(parameters, style, first);
+}
+
+void reverse_attributes(const Parameters& parameters, std::size_t first, Style& style) {
+    const auto reverse = [&style](int code) {
+        const bool all = code == 0;
+        style.bold = style.bold != (all || code == 1);
+        style.blink = style.blink != (all || code == 5);
+        style.reverse = style.reverse != (all || code == 7);
+        style.invisible = style.invisible != (all || code == 8);
+        if (all || code == 4) {
+            style.underline = style.underline == Underline::none ? Underline::single : Underline::none;
+        }
+    };
+    if (first >= parameters.size()) {
+        reverse(0);
+    }
+    for (std::size_t i = first; i < parameters.size(); ++i) {
+        reverse(parameters.get(i));
+    }
+}
+
+}  // namespace
+
+/// Top, left, bottom and right from parameter `first` on, within the margins in origin mode. Empty when they
+/// make no rectangle.
+Region Engine::rectangle(Function function, std::size_t first) const {
+    const Region within = inner_.origin ? margins_ : screen_->all();
+    const auto place = [&function](std::size_t index, int begin, int end, int missing) {
+        const int value = function.parameters.get(index);
+        return value == 0 ? missing : std::min(begin + value, end);
+    };
+    const Region region{place(first, within.top, within.bottom, within.top + 1) - 1,
+                        place(first + 2, within.top, within.bottom, within.bottom),
+                        place(first + 1, within.left, within.right, within.left + 1) - 1,
+                        place(first + 3, within.left, within.right, within.right)};
+    return region.height() > 0 && region.width() > 0 ? region : Region{};
+}
+
+void Engine::decera(Function function) { screen_->fill(rectangle(function, 0), blank()); }
+
+void Engine::decsera(Function function) {
+    const Region region = rectangle(function, 0);
+    for (int row = region.top; row < region.bottom; ++row) {
+        screen_->erase_unguarded(row, region.left, region.right);
+    }
+}
+
+void Engine::decfra(Function function) {
+    const int character = function.parameters.get(0);
+    const bool printable =
+        (character >= 0x20 && character <= 0x7E) || (character >= 0xA0 && character <= 0xFF);
+    if (printable) {
+        Cell cell = pen();
+        cell.glyph |= static_cast<std::uint32_t>(character);
+        screen_->fill(rectangle(function, 1), cell);
+    }
+}
+
+void Engine::deccra(Function function) {
+    Region from = rectangle(function, 0);
+    const Region within = inner_.origin ? margins_ : screen_->all();
+    const int row = within.top + function.parameters.count(5) - 1;
+    const int column = within.left + function.parameters.count(6) - 1;
+    from.bottom = std::min(from.bottom, from.top + within.bottom - row);
+    from.right = std::min(from.right, from.left + within.right - column);
+    if (from.height() > 0 && from.width() > 0) {
+        screen_->copy(from, row, column);
+    }
+}
+
+void Engine::deccara(Function function) { change_styles(function, change_attributes); }
+void Engine::decrara(Function function) { change_styles(function, reverse_attributes); }
+
+/// Changes the styles of a rectangle, or of the text from its first corner to its last (DECSACE).
+void Engine::change_styles(Function function, void (*change)(const Parameters&, std::size_t, Style&)) {
+    const Region region = rectangle(function, 0);
+    std::optional<std::pair<StyleId, StyleId>> known;  // neighbours mostly have one style
+    for (int row = region.top; row < region.bottom; ++row) {
+        const bool from_edge = !whole_rectangles_ && row > region.top;
+        const bool to_edge = !whole_rectangles_ && row < region.bottom - 1;
+        const int end = to_edge ? size().columns : region.right;
+        for (int column = from_edge ? 0 : region.left; column < end; ++column) {
+            Cell cell = screen_->cell(row, column);
+            if (!known || known->first != cell.style) {
+                Style style = styles_[cell.style];
+                change(function.parameters, 4, style);
+                known = {cell.style, intern_style(style)};
+            }
+            cell.style = known->second;
+            screen_->replace(row, column, cell);
+        }
+    }
+}
+
+void Engine::decsace(Function function) { whole_rectangles_ = function.parameters.get(0) == 2; }
+
+}  // namespace terminal

@@ -1,0 +1,223 @@
+// SPDX-License-Identifier: MIT
+#include "terminal/engine.h"
+
+#include <algorithm>
+#include <cassert>
+#include <optional>
+
+// Another size: the lines of the primary screen flow into rows of the new width, and rows move between screen
+// and scrollback so that the cursor's line stays in sight.
+
+namespace terminal {
+
+/// The text of the screen as logical lines while it is laid out anew.
+class Engine::Flow {
+  public:
+    /// Takes the first `rows` rows of a screen.
+    Flow(const Screen& screen, int rows) {
+        for (int row = 0; row < rows; ++row) {
+            append(screen.cells(row), screen.wrapped(row));
+        }
+    }
+
+    [[nodiscard]] std::size_t row_count() const { return rows_.size(); }
+
+    /// Puts a piece of text from the scrollback in front. `joined`: its line goes on in the first one here.
+    void prepend(std::vector<Cell> cells, bool joined) {
+        if (lines_.empty() || !joined) {
+            lines_.insert(lines_.begin(), Line{std::move(cells), false});
+            return;
+        }
+        cells.insert(cells.end(), lines_.front().cells.begin(), lines_.front().cells.end());
+        lines_.front().cells = std::move(cells);
+    }
+
+    void lay_out(int columns) {
+        rows_.clear();
+        for (const Line& line : lines_) {
+            lay_out(line, static_cast<std::size_t>(columns));
+        }
+    }
+
+    struct Row {
+        std::span<const Cell> cells;
+        bool wrapped;
+    };
+    [[nodiscard]] const Row& row(std::size_t index) const { return rows_[index]; }
+
+  private:
+    struct Line {
+        std::vector<Cell> cells;
+        bool open;  // more of it is to come
+    };
+
+    void append(std::span<const Cell> cells, bool wrapped) {
+        while (!wrapped && !cells.empty() && cells.back() == Cell{}) {
+            cells = cells.first(cells.size() - 1);
+        }
+        if (lines_.empty() || !lines_.back().open) {
+            lines_.emplace_back();
+        }
+        Line& line = lines_.back();
+        line.cells.insert(line.cells.end(), cells.begin(), cells.end());
+        line.open = wrapped;
+    }
+
+    void lay_out(const Line& line, std::size_t columns) {
+        std::span<const Cell> rest = line.cells;
+        do {
+            std::size_t length = std::min(rest.size(), columns);
+            if (length < rest.size() && rest[length].is_wide_tail()) {
+                --length;
+            }
+            rows_.push_back(
+                {rest.first(length), length < rest.size() || (line.open && rest.size() == length)});
+            rest = rest.subspan(length);
+        } while (!rest.empty());
+    }
+
+    std::vector<Line> lines_;
+    std::vector<Row> rows_;
+};
+
+std::vector<Mark> Engine::marks(std::span<const Position> positions) const {
+    std::vector<Mark> result;
+    for (const Position& place : positions) {
+        if (place.row < scrollback_.end_row()) {
+            const bool exists = place.row >= scrollback_.begin_row();
+            result.push_back(exists ? scrollback_.mark(place) : Mark{});
+            continue;
+        }
+        const int row = static_cast<int>(std::min<RowId>(place.row - primary_.top(), size().rows - 1));
+        Mark mark{0, place.column};
+        if (primary_.wrapped(row)) {
+            mark.offset = std::min<std::int64_t>(mark.offset, std::ssize(primary_.cells(row)));
+        }
+        int line_begin = row;
+        while (line_begin > 0 && primary_.wrapped(line_begin - 1)) {
+            mark.offset += std::ssize(primary_.cells(--line_begin));
+        }
+        for (int before = 0; before < line_begin; ++before) {
+            mark.line += primary_.wrapped(before) ? 0 : 1;
+        }
+        result.push_back(scrollback_.from_beginning(mark));
+    }
+    return result;
+}
+
+/// Where the text of a mark is now. The column may be one past the last, at the end of a full row.
+Position Engine::position(Mark mark) const {
+    if (const auto place = scrollback_.find(mark)) {
+        return *place;
+    }
+    int row = 0;
+    for (; mark.line > 0 && row < size().rows - 1; ++row) {
+        mark.line -= primary_.wrapped(row) ? 0 : 1;
+    }
+    while (primary_.wrapped(row) && row < size().rows - 1 && mark.offset >= std::ssize(primary_.cells(row))) {
+        mark.offset -= std::ssize(primary_.cells(row++));
+    }
+    return {primary_.top() + row, static_cast<int>(std::min<std::int64_t>(mark.offset, size().columns))};
+}
+
+void Engine::resize(Size asked, std::span<Position> anchors) {
+    const Size wanted{std::clamp(asked.columns, min_columns, max_columns),
+                      std::clamp(asked.rows, min_rows, max_rows)};
+    const Size before = size();
+    if (wanted == before) {
+        return;
+    }
+    resize_primary(wanted, anchors);
+    if (is_alternate()) {
+        resize_alternate(wanted);
+    }
+    reset_tabs(before.columns);
+    reset_margins();
+    epoch_ = ++clock_;
+    finish();
+}
+
+/// Lays the primary screen out anew. Its cursor is the saved one while the alternate screen is shown.
+void Engine::resize_primary(Size wanted, std::span<Position> anchors) {
+    CursorState& cursor = is_alternate() ? saved_[0].place : cursor_;
+    CursorState& saved_cursor = saved_[0].place;
+    std::vector<Position> places(anchors.begin(), anchors.end());
+    for (const CursorState* const state : {&cursor, &saved_cursor}) {
+        places.push_back({primary_.top() + state->row, state->column + (state->wrap_pending ? 1 : 0)});
+    }
+    const std::vector<Mark> places_marks = marks(places);
+
+    flow_primary(wanted, cursor.row);
+
+    for (std::size_t i = 0; i < anchors.size(); ++i) {
+        if (anchors[i].row < alternate_.top() || !is_alternate()) {
+            anchors[i] = position(places_marks[i]);
+        }
+    }
+    cursor = cursor_at(position(places_marks[anchors.size()]));
+    saved_cursor = cursor_at(position(places_marks[anchors.size() + 1]));
+}
+
+/// Rows below the text and the cursor are given up first when the screen gets lower. When it gets higher,
+/// rows come back from the scrollback.
+void Engine::flow_primary(Size wanted, int cursor_row) {
+    const Size before = primary_.size();
+    int used = before.rows;
+    while (used > cursor_row + 1 && primary_.is_blank(used - 1)) {
+        --used;
+    }
+    Flow flow(primary_, used);
+    if (scrollback_.open()) {
+        if (auto piece = scrollback_.pop()) {
+            flow.prepend(std::move(*piece), true);
+        }
+    }
+    scrollback_.reflow(wanted.columns);
+    flow.lay_out(wanted.columns);
+
+    const int count = static_cast<int>(flow.row_count());
+    const int room = std::max(wanted.rows - count, 0);
+    const bool was_full = used == before.rows;
+    const int pulled = was_full ? room : std::clamp(wanted.rows - before.rows, 0, room);
+    const int wish = std::min(count + pulled, wanted.rows);
+    while (static_cast<int>(flow.row_count()) < wish) {
+        const bool joined = scrollback_.open();
+        auto piece = scrollback_.pop();
+        if (!piece) {
+            break;
+        }
+        flow.prepend(std::move(*piece), joined);
+        flow.lay_out(wanted.columns);
+    }
+    const std::size_t shown = std::min(flow.row_count(), static_cast<std::size_t>(wish));
+    const std::size_t first = flow.row_count() - shown;
+    for (std::size_t i = 0; i < first; ++i) {
+        scrollback_.push(flow.row(i).cells, flow.row(i).wrapped, ++clock_);
+    }
+    primary_.reset(wanted, scrollback_.end_row());
+    for (std::size_t i = 0; i < shown; ++i) {
+        primary_.set_row(static_cast<int>(i), flow.row(first + i).cells, flow.row(first + i).wrapped);
+    }
+}
+
+/// A cursor at a place of the primary screen. Behind a full row a wrap is pending.
+Engine::CursorState Engine::cursor_at(Position place) const {
+    const int row = static_cast<int>(std::max<RowId>(place.row - primary_.top(), 0));
+    const int columns = size().columns;
+    if (place.column < columns) {
+        return {row, place.column, false};
+    }
+    return {row, columns - 1, std::ssize(primary_.cells(row)) == columns};
+}
+
+/// A full-screen program paints its screen anew, so that cutting serves it best; the cursor's row stays.
+void Engine::resize_alternate(Size wanted) {
+    const int drop_top = std::max(cursor_.row - wanted.rows + 1, 0);
+    alternate_.resize_fixed(wanted, drop_top);
+    move_to(cursor_.row - drop_top, cursor_.column);
+    CursorState& saved_place = saved_[1].place;
+    saved_place = {std::min(saved_place.row, wanted.rows - 1),
+                   std::min(saved_place.column, wanted.columns - 1), false};
+}
+
+}  // namespace terminal

@@ -1,0 +1,247 @@
+// SPDX-License-Identifier: MIT
+#include "terminal/parser.h"
+
+#include <bit>
+#include <cstring>
+
+namespace terminal {
+
+namespace {
+
+constexpr std::uint64_t each_byte(std::uint8_t value) { return 0x0101010101010101ULL * value; }
+
+/// The length of the run of 2/0 to 7/14 that `bytes` begins with, eight bytes at a time.
+std::size_t printable_run(std::string_view bytes) {
+    const char* const begin = bytes.data();
+    const char* const end = begin + bytes.size();
+    const char* at = begin;
+    for (; end - at >= 8; at += 8) {
+        std::uint64_t word = 0;
+        std::memcpy(&word, at, sizeof word);
+        // The high bit of a byte gets set when it is 128 or more, below 2/0, or 7/15. What borrows and
+        // carries spoil lies behind the first hit, and the slow loop below looks again at each of the eight.
+        const std::uint64_t below = word - each_byte(0x20);
+        const std::uint64_t above = word + each_byte(0x01);
+        if (((word | below | above) & each_byte(0x80)) != 0) {
+            break;
+        }
+    }
+    while (at < end && *at >= 0x20 && *at < 0x7F) {
+        ++at;
+    }
+    return static_cast<std::size_t>(at - begin);
+}
+
+}  // namespace
+
+void Parser::feed(std::string_view bytes) {
+    while (!bytes.empty()) {
+        if (decoder_.idle()) {
+            if (state_ == ParserState::ground) {
+                read_text(bytes);
+            } else if (state_ >= ParserState::dcs_passthrough) {
+                read_string(bytes);
+            }
+            if (bytes.empty()) {
+                return;
+            }
+        }
+        step(static_cast<std::uint8_t>(bytes.front()));
+        bytes.remove_prefix(1);
+    }
+}
+
+/// Hands over plain text in runs, up to the first byte that needs the state machine.
+void Parser::read_text(std::string_view& bytes) {
+    std::array<char32_t, 256> characters;
+    while (!bytes.empty()) {
+        if (static_cast<std::uint8_t>(bytes.front()) < 0x80) {
+            const std::size_t length = printable_run(bytes);
+            if (length == 0) {
+                return;
+            }
+            handler_.print_ascii(bytes.substr(0, length));
+            bytes.remove_prefix(length);
+            continue;
+        }
+        const std::size_t count = decode_run(bytes, characters);
+        if (count == 0) {
+            return;
+        }
+        handler_.print({characters.data(), count});
+    }
+}
+
+/// Takes the ASCII text of a string at once.
+void Parser::read_string(std::string_view& bytes) {
+    const std::size_t length = printable_run(bytes);
+    if (state_ == ParserState::osc_string || state_ == ParserState::dcs_passthrough) {
+        put(bytes.substr(0, length));
+    }
+    bytes.remove_prefix(length);
+}
+
+void Parser::step(std::uint8_t byte) {
+    switch (decoder_.push(byte)) {
+        case Utf8Decoder::Step::incomplete:
+            return;
+        case Utf8Decoder::Step::character:
+            return accept(decoder_.character());
+        case Utf8Decoder::Step::invalid:
+            return accept(replacement_character);
+        case Utf8Decoder::Step::invalid_before:
+            accept(replacement_character);
+            return step(byte);
+    }
+}
+
+void Parser::accept(char32_t character) {
+    if (character >= 0x80 && character < 0xA0) {  // a C1 control is the same as ESC Fe
+        begin_escape();
+        state_ = ParserState::escape;
+        character -= 0x40;
+    }
+    const ByteClass kind = character < 0x80 ? byte_class(character) : ByteClass::other;
+    const Transition next = transition(state_, kind);
+    state_ = next.next;
+    apply(next.action, character);
+}
+
+void Parser::apply(ParserAction action, char32_t character) {
+    const char byte = static_cast<char>(character);
+    switch (action) {
+        case ParserAction::none:
+            break;
+        case ParserAction::print:
+            string_kind_ = StringKind::none;
+            handler_.print({&character, 1});
+            break;
+        case ParserAction::execute:
+            if (state_ == ParserState::ground) {
+                string_kind_ = StringKind::none;
+            }
+            handler_.control(byte);
+            break;
+        case ParserAction::begin_escape:
+            begin_escape();
+            break;
+        case ParserAction::begin_sequence:
+            string_kind_ = StringKind::none;
+            function_.clear();
+            break;
+        case ParserAction::collect:
+            collect(byte);
+            break;
+        case ParserAction::parameter:
+            take_parameter(character);
+            break;
+        case ParserAction::dispatch_escape:
+            dispatch_escape(byte);
+            break;
+        case ParserAction::dispatch_csi:
+            dispatch_csi(byte);
+            break;
+        case ParserAction::begin_osc:
+            begin_string(StringKind::osc);
+            break;
+        case ParserAction::begin_dcs:
+            function_.final = byte;
+            begin_string(StringKind::dcs);
+            break;
+        case ParserAction::put: {
+            std::string text;
+            append_utf8(character, text);
+            put(text);
+            break;
+        }
+        case ParserAction::end_osc:
+            end_string();
+            break;
+    }
+}
+
+/// A string that was being read stays until it is known whether this is the escape of its ST; so does the
+/// head of a DCS.
+void Parser::begin_escape() {
+    if (string_kind_ == StringKind::none) {
+        function_.clear();
+    }
+}
+
+void Parser::collect(char character) {
+    if (character >= 0x3C) {
+        function_.prefix = character;
+        return;
+    }
+    if (string_kind_ != StringKind::none) {
+        string_kind_ = StringKind::none;
+        function_.clear();
+    }
+    if (function_.intermediate_count < max_intermediates) {
+        function_.intermediates[function_.intermediate_count] = character;
+    }
+    if (function_.intermediate_count <= max_intermediates) {
+        ++function_.intermediate_count;
+    }
+}
+
+void Parser::take_parameter(char32_t character) {
+    if (character == ';') {
+        function_.parameters.semicolon();
+    } else if (character == ':') {
+        function_.parameters.colon();
+    } else {
+        function_.parameters.digit(static_cast<int>(character - '0'));
+    }
+}
+
+void Parser::put(std::string_view text) {
+    if (text.size() > max_string - string_.size()) {
+        string_overflow_ = true;
+    }
+    if (!string_overflow_) {
+        string_ += text;
+    }
+}
+
+void Parser::begin_string(StringKind kind) {
+    string_kind_ = kind;
+    string_.clear();
+    string_overflow_ = false;
+}
+
+void Parser::end_string() {
+    const StringKind kind = string_kind_;
+    string_kind_ = StringKind::none;
+    if (string_overflow_) {
+        return;
+    }
+    if (kind == StringKind::osc) {
+        handler_.operating_system_command(string_);
+    } else if (kind == StringKind::dcs && function_.intermediate_count <= max_intermediates) {
+        handler_.device_control(function_, string_);
+    }
+}
+
+void Parser::dispatch_escape(char final) {
+    if (string_kind_ != StringKind::none) {
+        if (final == '\\') {
+            return end_string();
+        }
+        string_kind_ = StringKind::none;
+        function_.clear();
+    }
+    function_.final = final;
+    if (function_.intermediate_count <= max_intermediates) {
+        handler_.escape_sequence(function_);
+    }
+}
+
+void Parser::dispatch_csi(char final) {
+    function_.final = final;
+    if (function_.intermediate_count <= max_intermediates) {
+        handler_.control_sequence(function_);
+    }
+}
+
+}  // namespace terminal

@@ -1,0 +1,280 @@
+// SPDX-License-Identifier: MIT
+#include "terminal/scrollback.h"
+
+#include "terminal/utf8.h"
+#include "terminal/width.h"
+
+#include <algorithm>
+#include <cassert>
+
+namespace terminal {
+
+namespace {
+
+// Clusters are kept in the text as values above the greatest code point.
+constexpr char32_t narrow_cluster_base = 0x110000;
+constexpr char32_t wide_cluster_base = 0x130000;
+
+char32_t encode(const Cell& cell) {
+    if (!cell.is_cluster()) {
+        return cell.character();
+    }
+    return cell.character() + (cell.is_wide() ? wide_cluster_base : narrow_cluster_base);
+}
+
+std::uint32_t decode(char32_t value) {
+    if (value >= wide_cluster_base) {
+        return (value - wide_cluster_base) | Cell::cluster | Cell::wide;
+    }
+    if (value >= narrow_cluster_base) {
+        return (value - narrow_cluster_base) | Cell::cluster;
+    }
+    return character_width(value) == 2 ? value | Cell::wide : value;
+}
+
+bool is_blank(const Cell& cell) { return cell == Cell{}; }
+
+}  // namespace
+
+void UsedIds::add(const Cell& cell) {
+    styles[cell.style] = true;
+    links[cell.link] = true;
+    if (cell.is_cluster()) {
+        clusters[cell.character()] = true;
+    }
+}
+
+Scrollback::Scrollback(std::size_t row_limit, int columns)
+    : row_limit_(std::min(row_limit, max_scrollback_rows)), columns_(columns) {}
+
+void Scrollback::close() {
+    open_ = false;
+    if (!empty()) {
+        last().continued = false;
+    }
+}
+
+void Scrollback::clear() {
+    text_.clear();
+    runs_.clear();
+    pieces_.clear();
+    first_ = last_found_ = 0;
+    begin_row_ = end_row_;
+    open_ = false;
+}
+
+/// Whether a row can be laid out as the next row of the last piece.
+bool Scrollback::joins_last(std::span<const Cell> cells) const {
+    if (!open_ || empty() || cells.empty()) {
+        return false;
+    }
+    const auto length = static_cast<int>(cells.size());
+    const bool full = tail_cells_ == columns_ || (tail_cells_ == columns_ - 1 && cells.front().is_wide());
+    return full && pieces_.at(pieces_.end() - 1)->cells + length <= max_piece_cells;
+}
+
+void Scrollback::push(std::span<const Cell> cells, bool wrapped, std::uint64_t stamp) {
+    while (!wrapped && !cells.empty() && is_blank(cells.back())) {
+        cells = cells.first(cells.size() - 1);
+    }
+    if (!joins_last(cells)) {
+        const Ordinal ordinal = pieces_.end();
+        pieces_.extend(ordinal, 1);
+        *pieces_.at(ordinal) = {text_.end(), runs_.end(), end_row_, stamp, 0, 0, 0, false, false};
+    }
+    Piece& piece = last();
+    append(piece, cells);
+    piece.continued = open_ = wrapped;
+    piece.stamp = stamp;
+    tail_cells_ = static_cast<int>(cells.size());
+    ++end_row_;
+}
+
+void Scrollback::trim() {
+    for (int i = 0; i < 2 && end_row_ - begin_row_ > static_cast<RowId>(row_limit_); ++i) {
+        ++begin_row_;
+        const bool is_last = first_ + 1 == pieces_.end();
+        const RowId piece_end = is_last ? end_row_ : pieces_.at(first_ + 1)->first_row;
+        if (piece_end > begin_row_) {
+            continue;
+        }
+        ++first_;
+        if (is_last) {
+            text_.drop_before(text_.end());
+            runs_.drop_before(runs_.end());
+        } else {
+            text_.drop_before(pieces_.at(first_)->text);
+            runs_.drop_before(pieces_.at(first_)->runs);
+        }
+        pieces_.drop_before(first_);
+    }
+}
+
+void Scrollback::append(Piece& piece, std::span<const Cell> cells) {
+    if (cells.empty()) {
+        return;
+    }
+    constexpr std::uint32_t ascii_mask = 0x7F;
+    std::uint32_t glyphs = 0;
+    std::uint32_t differences = 0;
+    const Cell first = cells.front();
+    for (const Cell& cell : cells) {
+        glyphs |= cell.glyph;
+        differences |= static_cast<std::uint32_t>((cell.style ^ first.style) | (cell.link ^ first.link));
+    }
+    if ((glyphs & ~ascii_mask) == 0 && differences == 0) {
+        append_uniform(piece, cells);
+    } else {
+        append_mixed(piece, cells);
+    }
+    piece.cells = static_cast<std::uint16_t>(piece.cells + cells.size());
+}
+
+/// ASCII in one style: most rows are that.
+void Scrollback::append_uniform(Piece& piece, std::span<const Cell> cells) {
+    append_run(piece, {static_cast<std::uint16_t>(cells.size() & 0x7FFF), 0, cells.front().style,
+                       cells.front().link});
+    piece.text = text_.extend(piece.text, cells.size());
+    char* to = text_.at(piece.text) + piece.bytes;
+    for (const Cell& cell : cells) {
+        *to++ = static_cast<char>(cell.glyph);
+    }
+    piece.bytes = static_cast<std::uint16_t>(piece.bytes + cells.size());
+}
+
+void Scrollback::append_mixed(Piece& piece, std::span<const Cell> cells) {
+    scratch_.clear();
+    const std::uint16_t cells_before = piece.cells;
+    for (std::size_t i = 0; i < cells.size();) {
+        const Cell& first = cells[i];
+        const auto same = [&first](const Cell& cell) {
+            return cell.style == first.style && cell.link == first.link &&
+                   ((cell.glyph ^ first.glyph) & Cell::guarded) == 0;
+        };
+        std::size_t end = i;
+        for (; end < cells.size() && same(cells[end]); ++end) {
+            const Cell& cell = cells[end];
+            if (!cell.is_wide_tail()) {
+                append_utf8(encode(cell), scratch_);
+            }
+            piece.wide = piece.wide || cell.is_wide();
+        }
+        const bool guarded = (first.glyph & Cell::guarded) != 0;
+        append_run(piece, {static_cast<std::uint16_t>((end - i) & 0x7FFF), guarded, first.style, first.link});
+        piece.cells = static_cast<std::uint16_t>(piece.cells + (end - i));  // append_run counts on it
+        i = end;
+    }
+    piece.cells = cells_before;
+    piece.text = text_.extend(piece.text, scratch_.size());
+    std::copy(scratch_.begin(), scratch_.end(), text_.at(piece.text) + piece.bytes);
+    piece.bytes = static_cast<std::uint16_t>(piece.bytes + scratch_.size());
+}
+
+void Scrollback::append_run(Piece& piece, Run run) {
+    if (piece.run_count == 0) {
+        if (run.style == 0 && run.link == 0 && run.guarded == 0) {
+            return;
+        }
+        if (piece.cells > 0) {
+            piece.runs = runs_.extend(piece.runs, 1);
+            *runs_.at(piece.runs) = {static_cast<std::uint16_t>(piece.cells & 0x7FFF), 0, 0, 0};
+            piece.run_count = 1;
+        }
+    } else {
+        Run& before = *runs_.at(piece.runs + piece.run_count - 1);
+        if (before.style == run.style && before.link == run.link && before.guarded == run.guarded) {
+            before.length = static_cast<std::uint16_t>((before.length + run.length) & 0x7FFF);
+            return;
+        }
+    }
+    piece.runs = runs_.extend(piece.runs, 1);
+    *runs_.at(piece.runs + piece.run_count) = run;
+    ++piece.run_count;
+}
+
+std::optional<std::vector<Cell>> Scrollback::pop() {
+    if (empty()) {
+        return std::nullopt;
+    }
+    const Piece& piece = last();
+    std::vector<Cell> cells;
+    unpack(piece, {0, 0}, {piece.cells, piece.bytes}, cells);
+    text_.truncate(piece.text);
+    runs_.truncate(piece.runs);
+    end_row_ = piece.first_row;
+    begin_row_ = std::min(begin_row_, end_row_);
+    pieces_.truncate(pieces_.end() - 1);
+    open_ = !empty() && last().continued;
+    tail_cells_ = empty() ? 0 : last_row_cells(last());
+    return cells;
+}
+
+Scrollback::RowState Scrollback::row(RowId id, std::vector<Cell>& cells) const {
+    assert(id >= begin_row_ && id < end_row_);
+    const Piece& piece = *pieces_.at(find_piece(id));
+    const Spot begin = find_row(piece, id - piece.first_row);
+    const Spot end = next_row(piece, begin);
+    unpack(piece, begin, end, cells);
+    return {end.cell < piece.cells || piece.continued, piece.stamp};
+}
+
+void Scrollback::unpack(const Piece& piece, Spot begin, Spot end, std::vector<Cell>& cells) const {
+    const auto length = static_cast<std::size_t>(end.cell - begin.cell);
+    cells.assign(length, Cell{});
+    if (length == 0) {
+        return;
+    }
+    const char* from = text(piece) + begin.byte;
+    if (piece.is_ascii()) {
+        for (Cell& cell : cells) {
+            cell.glyph = static_cast<std::uint8_t>(*from++);
+        }
+    } else {
+        for (std::size_t i = 0; i < length; ++i) {
+            cells[i].glyph = decode(take_utf8(from));
+            if (cells[i].is_wide()) {
+                cells[++i].glyph = Cell::wide_tail;
+            }
+        }
+    }
+    paint(piece, begin.cell, cells);
+}
+
+/// Puts the attributes on the cells unpacked from `begin` on.
+void Scrollback::paint(const Piece& piece, int begin, std::vector<Cell>& cells) const {
+    int run_begin = -begin;
+    for (const Run& run : runs(piece)) {
+        const int run_end = run_begin + run.length;
+        const int end = std::min(run_end, static_cast<int>(cells.size()));
+        const std::uint32_t guarded = run.guarded != 0 ? Cell::guarded : 0;
+        for (int i = std::max(run_begin, 0); i < end; ++i) {
+            Cell& cell = cells[static_cast<std::size_t>(i)];
+            cell.glyph |= guarded;
+            cell.style = run.style;
+            cell.link = run.link;
+        }
+        run_begin = run_end;
+    }
+}
+
+void Scrollback::add_used(UsedIds& used) const {
+    for (Ordinal ordinal = first_; ordinal < pieces_.end(); ++ordinal) {
+        const Piece& piece = *pieces_.at(ordinal);
+        for (const Run& run : runs(piece)) {
+            used.styles[run.style] = true;
+            used.links[run.link] = true;
+        }
+        if (piece.is_ascii()) {
+            continue;
+        }
+        const char* from = text(piece);
+        for (const char* const end = from + piece.bytes; from < end;) {
+            const Cell cell{decode(take_utf8(from)), 0, 0};
+            used.add(cell);
+        }
+    }
+}
+
+std::size_t Scrollback::memory() const { return text_.memory() + runs_.memory() + pieces_.memory(); }
+
+}  // namespace terminal

@@ -1,0 +1,169 @@
+// SPDX-License-Identifier: MIT
+#include "terminal/scrollback.h"
+#include "terminal/utf8.h"
+#include "terminal/width.h"
+
+#include <algorithm>
+
+// How the lines of the scrollback fall into rows of the width in force.
+
+namespace terminal {
+
+namespace {
+
+constexpr char32_t first_own_value = 0x110000;
+constexpr char32_t first_wide_cluster = 0x130000;
+
+int cells_of(char32_t value) {
+    if (value >= first_own_value) {
+        return value >= first_wide_cluster ? 2 : 1;
+    }
+    return character_width(value) == 2 ? 2 : 1;
+}
+
+}  // namespace
+
+const char* Scrollback::text(const Piece& piece) const {
+    return piece.bytes == 0 ? nullptr : text_.at(piece.text);
+}
+
+std::span<const Scrollback::Run> Scrollback::runs(const Piece& piece) const {
+    if (piece.run_count == 0) {
+        return {};
+    }
+    return {runs_.at(piece.runs), piece.run_count};
+}
+
+Scrollback::Ordinal Scrollback::find_piece(RowId id) const {
+    const auto holds = [this, id](Ordinal ordinal) {
+        return ordinal >= first_ && ordinal < pieces_.end() && pieces_.at(ordinal)->first_row <= id &&
+               (ordinal + 1 == pieces_.end() || pieces_.at(ordinal + 1)->first_row > id);
+    };
+    for (const Ordinal near : {last_found_, last_found_ + 1}) {
+        if (holds(near)) {
+            return last_found_ = near;
+        }
+    }
+    Ordinal low = first_;
+    Ordinal high = pieces_.end();
+    while (high - low > 1) {
+        const Ordinal middle = low + (high - low) / 2;
+        (pieces_.at(middle)->first_row <= id ? low : high) = middle;
+    }
+    return last_found_ = low;
+}
+
+/// Where the row ends that begins at `from`.
+Scrollback::Spot Scrollback::next_row(const Piece& piece, Spot from) const {
+    if (piece.is_ascii()) {
+        const int length = std::min<int>(columns_, piece.cells - from.cell);
+        return {from.cell + length, from.byte + length};
+    }
+    Spot spot = from;
+    const char* const begin = text(piece);
+    const char* at = begin + from.byte;
+    while (spot.cell < piece.cells) {
+        const int cells = cells_of(take_utf8(at));
+        if (spot.cell + cells - from.cell > columns_) {
+            break;
+        }
+        spot.cell += cells;
+        spot.byte = static_cast<int>(at - begin);
+    }
+    return spot;
+}
+
+Scrollback::Spot Scrollback::find_row(const Piece& piece, RowId index) const {
+    if (piece.is_ascii()) {
+        const int cell = static_cast<int>(index) * columns_;
+        return {cell, cell};
+    }
+    Spot spot{0, 0};
+    for (RowId i = 0; i < index; ++i) {
+        spot = next_row(piece, spot);
+    }
+    return spot;
+}
+
+RowId Scrollback::count_rows(const Piece& piece) const {
+    if (!piece.wide) {
+        return std::max(1, (piece.cells + columns_ - 1) / columns_);
+    }
+    RowId rows = 0;
+    for (Spot spot{0, 0}; spot.cell < piece.cells; ++rows) {
+        spot = next_row(piece, spot);
+    }
+    return std::max<RowId>(1, rows);
+}
+
+int Scrollback::last_row_cells(const Piece& piece) const {
+    return piece.cells - find_row(piece, count_rows(piece) - 1).cell;
+}
+
+void Scrollback::reflow(int columns) {
+    columns_ = columns;
+    if (empty()) {
+        begin_row_ = end_row_;
+        return;
+    }
+    RowId row = pieces_.at(first_)->first_row;
+    begin_row_ = row;
+    for (Ordinal ordinal = first_; ordinal < pieces_.end(); ++ordinal) {
+        Piece& piece = *pieces_.at(ordinal);
+        piece.first_row = row;
+        row += count_rows(piece);
+    }
+    end_row_ = row;
+    tail_cells_ = last_row_cells(last());
+}
+
+Mark Scrollback::mark(Position position) const {
+    const Ordinal found = find_piece(position.row);
+    const Piece& piece = *pieces_.at(found);
+    const Spot begin = find_row(piece, position.row - piece.first_row);
+    const Spot end = next_row(piece, begin);
+    const bool ends_line = end.cell == piece.cells && !piece.continued;
+    const int length = end.cell - begin.cell;
+    Mark mark{0, begin.cell + (ends_line ? position.column : std::min(position.column, length))};
+    std::int64_t line_cells = 0;
+    for (Ordinal ordinal = first_; ordinal < found; ++ordinal) {
+        const Piece& before = *pieces_.at(ordinal);
+        mark.line += before.continued ? 0 : 1;
+        line_cells = before.continued ? line_cells + before.cells : 0;
+    }
+    mark.offset += line_cells;
+    return mark;
+}
+
+Mark Scrollback::from_beginning(Mark mark) const {
+    std::int64_t lines = 0;
+    std::int64_t line_cells = 0;
+    for (Ordinal ordinal = first_; ordinal < pieces_.end(); ++ordinal) {
+        const Piece& piece = *pieces_.at(ordinal);
+        lines += piece.continued ? 0 : 1;
+        line_cells = piece.continued ? line_cells + piece.cells : 0;
+    }
+    return {mark.line + lines, mark.offset + (mark.line == 0 ? line_cells : 0)};
+}
+
+std::optional<Position> Scrollback::find(Mark& mark) const {
+    for (Ordinal ordinal = first_; ordinal < pieces_.end(); ++ordinal) {
+        const Piece& piece = *pieces_.at(ordinal);
+        const bool here = mark.line == 0 && (!piece.continued || mark.offset < piece.cells);
+        if (!here) {
+            mark.offset -= mark.line == 0 ? piece.cells : 0;
+            mark.line -= piece.continued ? 0 : 1;
+            continue;
+        }
+        Spot begin{0, 0};
+        RowId row = piece.first_row;
+        for (Spot end = next_row(piece, begin); end.cell <= mark.offset && end.cell < piece.cells; ++row) {
+            begin = end;
+            end = next_row(piece, begin);
+        }
+        return Position{row, static_cast<int>(std::min<std::int64_t>(mark.offset - begin.cell, columns_))};
+    }
+    return std::nullopt;
+}
+
+}  // namespace terminal
