@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: MIT
+#include "app/fonts.h"
+
+#include "toolkit/resources.h"
+#include "ui/main_window.h"
+#include "ui/message_board.h"
+
+#include <array>
+#include <string>
+#include <string_view>
+
+namespace {
+
+constexpr int extra_small_points = 8;
+constexpr int icon_points = 10;
+
+struct DrawingFont {
+    Font* font;
+    FontStyle style;
+    FontScale scale;
+    std::optional<int> points;
+};
+
+struct NamedScale {
+    std::string_view name;
+    FontScale scale;
+};
+
+/// Tried in this order; the last name found in the resource's value holds.
+constexpr std::array scales{
+    NamedScale{"small", FontScale::small},
+    NamedScale{"medium", FontScale::medium},
+    NamedScale{"large", FontScale::large},
+    NamedScale{"extralarge", FontScale::extra_large},
+};
+
+void set_pane_fonts(const Font& font) {
+    main_window().termpane.set_font(font);
+    message_board().text.set_font(font);
+}
+
+}  // namespace
+
+void find_fonts() {
+    icon_font = xv_find({.points = icon_points});
+    fixed_font = xv_find({.family = FontFamily::fixed_width});
+    bold_font = xv_find({.style = FontStyle::bold});
+    using enum FontScale;
+    using enum FontStyle;
+    const std::array drawing_fonts{
+        DrawingFont{&DS_font_extra_small, normal, small, extra_small_points},
+        DrawingFont{&DS_font_small, normal, small, {}},
+        DrawingFont{&DS_font_medium, normal, medium, {}},
+        DrawingFont{&DS_font_large, normal, large, {}},
+        DrawingFont{&DS_font_extra_small_bold, bold, small, extra_small_points},
+        DrawingFont{&DS_font_small_bold, bold, small, {}},
+        DrawingFont{&DS_font_medium_bold, bold, medium, {}},
+        DrawingFont{&DS_font_large_bold, bold, large, {}},
+    };
+    for (const DrawingFont& wanted : drawing_fonts) {
+        *wanted.font = xv_find({.style = wanted.style, .scale = wanted.scale, .points = wanted.points});
+    }
+}
+
+void apply_font_resources() {
+    const std::string size = defaults_get_string("orvik.fontSize", "Orvik.FontSize", "notset");
+    for (const NamedScale& named : scales) {
+        if (size.find(named.name) != std::string::npos) {
+            fixed_font = xv_find({.family = FontFamily::fixed_width, .scale = named.scale});
+        }
+    }
+    // The name decides the panes' font, whatever the size resource says.
+    default_font = xv_find(defaults_get_string("orvik.fontName", "Orvik.FontName", "fixed"));
+    set_pane_fonts(default_font);
+}

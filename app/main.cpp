@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: MIT
+#include "app/startup.h"
+#include "app/status.h"
+#include "toolkit/application.h"
+#include "ui/main_window.h"
+#include "ui/windows.h"
+
+int main(int argc, char** argv) {
+    start_up(std::vector<std::string>(argv, argv + argc));
+    xv_main_loop(main_window());
+    end_status_display();
+    destroy_windows();
+    xv_destroy();
+    return 0;
+}

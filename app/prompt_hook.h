@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+enum class ClearCaseUsage : std::uint8_t { off, on };
+enum class HookKind : std::uint8_t { csh, bash };
+
+/// A command that makes a shell write its state into the status file before every prompt. One line, without
+/// its line feed.
+struct PromptHook {
+    HookKind kind;
+    std::string text;
+    bool operator==(const PromptHook&) const = default;
+};
+
+/// The hooks for a shell, chosen by its name: one when it holds "csh", one when it holds "bash" or "ksh", in
+/// that order; none for other shells. None either for a status path that no quoting can bring into the shell.
+std::vector<PromptHook> prompt_hooks(std::string_view shell_name, ClearCaseUsage usage,
+                                     std::string_view status_path);

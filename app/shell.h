@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "terminal/pty.h"
+
+#include <string>
+#include <string_view>
+
+// The one door to the user's shell: whatever the tool types goes through here.
+
+/// The user's login shell as it is to be started: named with a leading "-", in the start-up directory, with
+/// the tool's own environment but for what tells of the terminal.
+terminal::Program login_shell();
+
+/// Types a text followed by a line feed. Returns an empty text, or why it was not typed: it holds a control
+/// character, or is longer than the shell's terminal takes in one line.
+[[nodiscard]] std::string type_line(std::string_view text);
+
+/// The primary selection as text; empty when there is none or it is longer than 999 characters.
+std::string get_seln();

@@ -1,0 +1,175 @@
+// SPDX-License-Identifier: MIT
+#include "app/startup.h"
+
+#include "app/fonts.h"
+#include "app/messages.h"
+#include "app/options.h"
+#include "app/process.h"
+#include "app/prompt_hook.h"
+#include "app/quoting.h"
+#include "app/shell.h"
+#include "app/status.h"
+#include "app/termpane.h"
+#include "app/title.h"
+#include "browsers/expand_path.h"
+#include "toolkit/application.h"
+#include "toolkit/resources.h"
+#include "ui/define_label.h"
+#include "ui/environment_setup.h"
+#include "ui/main_window.h"
+#include "ui/message_board.h"
+#include "ui/process_information.h"
+#include "ui/status_display.h"
+#include "ui/windows.h"
+
+#include <cstdio>
+#include <cstdlib>
+
+#include <unistd.h>
+
+namespace {
+
+constexpr int status_display_on = 0;
+constexpr int refresh_after_command = 500;
+constexpr int refresh_after_login = 999;
+
+void report(std::string_view message) { display_message(message_board().text, message); }
+
+/// Types a line; what cannot be typed is reported with the reason.
+void type_or_report(const std::string& line, int refresh) {
+    const std::string refusal = type_line(line);
+    if (refusal.empty()) {
+        SetupTimer(refresh);
+    } else {
+        report(refusal + ": " + line + "\n");
+    }
+}
+
+/// A path as its user wrote it: the file of that very name if there is one, else with "~" and variables
+/// expanded.
+std::string path_meant(const std::string& path) {
+    return access(path.c_str(), F_OK) == 0 ? path : expand_path(path);
+}
+
+/// Types a command on a file or directory; an empty path leaves the command without one.
+void type_with_path(const std::string& command, const std::string& path) {
+    const std::optional<std::string> word =
+        path.empty() ? path : shell_word(path_meant(path), shell_family(shell_name));
+    if (word) {
+        type_or_report(command + " " + *word, refresh_after_command);
+    } else {
+        report("Name can't be typed into the shell: " + path + "\n");
+    }
+}
+
+void connect_to_display(std::vector<std::string>& arguments) {
+    const std::string failure = xv_init(arguments);
+    if (!failure.empty()) {
+        std::fprintf(stderr, "%s\n", failure.c_str());
+        std::exit(1);
+    }
+}
+
+void make_windows() {
+    create_windows();
+    apply_geometry_option(main_window());
+    main_window().termpane.start(login_shell());
+}
+
+void set_initial_values() {
+    process_information().process_id.set_value(pid);
+    set_application_icon(orvik_home + "/icons/orvik.svg");
+    environment_setup().startup_directory.set_text(startup_dir);
+    status_display().enable.set_value(status_host | status_pid | status_user);
+}
+
+void read_resources() {
+    apply_font_resources();
+    constexpr int microseconds_per_tenth = 100'000;
+    multiclick_timeout = microseconds_per_tenth * defaults_get_integer("openwindows.multiclicktimeout",
+                                                                       "OpenWindows.MultiClickTimeout", 4);
+    drag_threshold = defaults_get_integer("openwindows.dragthreshold", "OpenWindows.DragThreshold", 5);
+    set_pointer_limits(multiclick_timeout, drag_threshold);
+}
+
+CommandLineOptions read_options(const std::vector<std::string>& arguments) {
+    CommandLineOptions options;
+    if (process_commandline(arguments, options) != 0) {
+        report("Error in command string\n");
+        return {};
+    }
+    return options;
+}
+
+void put_options_into_fields(const CommandLineOptions& options) {
+    if (options.work) {
+        environment_setup().working_directory_1.set_text(options.workdir);
+    }
+    if (options.ilabel) {
+        define_label().label.set_text(options.label);
+    }
+}
+
+void type_environment_file() {
+    const std::string file = environment_setup().environment_setup_file.text();
+    if (file.empty()) {
+        report("Environment setup file not found\n");
+    } else {
+        type_with_path("source", file);
+    }
+}
+
+/// The hook of each kind that fits the shell is shown, and typed where its status is wanted.
+void type_prompt_hooks() {
+    const std::string status_file = status_display().status_file.text();
+    for (const PromptHook& hook : prompt_hooks(shell_name, ClearCaseUsage::off, status_file)) {
+        environment_setup().precmd.set_text(hook.text);
+        if (status_display().display.value() != status_display_on) {
+            continue;
+        }
+        type_or_report(hook.text, refresh_after_login);
+        if (hook.kind == HookKind::bash) {
+            ttysw_output(
+                main_window().termpane,
+                "\n\n!!!!!!!!!!!!!! Type ctrl-C to enable terminal screen!!!!!!!!!!!!!!!!!!!!!!!!\n\n");
+        }
+    }
+}
+
+void log_in_to(const std::string& host) {
+    if (host.empty() || is_host_name(host)) {
+        type_or_report("rlogin " + host, refresh_after_login);
+    } else {
+        report("Not a host name: " + host + "\n");
+    }
+}
+
+}  // namespace
+
+void start_up(std::vector<std::string> arguments) {
+    read_process_values();
+    connect_to_display(arguments);
+    make_windows();
+    find_fonts();
+    interpose_terminal_keys();
+    show_title();
+    set_initial_values();
+    status_display().status_file.set_text(create_status_file(home_dir));
+    read_resources();
+    const CommandLineOptions options = read_options(arguments);
+    put_options_into_fields(options);
+    type_environment_file();
+    if (options.work && !options.host) {
+        type_with_path("cd", options.workdir);
+    }
+    show_title();
+    type_prompt_hooks();
+    if (options.host) {
+        log_in_to(options.hostname);
+    }
+    if (options.closed) {
+        main_window().start_iconified();
+    }
+    main_window().termpane.set_focus();
+    report("Orvik Command Tool starting\n");
+}

@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: MIT
+#include "app/status.h"
+
+#include "app/notify.h"
+#include "app/text.h"
+#include "toolkit/timer.h"
+#include "ui/default_settings.h"
+#include "ui/main_window.h"
+#include "ui/process_information.h"
+#include "ui/status_display.h"
+
+#include <unistd.h>
+
+namespace {
+
+constexpr int display_on = 0;
+
+/// The refresh: its interval stays zero, so that it fires once.
+itimerval wtimer{};
+
+}  // namespace
+
+void SetupTimer(int milliseconds) {
+    if (status_display().display.value() != display_on) {
+        return;
+    }
+    wtimer.it_value = {.tv_sec = 0, .tv_usec = milliseconds * 1000};
+    notify_set_itimer_func(main_window(), DisplayStatusTimer, wtimer);
+}
+
+void DisplayStatusTimer() {
+    const std::optional<std::string> contents = read_status_file(status_display().status_file.text());
+    if (!contents) {
+        return;
+    }
+    const ShellStatus status = parse_status(*contents);
+    main_window().cwd.set_text(status.cwd);
+    default_settings().prompt.set_text(remove_trailing_spaces(status.prompt));
+    main_window().set_right_footer(
+        status_line(status, status_display().enable.value(), process_information().process_id.value()));
+}
+
+void end_status_display() {
+    notify_set_itimer_func(main_window(), nullptr, wtimer);
+    const std::string path = status_display().status_file.text();
+    if (!path.empty()) {
+        unlink(path.c_str());
+    }
+}
+
+void StatusDisplayEnable() { SetupTimer(100); }
+
+void StatusDisplayOnOff() { status_display().set_left_footer(""); }

@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "app/status_file.h"
+
+/// Arms the one-shot refresh of the status display, in milliseconds (at most 999); a pending one is replaced.
+/// Does nothing while "Display" of "Status Display" is Off.
+void SetupTimer(int milliseconds);
+
+/// The timer's procedure: reads the status file that the shell's prompt hook writes and shows the shell's
+/// directory, prompt and the status line. Without a readable file nothing changes.
+void DisplayStatusTimer();
+
+/// Ends the status machinery: the timer and the status file.
+void end_status_display();

@@ -1,0 +1,129 @@
+// SPDX-License-Identifier: MIT
+#include "app/status_file.h"
+
+#include "app/text.h"
+
+#include <algorithm>
+#include <array>
+
+#include <fcntl.h>
+#include <fmt/printf.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+constexpr std::size_t longest_piece = 1023;
+constexpr std::size_t largest_file = std::size_t{64} * 1024;
+constexpr int status_files = 200;
+
+struct Key {
+    std::string_view mark;
+    std::string ShellStatus::*value;
+    std::size_t longest;
+};
+
+constexpr std::array keys{
+    Key{"P:", &ShellStatus::prompt, 79}, Key{"C:", &ShellStatus::cwd, 1023},
+    Key{"H:", &ShellStatus::host, 79},   Key{"U:", &ShellStatus::user, 79},
+    Key{"V:", &ShellStatus::view, 99},
+};
+
+/// The value of a line: what follows the first colon behind its first word.
+std::string_view value_of(std::string_view line) {
+    const std::size_t word = line.find_first_not_of(':');
+    const std::size_t colon = word == std::string_view::npos ? word : line.find(':', word);
+    return colon == std::string_view::npos ? std::string_view() : line.substr(colon + 1);
+}
+
+void take_line(std::string_view line, ShellStatus& status) {
+    line = line.substr(0, line.find('\0'));
+    const auto* const key = std::find_if(keys.begin(), keys.end(), [&](const Key& known) {
+        return line.find(known.mark) != std::string_view::npos;
+    });
+    if (key == keys.end()) {
+        return;
+    }
+    const std::string_view value = value_of(line);
+    if (!value.empty()) {
+        status.*(key->value) = value.substr(0, key->longest);
+    }
+}
+
+/// A descriptor that is closed at the end.
+class Descriptor {
+  public:
+    explicit Descriptor(int number) : number_(number) {}
+    ~Descriptor() {
+        if (number_ >= 0) {
+            close(number_);
+        }
+    }
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+    [[nodiscard]] int number() const { return number_; }
+
+  private:
+    int number_;
+};
+
+}  // namespace
+
+ShellStatus parse_status(std::string_view contents) {
+    ShellStatus status;
+    while (!contents.empty()) {
+        const std::size_t line_end = contents.find('\n');
+        const std::size_t size = std::min({line_end, contents.size(), longest_piece});
+        take_line(contents.substr(0, size), status);
+        contents.remove_prefix(size == line_end ? size + 1 : size);
+    }
+    return status;
+}
+
+std::optional<std::string> read_status_file(const std::string& path) {
+    const Descriptor file(open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+    struct stat info {};
+    if (file.number() < 0 || fstat(file.number(), &info) != 0 || !S_ISREG(info.st_mode)) {
+        return std::nullopt;
+    }
+    std::string contents(largest_file, '\0');
+    std::size_t filled = 0;
+    ssize_t taken = 0;
+    do {
+        taken = read(file.number(), contents.data() + filled, contents.size() - filled);
+        filled += taken > 0 ? static_cast<std::size_t>(taken) : 0;
+    } while (taken > 0);
+    contents.resize(filled);
+    return contents;
+}
+
+std::string create_status_file(const std::string& home) {
+    for (int number = 0; number < status_files; ++number) {
+        std::string path = fmt::sprintf("%s/.orvik-status%d", home, number);
+        const Descriptor made(open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600));
+        if (made.number() >= 0) {
+            return path;
+        }
+        if (errno != EEXIST) {
+            return {};
+        }
+    }
+    return {};
+}
+
+std::string status_line(const ShellStatus& status, unsigned enabled, int process_id) {
+    std::string line;
+    if ((enabled & status_host) != 0) {
+        line += fmt::sprintf("Host: %s   ", status.host);
+    }
+    if ((enabled & status_user) != 0) {
+        line += fmt::sprintf("User: %s   ", status.user);
+    }
+    if ((enabled & status_pid) != 0) {
+        line += fmt::sprintf("PID: %d   ", process_id);
+    }
+    if ((enabled & status_view) != 0) {
+        line += fmt::sprintf("View: %s   ", getfilename(status.view));
+    }
+    return line;
+}

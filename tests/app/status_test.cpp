@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: MIT
+#include "app/status.h"
+
+#include "app/notify.h"
+#include "tests/support/scratch_directory.h"
+#include "ui/default_settings.h"
+#include "ui/main_window.h"
+#include "ui/process_information.h"
+#include "ui/status_display.h"
+#include "ui/windows.h"
+
+#include <QTest>
+#include <QTimer>
+
+#include <filesystem>
+#include <fstream>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+class StatusDisplayTest : public testing::Test {
+  protected:
+    void SetUp() override {
+        create_windows();
+        status_display().status_file.set_text(file());
+        status_display().enable.set_value(status_host | status_user);
+        process_information().process_id.set_value(123);
+    }
+    void TearDown() override { destroy_windows(); }
+
+    [[nodiscard]] std::string file() const { return home_.path() / "status"; }
+    void shell_writes(const std::string& text) const { std::ofstream(file()) << text; }
+    static bool cwd_becomes(const std::string& cwd) {
+        return QTest::qWaitFor([&] { return main_window().cwd.text() == cwd; }, 5000);
+    }
+
+  private:
+    ScratchDirectory home_;
+};
+
+TEST_F(StatusDisplayTest, TheTimerShowsWhatTheShellWrote) {
+    shell_writes("P:$   \nC:/tmp\nH:h\nU:u\nV:/view/v\n");
+    SetupTimer(100);
+    EXPECT_EQ(main_window().cwd.text(), "");
+    ASSERT_TRUE(cwd_becomes("/tmp"));
+    EXPECT_EQ(default_settings().prompt.text(), "$");
+    EXPECT_EQ(main_window().right_footer(), "Host: h   User: u   ");
+    status_display().enable.set_value(15);
+    StatusDisplayEnable();
+    EXPECT_TRUE(QTest::qWaitFor(
+        [] { return main_window().right_footer() == "Host: h   User: u   PID: 123   View: v   "; }, 5000));
+}
+
+TEST_F(StatusDisplayTest, ALaterTimerReplacesAPendingOne) {
+    shell_writes("C:/first\n");
+    SetupTimer(100);
+    SetupTimer(400);
+    bool first_period_over = false;
+    QTimer::singleShot(250, [&] { first_period_over = true; });
+    ASSERT_TRUE(QTest::qWaitFor([&] { return first_period_over; }, 5000));
+    EXPECT_EQ(main_window().cwd.text(), "");
+    EXPECT_TRUE(cwd_becomes("/first"));
+}
+
+TEST_F(StatusDisplayTest, WithoutAFileNothingChanges) {
+    shell_writes("C:/tmp\n");
+    DisplayStatusTimer();
+    std::filesystem::remove(file());
+    DisplayStatusTimer();
+    EXPECT_EQ(main_window().cwd.text(), "/tmp");
+    shell_writes("");
+    DisplayStatusTimer();
+    EXPECT_EQ(main_window().cwd.text(), "");
+}
+
+TEST_F(StatusDisplayTest, DisplayOffArmsNoTimer) {
+    constexpr int off = 1;
+    shell_writes("C:/tmp\n");
+    status_display().set_left_footer("text");
+    status_display().display.set_value(off);
+    StatusDisplayOnOff();
+    EXPECT_EQ(status_display().left_footer(), "");
+    SetupTimer(1);
+    bool later = false;
+    QTimer::singleShot(100, [&] { later = true; });
+    ASSERT_TRUE(QTest::qWaitFor([&] { return later; }, 5000));
+    EXPECT_EQ(main_window().cwd.text(), "");
+}
+
+TEST_F(StatusDisplayTest, EndsWithItsFile) {
+    shell_writes("C:/tmp\n");
+    SetupTimer(1);
+    end_status_display();
+    EXPECT_FALSE(std::filesystem::exists(file()));
+}
+
+}  // namespace

@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "toolkit/fields.h"
+#include "toolkit/frame.h"
+
+#include <memory>
+
+/// "Environment Setup Window": what the shell is set up with when it starts.
+struct EnvironmentSetup : CommandFrame {
+    EnvironmentSetup() : CommandFrame("Environment Setup Window") { precmd.set_display_length(72); }
+
+    TextField working_directory_1{panel, "Working Directory 1:"};
+    TextField environment_setup_file{panel, "Environment Setup File:"};
+    TextField startup_directory{panel, "Start-up Directory:"};
+    TextField precmd{panel, "Precmd:"};
+};
+
+inline std::unique_ptr<EnvironmentSetup> Orvik_popup1;
+inline EnvironmentSetup& environment_setup() { return *Orvik_popup1; }
