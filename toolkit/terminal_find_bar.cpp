@@ -107,7 +107,8 @@ terminal::LetterCase TerminalFindBar::letter_case() const {
 
 std::optional<Range> TerminalFindBar::find_from(Position from, SearchDirection direction) const {
     const std::string text = needle();
-    return text.empty() ? std::nullopt : terminal::find(view_.terminal(), text, from, direction, letter_case());
+    return text.empty() ? std::nullopt
+                        : terminal::find(view_.terminal(), text, from, direction, letter_case());
 }
 
 /// Keeps to the match there is while it still fits, else takes the latest one.

@@ -123,6 +123,7 @@ class TerminalView final : public QWidget {
     void scroll_to(terminal::RowId top);
 
     // Keys.
+    bool interpose(KeyEvent& event);
     bool handle_own_key(const QKeyEvent& event);
     bool handle_scroll_key(const QKeyEvent& event);
     void type_key(const KeyEvent& event);

@@ -31,11 +31,12 @@ bool TerminalView::event(QEvent* event) {
 bool TerminalView::focusNextPrevChild(bool /*next*/) { return false; }
 
 void TerminalView::keyPressEvent(QKeyEvent* event) {
-    KeyEvent key = to_key_event(*event);
-    if (interposer_ && interposer_(key)) {
+    const KeyEvent pressed = to_key_event(*event);
+    KeyEvent key = pressed;
+    if (interpose(key)) {
         return;
     }
-    if (key == to_key_event(*event) && handle_own_key(*event)) {
+    if (key == pressed && handle_own_key(*event)) {
         return;
     }
     type_key(key);
@@ -43,9 +44,15 @@ void TerminalView::keyPressEvent(QKeyEvent* event) {
 
 void TerminalView::keyReleaseEvent(QKeyEvent* event) {
     KeyEvent key = to_key_event(*event);
-    if (interposer_ && !key.repeated) {
-        interposer_(key);
+    if (!key.repeated) {
+        interpose(key);
     }
+}
+
+/// Keys that neither type nor send anything, as shift alone, are nobody's business.
+bool TerminalView::interpose(KeyEvent& event) {
+    const bool silent = event.key == terminal::Key::none && event.text.empty();
+    return !silent && interposer_ && interposer_(event);
 }
 
 bool TerminalView::handle_own_key(const QKeyEvent& event) {
@@ -136,7 +143,7 @@ void TerminalView::inputMethodEvent(QInputMethodEvent* event) {
     if (!event->commitString().isEmpty()) {
         KeyEvent key;
         key.text = from_qstring(event->commitString());
-        if (!interposer_ || !interposer_(key)) {
+        if (!interpose(key)) {
             type_key(key);
         }
     }

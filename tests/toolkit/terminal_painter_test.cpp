@@ -1,0 +1,140 @@
+// SPDX-License-Identifier: MIT
+#include "toolkit/terminal_painter.h"
+
+#include "tests/toolkit/terminal_fixture.h"
+#include "toolkit/terminal_colours.h"
+
+#include <QImage>
+
+namespace {
+
+QRgb to_qrgb(terminal::Rgb colour) { return qRgb(colour.red, colour.green, colour.blue); }
+
+class TerminalPainterTest : public TerminalFixture {
+  protected:
+    /// The pane as it is seen, without the cursor.
+    void look_at(std::string_view text) {
+        show_text("\033[2J\033[H\033[?25l");
+        show_text(text);
+        QTest::qWait(50);
+        image = view().grab().toImage();
+    }
+    [[nodiscard]] QRgb pixel(QPoint place) const { return image.pixel(place) | 0xff000000; }
+    [[nodiscard]] QRect area(int column, int line) const {
+        return view().cell_area({view().position_at({0, 0}).row + line, column});
+    }
+    /// Whether a cell holds a pixel of about that colour.
+    [[nodiscard]] bool holds(int column, int line, QRgb colour) const {
+        const auto near = [](int a, int b) { return std::abs(a - b) < 80; };
+        const QRect cell_area = area(column, line);
+        for (int y = cell_area.top(); y <= cell_area.bottom(); ++y) {
+            for (int x = cell_area.left(); x <= cell_area.right(); ++x) {
+                const QRgb found = pixel({x, y});
+                if (near(qRed(found), qRed(colour)) && near(qGreen(found), qGreen(colour)) &&
+                    near(qBlue(found), qBlue(colour))) {
+                    return true;
+                }
+            }
+        }
+        return false;
+    }
+
+    const QRgb background = to_qrgb(terminal_colours::background);
+    QImage image;
+};
+
+TEST_F(TerminalPainterTest, ColoursAreThoseAskedFor) {
+    struct {
+        const char* name;
+        const char* sequence;
+        QRgb background;
+    } const rows[]{
+        {"standard", "", background},
+        {"named", "\033[41m", to_qrgb(terminal_colours::palette[1])},
+        {"bright", "\033[104m", to_qrgb(terminal_colours::palette[12])},
+        {"cube", "\033[48;5;196m", qRgb(0xff, 0, 0)},
+        {"grey", "\033[48;5;232m", qRgb(8, 8, 8)},
+        {"direct", "\033[48;2;1;2;3m", qRgb(1, 2, 3)},
+        {"reverse", "\033[7m", to_qrgb(terminal_colours::foreground)},
+        {"reverse_named", "\033[7;32m", to_qrgb(terminal_colours::palette[2])},
+    };
+    for (const auto& row : rows) {
+        look_at(std::string(row.sequence) + " x \033[0m");
+        EXPECT_EQ(pixel(area(0, 0).center()), row.background) << row.name;
+    }
+    look_at("\033[?5h ");
+    EXPECT_EQ(pixel(area(0, 0).center()), to_qrgb(terminal_colours::foreground)) << "the whole screen";
+    show_text("\033[?5l");
+}
+
+TEST_F(TerminalPainterTest, BoxLinesJoinAcrossCells) {
+    look_at("\u250c\u2500\u2510\r\n\u2502 \u2502\r\n\u2514\u2500\u2518\r\n\u2588\u2588\r\n\u2551\r\n\u2551");
+    const QRgb ink = to_qrgb(terminal_colours::foreground);
+    for (int y = area(0, 0).center().y() + 1; y < area(0, 2).center().y(); ++y) {
+        EXPECT_EQ(pixel({area(0, 0).x() + area(0, 0).width() / 2, y}), ink) << y;
+    }
+    for (int x = area(0, 0).center().x() + 1; x < area(2, 0).center().x(); ++x) {
+        EXPECT_EQ(pixel({x, area(0, 0).y() + area(0, 0).height() / 2}), ink) << x;
+    }
+    for (int x = area(0, 3).left(); x <= area(1, 3).right(); ++x) {
+        EXPECT_EQ(pixel({x, area(0, 3).top()}), ink) << x;
+        EXPECT_EQ(pixel({x, area(0, 3).bottom()}), ink) << x;
+    }
+}
+
+TEST_F(TerminalPainterTest, ColumnsDoNotDriftBehindWideAndCombinedCharacters) {
+    look_at(
+        "abcdefgh\u2588\r\n\u4e2d\u6587\u4e2d\u6587\u2588\r\ne\u0301e\u0301cdefgh\u2588\r\n"
+        "\033[1;3mWWWWWWWW\033[0m\u2588\r\n\U0001f600\U0001f600abcd\u2588");
+    for (int line = 0; line < 5; ++line) {
+        EXPECT_EQ(pixel(area(8, line).topLeft()), to_qrgb(terminal_colours::foreground)) << line;
+        EXPECT_EQ(pixel(area(9, line).topLeft()), background) << line;
+    }
+}
+
+TEST_F(TerminalPainterTest, StylesDrawTheirLines) {
+    const QRgb red = qRgb(255, 0, 0);
+    struct {
+        const char* name;
+        const char* sequence;
+        bool inked;
+    } const rows[]{
+        {"none", "", false},    {"underline", "4", true}, {"double", "21", true},
+        {"curly", "4:3", true}, {"dotted", "4:4", true},  {"dashed", "4:5", true},
+        {"struck", "9", true},  {"overline", "53", true}, {"invisible", "8;4;9", false},
+    };
+    for (const auto& row : rows) {
+        look_at(std::string("\033[38;2;255;0;0;") + row.sequence + "m    \033[0m");
+        EXPECT_EQ(holds(1, 0, red), row.inked) << row.name;
+    }
+    look_at("\033[4m\033[58;2;0;255;0m    \033[0m");
+    EXPECT_TRUE(holds(1, 0, qRgb(0, 255, 0))) << "underline of another colour";
+}
+
+TEST_F(TerminalPainterTest, CursorIsFilledOnlyWithTheFocus) {
+    const QRgb colour = to_qrgb(terminal_colours::cursor);
+    look_at("\033[?25h");
+    EXPECT_EQ(pixel(area(0, 0).center()), colour);
+    pane.widget()->setFocusProxy(nullptr);
+    view().clearFocus();
+    ASSERT_TRUE(wait([this] { return !view().hasFocus(); }));
+    QTest::qWait(50);
+    image = view().grab().toImage();
+    EXPECT_EQ(pixel(area(0, 0).center()), background);
+    EXPECT_EQ(pixel(area(0, 0).topLeft()), colour);
+    pane.widget()->setFocusProxy(&view());
+}
+
+TEST_F(TerminalPainterTest, OpenUpdateIsNotShownUntilItEnds) {
+    look_at("\u2588");
+    start("printf '\\033[?2026h\\033[H \\033[Hx'; read a; printf '\\033[?2026l'; exec cat");
+    ASSERT_TRUE(wait([this] { return view().terminal().modes().synchronized_output; }));
+    EXPECT_EQ(pixel(area(0, 0).topLeft()), to_qrgb(terminal_colours::foreground));
+    ttysw_input(pane, "\n");
+    EXPECT_TRUE(wait([this] {
+        image = view().grab().toImage();
+        return pixel(area(0, 0).topLeft()) == background;
+    }));
+}
+
+}  // namespace

@@ -1,0 +1,6 @@
+target_sources(toolkit_test PRIVATE
+    terminal_mouse_test.cpp
+    terminal_painter_test.cpp
+    terminal_pane_test.cpp
+    terminal_reader_test.cpp
+)

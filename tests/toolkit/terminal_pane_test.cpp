@@ -1,0 +1,227 @@
+// SPDX-License-Identifier: MIT
+#include "toolkit/terminal_pane.h"
+
+#include "tests/toolkit/terminal_fixture.h"
+
+#include <QAction>
+#include <QLineEdit>
+#include <QScrollBar>
+
+#include <csignal>
+
+namespace {
+
+using terminal::Key;
+
+class TerminalPaneTest : public TerminalFixture {};
+
+TEST_F(TerminalPaneTest, KeysReachTheProgramAndNotTheWindowsShortcuts) {
+    int triggered = 0;
+    for (const char* keys : {"Ctrl+C", "Alt+X", "F1", "Ctrl+Q"}) {
+        auto* action = new QAction(&window);
+        action->setShortcut(QKeySequence(QString::fromLatin1(keys)));
+        QObject::connect(action, &QAction::triggered, [&triggered] { ++triggered; });
+        window.addAction(action);
+    }
+    start_echo();
+    press(Qt::Key_A);
+    press(Qt::Key_Up);
+    press(Qt::Key_C, Qt::ControlModifier);
+    press(Qt::Key_Tab);
+    press(Qt::Key_Backtab, Qt::ShiftModifier);
+    press(Qt::Key_F1);
+    press(Qt::Key_X, Qt::AltModifier);
+    press(Qt::Key_Right, Qt::ControlModifier);
+    press(Qt::Key_Backspace);
+    press(Qt::Key_Space, Qt::ControlModifier);
+    press(Qt::Key_Escape);
+    EXPECT_TRUE(wait_for_echo("a^[[A^C^I^[[Z^[OP^[x^[[1;5C^?^@^[")) << echoed();
+    EXPECT_EQ(triggered, 0);
+    EXPECT_TRUE(view().hasFocus());
+}
+
+TEST_F(TerminalPaneTest, ControlTabMovesTheFocus) {
+    auto* field = new QLineEdit(&window);
+    field->show();
+    press(Qt::Key_Tab, Qt::ControlModifier);
+    EXPECT_FALSE(view().hasFocus());
+}
+
+TEST_F(TerminalPaneTest, InputMethodTextIsTyped) {
+    start_echo();
+    QInputMethodEvent event;
+    event.setCommitString(QStringLiteral("\u00e9"));
+    QCoreApplication::sendEvent(&view(), &event);
+    EXPECT_TRUE(wait_for_echo("M-CM-)")) << echoed();
+}
+
+TEST_F(TerminalPaneTest, InputBeforeTheStartWaitsAndKeepsItsOrder) {
+    ttysw_input(pane, "one\n");
+    ttysw_input(pane, "two\n");
+    start("read a; read b; echo got $a $b");
+    EXPECT_TRUE(wait_for_text("got one two")) << text();
+}
+
+TEST_F(TerminalPaneTest, LargeInputArrivesWhole) {
+    start("stty -echo; echo ready; head -c 400000 | sha1sum");
+    ASSERT_TRUE(wait_for_text("ready"));
+    std::string input;
+    while (input.size() < 400'000) {
+        input += "0123456789abcde\n";
+    }
+    for (std::size_t at = 0; at < input.size(); at += 7'000) {
+        ttysw_input(pane, std::string_view(input).substr(at, 7'000));
+    }
+    // sha1sum of 25,000 such lines
+    EXPECT_TRUE(wait_for_text("a3eef4c89c633699b73895581f05cb4bdc44695a")) << text();
+}
+
+TEST_F(TerminalPaneTest, InterposerSeesConsumesAndRecodesKeys) {
+    std::vector<KeyEvent> seen;
+    notify_interpose_event_func(pane, [&](KeyEvent& event) {
+        seen.push_back(event);
+        if (event.key == Key::up) {
+            event = {.key = Key::none, .modifiers = {.control = true}, .text = "p"};
+        }
+        return event.is_control('r');
+    });
+    start_echo();
+    press(Qt::Key_R, Qt::ControlModifier);
+    press(Qt::Key_Up);
+    QTest::keyClick(&view(), 'X', Qt::ShiftModifier);
+    EXPECT_TRUE(wait_for_echo("^PX")) << echoed();
+    ASSERT_EQ(seen.size(), 6U);
+    EXPECT_EQ(seen[0], (KeyEvent{.modifiers = {.control = true}, .text = "r"}));
+    EXPECT_EQ(seen[1].kind, KeyEvent::Kind::release);
+    EXPECT_EQ(seen[2], (KeyEvent{.key = Key::up}));
+    EXPECT_EQ(seen[4], (KeyEvent{.modifiers = {.shift = true}, .text = "X"}));
+}
+
+TEST_F(TerminalPaneTest, OutputOfTheToolIsNotSeenByTheProgram) {
+    start("read a; echo got $a");
+    ttysw_output(pane, "shown\n");
+    ttysw_input(pane, "typed\n");
+    EXPECT_TRUE(wait_for_text("got typed")) << text();
+    EXPECT_TRUE(text().starts_with("shown\n")) << text();
+}
+
+TEST_F(TerminalPaneTest, EndOfTheShellIsAnnouncedAndReturnStartsANewOne) {
+    int ended = 0;
+    pane.on_end([&ended] { ++ended; });
+    start("echo up; read a; printf 'got %s' \"$a\"; exit 3");
+    ASSERT_TRUE(wait_for_text("up"));
+    const pid_t first = pane.child();
+    ttysw_input(pane, "x\n");
+    ASSERT_TRUE(wait_for_text("got x\n[shell ended with status 3; press Return to start a new one]\n"))
+        << text();
+    EXPECT_EQ(ended, 1);
+    EXPECT_EQ(pane.child(), -1);
+
+    ttysw_input(pane, "not for the next shell\n");
+    press(Qt::Key_A);
+    EXPECT_EQ(pane.child(), -1);
+    press(Qt::Key_Return);
+    EXPECT_NE(pane.child(), -1);
+    EXPECT_NE(pane.child(), first);
+    ttysw_input(pane, "y\n");
+    EXPECT_TRUE(wait_for_text("got y")) << text();
+}
+
+TEST_F(TerminalPaneTest, KilledFullScreenProgramLeavesATidyTerminal) {
+    start("printf 'before\\n\\033[?1049h\\033[?1003h\\033[?2004h\\033[H\\033[31mfull'; exec sleep 60");
+    ASSERT_TRUE(wait([this] { return pane.shows_alternate_screen() && text() == "full"; }));
+    ASSERT_EQ(kill(pane.child(), SIGKILL), 0);
+    EXPECT_TRUE(wait_for_text("before\n[shell ended by signal SIGKILL; press Return to start a new one]"))
+        << text();
+    EXPECT_FALSE(pane.shows_alternate_screen());
+    EXPECT_EQ(view().terminal().modes().mouse_tracking, terminal::MouseTracking::off);
+    EXPECT_FALSE(view().terminal().modes().bracketed_paste);
+}
+
+TEST_F(TerminalPaneTest, JobLeftBehindDoesNotHideTheEnd) {
+    start("sleep 60 & exit 0");
+    EXPECT_TRUE(wait_for_text("[shell ended with status 0;")) << text();
+}
+
+TEST_F(TerminalPaneTest, ShellThatCannotBeStartedSaysSo) {
+    pane.start({"/nonexistent/shell", {"shell"}, {}, "/"});
+    EXPECT_TRUE(wait_for_text("/nonexistent/shell: No such file or directory\n[shell ended with status 127;"))
+        << text();
+}
+
+/// Counts what is painted.
+class PaintCounter : public QObject {
+  public:
+    int count = 0;
+    bool eventFilter(QObject* object, QEvent* event) override {
+        count += event->type() == QEvent::Paint ? 1 : 0;
+        return QObject::eventFilter(object, event);
+    }
+};
+
+TEST_F(TerminalPaneTest, FloodLeavesKeysAndPaintingAlive) {
+    PaintCounter painted;
+    view().installEventFilter(&painted);
+    start("yes flood & read a; kill $!; wait; echo answered $a");
+    ASSERT_TRUE(wait([this] { return view().terminal().first_row() > 1000; })) << "output floods in";
+    const int before = painted.count;
+    ASSERT_TRUE(wait([&] { return painted.count > before + 5; }));
+    press(Qt::Key_K);
+    press(Qt::Key_Return);
+    EXPECT_TRUE(wait_for_text("answered k"));
+}
+
+TEST_F(TerminalPaneTest, ViewStaysWhereTheUserScrolledIt) {
+    start("i=0; while [ $i -lt 200 ]; do echo line $i; i=$((i+1)); done; read a; seq 1000 1100; exec cat");
+    ASSERT_TRUE(wait_for_text("line 199"));
+    QTest::qWait(0);
+    press(Qt::Key_PageUp, Qt::ShiftModifier);
+    const terminal::RowId top = view().position_at({0, 0}).row;
+    EXPECT_LT(top, view().terminal().screen_top());
+    ttysw_input(pane, "\n");
+    ASSERT_TRUE(wait_for_text("1100"));
+    EXPECT_EQ(view().position_at({0, 0}).row, top) << "output";
+    press(Qt::Key_Home, Qt::ShiftModifier);
+    EXPECT_EQ(view().position_at({0, 0}).row, view().terminal().first_row());
+    press(Qt::Key_A);
+    EXPECT_EQ(view().position_at({0, 0}).row, view().terminal().screen_top()) << "typing";
+}
+
+TEST_F(TerminalPaneTest, ScrollBarFollowsAndScrolls) {
+    start("seq 1 300; exec cat");
+    ASSERT_TRUE(wait_for_text("300"));
+    auto* bar = pane.widget()->findChild<QScrollBar*>();
+    ASSERT_TRUE(wait([bar] { return bar->maximum() > 200 && bar->value() == bar->maximum(); }));
+    bar->setValue(0);
+    EXPECT_EQ(view().position_at({0, 0}).row, view().terminal().first_row());
+}
+
+TEST_F(TerminalPaneTest, ProgramIsToldTheNewSize) {
+    start("trap 'stty size; exit' WINCH; echo ready; sleep 60 & wait");
+    ASSERT_TRUE(wait_for_text("ready"));
+    window.resize(500, 300);
+    ASSERT_TRUE(wait([this] { return window.width() == 500 && window.height() == 300; }));
+    EXPECT_TRUE(wait_for_text(std::to_string(pane.rows()) + " " + std::to_string(pane.columns()))) << text();
+    EXPECT_LT(pane.columns(), 70);
+}
+
+TEST_F(TerminalPaneTest, StateOfTheShellIsKnown) {
+    start("stty -echo; printf 'one\\nprompt> '; read a; stty -icanon; echo raw; exec cat");
+    ASSERT_TRUE(wait_for_text("prompt> "));
+    EXPECT_EQ(pane.line_to_cursor_text(), "prompt> ");
+    EXPECT_TRUE(pane.reads_lines());
+    ttysw_input(pane, "\n");
+    ASSERT_TRUE(wait_for_text("raw"));
+    EXPECT_FALSE(pane.reads_lines());
+    pane.clear();
+    EXPECT_EQ(text(), "");
+}
+
+TEST_F(TerminalPaneTest, BellIsPassedOn) {
+    int bells = 0;
+    pane.on_bell([&bells] { ++bells; });
+    start("printf '\\a'");
+    EXPECT_TRUE(wait([&bells] { return bells == 1; }));
+}
+
+}  // namespace
