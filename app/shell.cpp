@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <array>
 
+#include <fmt/format.h>
 #include <unistd.h>
 
 namespace {
@@ -39,7 +40,7 @@ std::vector<std::string> shell_environment() {
 
 terminal::Program login_shell() {
     return {.path = shell_name,
-            .arguments = {"-" + getfilename(shell_name)},
+            .arguments = {fmt::format("-{}", getfilename(shell_name))},
             .environment = shell_environment(),
             .directory = startup_dir};
 }

@@ -124,6 +124,7 @@ void type_prompt_hooks() {
     const std::string status_file = status_display().status_file.text();
     for (const PromptHook& hook : prompt_hooks(shell_name, ClearCaseUsage::off, status_file)) {
         environment_setup().precmd.set_text(hook.text);
+        environment_setup().precmd.show_beginning();
         if (status_display().display.value() != status_display_on) {
             continue;
         }

@@ -26,6 +26,8 @@ void TextField::set_text(std::string_view text) {
     }
 }
 
+void TextField::show_beginning() { widget_->setCursorPosition(0); }
+
 void TextField::set_display_length(int characters) {
     widget_->setMinimumWidth(widget_->fontMetrics().averageCharWidth() * characters);
 }

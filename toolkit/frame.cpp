@@ -17,6 +17,7 @@ namespace {
 
 constexpr int popup_right = 740;
 constexpr int popup_down = 100;
+constexpr int title_bar_buttons = 170;  ///< room beside the title in common title bars, in pixels
 
 Frame* base_frame = nullptr;
 
@@ -134,6 +135,8 @@ void Frame::place_beside_base(int right, int down) {
     const QPoint wanted = base_widget->pos() + QPoint(right, down);
     const QScreen* screen = base_widget->screen();
     const QRect room = screen->availableGeometry();
+    widget_->setMinimumWidth(widget_->fontMetrics().horizontalAdvance(widget_->windowTitle()) +
+                             title_bar_buttons);
     widget_->adjustSize();
     // The window manager's frame round the new window is not known before it is shown: the main window's
     // serves.
@@ -146,7 +149,7 @@ void Frame::on_close(Notify notify) { widget_->close_notify = notify; }
 
 void Frame::add(std::string_view /*label*/, QWidget* area) {
     const bool takes_height = (area->sizePolicy().verticalPolicy() & QSizePolicy::ExpandFlag) != 0;
-    widget_->areas->addWidget(area, takes_height ? 1 : 0);
+    widget_->areas->addWidget(area, takes_height ? 1 : 0, takes_height ? Qt::Alignment() : Qt::AlignTop);
 }
 
 QWidget* Frame::widget() const { return widget_; }

@@ -36,7 +36,8 @@ void Panel::add(std::string_view label, QWidget* control) {
         return;
     }
     layout_->addWidget(make_label(label, control, widget_), row, 0, Qt::AlignRight | Qt::AlignVCenter);
-    layout_->addWidget(control, row, 1);
+    const bool fixed_width = control->sizePolicy().horizontalPolicy() == QSizePolicy::Fixed;
+    layout_->addWidget(control, row, 1, fixed_width ? Qt::AlignLeft | Qt::AlignVCenter : Qt::Alignment());
 }
 
 Row::Row(Container& parent, std::string_view label)
