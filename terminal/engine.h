@@ -111,6 +111,8 @@ class Engine final : public ParserHandler {
 
     // engine_text.cpp: characters
     void print_plain(std::string_view text);
+    std::size_t print_run(std::span<const char32_t> text);
+    void advance_cursor(int columns, int limit);
     void put(char32_t character);
     void put_visible(char32_t character, int width);
     void combine(char32_t character);
@@ -118,7 +120,7 @@ class Engine final : public ParserHandler {
     [[nodiscard]] int right_limit() const;
     const Cell& pen();
     const Cell& blank();
-    void change_pen() { pen_changed_ = true; }
+    void change_pen() { pen_changed_ = blank_changed_ = true; }
     void refresh_pen();
     StyleId intern_style(const Style& style);
     void collect_unused();
@@ -301,6 +303,7 @@ class Engine final : public ParserHandler {
     Style style_;  // the pen's
     bool guarded_ = false;
     bool pen_changed_ = false;
+    bool blank_changed_ = false;
     Cell pen_;    // no character, the pen's attributes
     Cell blank_;  // what erasing leaves: the pen's background
 

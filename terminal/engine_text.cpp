@@ -4,7 +4,9 @@
 #include "terminal/width.h"
 
 #include <algorithm>
+#include <array>
 #include <cassert>
+#include <cstring>
 
 // Characters: placing them, wrapping, and the attributes they get.
 
@@ -22,18 +24,13 @@ std::size_t count_characters(std::string_view text) {
 }  // namespace
 
 std::size_t StyleHash::operator()(const Style& style) const {
-    const auto colour = [](const Colour& value) {
-        return static_cast<std::uint64_t>(value.kind) << 24 | static_cast<std::uint64_t>(value.red) << 16 |
-               static_cast<std::uint64_t>(value.green) << 8 | value.blue;
-    };
-    const auto flag = [](bool set, unsigned bit) { return static_cast<std::uint64_t>(set) << bit; };
-    const std::uint64_t flags = static_cast<std::uint64_t>(style.underline) << 8 | flag(style.bold, 0) |
-                                flag(style.faint, 1) | flag(style.italic, 2) | flag(style.blink, 3) |
-                                flag(style.reverse, 4) | flag(style.invisible, 5) | flag(style.struck, 6) |
-                                flag(style.overlined, 7);
+    static_assert(sizeof(Style) == 14);
+    std::uint64_t head = 0;
+    std::uint64_t tail = 0;  // the two overlap
+    std::memcpy(&head, &style, sizeof head);
+    std::memcpy(&tail, reinterpret_cast<const char*>(&style) + sizeof(Style) - sizeof tail, sizeof tail);
     constexpr std::uint64_t odd = 0x9E3779B97F4A7C15;  // spreads what differs in few bits
-    std::uint64_t hash = (colour(style.foreground) | colour(style.background) << 32) * odd;
-    hash = ((hash >> 29) ^ hash ^ (colour(style.underline_colour) | flags << 32)) * odd;
+    const std::uint64_t hash = (head * odd ^ tail) * odd;
     return static_cast<std::size_t>(hash >> 32);
 }
 
@@ -53,8 +50,14 @@ const Cell& Engine::pen() {
 }
 
 const Cell& Engine::blank() {
-    if (pen_changed_) {
-        refresh_pen();
+    if (blank_changed_) {
+        blank_changed_ = false;
+        blank_.style = 0;
+        if (style_.background != Colour{}) {
+            Style erased;
+            erased.background = style_.background;
+            blank_.style = intern_style(erased);
+        }
     }
     return blank_;
 }
@@ -63,9 +66,6 @@ void Engine::refresh_pen() {
     pen_changed_ = false;
     pen_.glyph = guarded_ ? Cell::guarded : 0;
     pen_.style = intern_style(style_);
-    Style erased;
-    erased.background = style_.background;
-    blank_.style = intern_style(erased);
 }
 
 /// The number of a style; the plain one when there are too many styles.
@@ -125,24 +125,64 @@ void Engine::print_plain(std::string_view text) {
         }
         screen_->write_ascii(cursor_.row, cursor_.column, text.substr(0, count), attributes);
         text.remove_prefix(count);
-        cursor_.column += static_cast<int>(count);
-        if (cursor_.column == limit) {
-            cursor_.column = limit - 1;
-            cursor_.wrap_pending = inner_.autowrap;
-        }
+        advance_cursor(static_cast<int>(count), limit);
     }
     assert(is_consistent());
 }
 
 void Engine::print(std::span<const char32_t> text) {
-    for (const char32_t character : text) {
-        if (character < first_extended) {
-            put(sets_.take(static_cast<char>(character)));
-        } else {
-            put(character);
+    while (!text.empty()) {
+        std::size_t count = print_run(text);
+        if (count == 0) {  // the first needs care
+            const char32_t character = text.front();
+            put(character < first_extended ? sets_.take(static_cast<char>(character)) : character);
+            count = 1;
         }
+        text = text.subspan(count);
     }
     assert(is_consistent());
+}
+
+/// Places characters from the front of `text` as long as they take cells of their own and the row has room;
+/// returns how many.
+std::size_t Engine::print_run(std::span<const char32_t> text) {
+    if (inner_.insert || cursor_.wrap_pending || text.front() < first_extended) {
+        return 0;
+    }
+    const int limit = right_limit();
+    const auto room = static_cast<std::size_t>(limit - cursor_.column);
+    const Cell& attributes = pen();
+    std::array<Cell, 256> cells;
+    std::size_t length = 0;
+    std::size_t count = 0;
+    for (; count < text.size(); ++count) {
+        const char32_t character = text[count];
+        const auto width = static_cast<std::size_t>(character_width(character));
+        if (width == 0 || length + width > std::min(room, cells.size())) {
+            break;
+        }
+        cells[length] = {attributes.glyph | character, attributes.style, attributes.link};
+        if (width == 2) {
+            cells[length].glyph |= Cell::wide;
+            cells[length + 1] = {attributes.glyph | Cell::wide_tail, attributes.style, attributes.link};
+        }
+        length += width;
+    }
+    if (count > 0) {
+        last_character_ = text[count - 1];
+        screen_->write(cursor_.row, cursor_.column, std::span(cells).first(length));
+        advance_cursor(static_cast<int>(length), limit);
+    }
+    return count;
+}
+
+/// Behind the last column the cursor stays on it, and the next character wraps.
+void Engine::advance_cursor(int columns, int limit) {
+    cursor_.column += columns;
+    if (cursor_.column >= limit) {
+        cursor_.column = limit - 1;
+        cursor_.wrap_pending = inner_.autowrap;
+    }
 }
 
 void Engine::put(char32_t character) {
@@ -172,14 +212,12 @@ void Engine::put_visible(char32_t character, int width) {
     if (inner_.insert) {
         screen_->insert_cells(cursor_.row, cursor_.column, limit, width, blank());
     }
-    const std::uint32_t wide = width == 2 ? Cell::wide : 0;
-    screen_->write(cursor_.row, cursor_.column,
-                   {attributes.glyph | character | wide, attributes.style, attributes.link});
-    cursor_.column += width;
-    if (cursor_.column >= limit) {
-        cursor_.column = limit - 1;
-        cursor_.wrap_pending = inner_.autowrap;
-    }
+    std::array<Cell, 2> cells;
+    cells.fill(attributes);
+    cells[0].glyph |= character | (width == 2 ? Cell::wide : 0);
+    cells[1].glyph |= Cell::wide_tail;
+    screen_->write(cursor_.row, cursor_.column, std::span(cells).first(static_cast<std::size_t>(width)));
+    advance_cursor(width, limit);
 }
 
 /// Joins a combining character to the one before the cursor. One that finds none is dropped, and so is one

@@ -8,6 +8,8 @@ namespace terminal {
 
 namespace {
 
+constexpr char32_t escape = 0x1B;
+
 constexpr std::uint64_t each_byte(std::uint8_t value) { return 0x0101010101010101ULL * value; }
 
 /// The length of the run of 2/0 to 7/14 that `bytes` begins with, eight bytes at a time.
@@ -46,8 +48,13 @@ void Parser::feed(std::string_view bytes) {
                 return;
             }
         }
-        step(static_cast<std::uint8_t>(bytes.front()));
+        const auto byte = static_cast<std::uint8_t>(bytes.front());
         bytes.remove_prefix(1);
+        if (byte < 0x80 && decoder_.idle()) {
+            accept_ascii(byte);
+        } else {
+            step(byte);
+        }
     }
 }
 
@@ -96,15 +103,26 @@ void Parser::step(std::uint8_t byte) {
 }
 
 void Parser::accept(char32_t character) {
-    if (character >= 0x80 && character < 0xA0) {  // a C1 control is the same as ESC Fe
-        begin_escape();
-        state_ = ParserState::escape;
-        character -= 0x40;
+    if (character < 0x80) {
+        accept_ascii(character);
+    } else if (character < 0xA0) {  // a C1 control is the same as ESC Fe
+        accept_ascii(escape);
+        accept_ascii(character - 0x40);
+    } else {
+        const Transition next = transition(state_, ByteClass::other);
+        state_ = next.next;
+        apply(next.action, character);
     }
-    const ByteClass kind = character < 0x80 ? byte_class(character) : ByteClass::other;
-    const Transition next = transition(state_, kind);
+}
+
+inline void Parser::accept_ascii(char32_t character) {
+    const Transition next = transition(state_, byte_class(character));
     state_ = next.next;
-    apply(next.action, character);
+    if (next.action == ParserAction::parameter) {
+        take_parameter(character);
+    } else {
+        apply(next.action, character);
+    }
 }
 
 void Parser::apply(ParserAction action, char32_t character) {

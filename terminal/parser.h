@@ -60,6 +60,7 @@ class Parser {
     void read_string(std::string_view& bytes);
     void step(std::uint8_t byte);
     void accept(char32_t character);
+    void accept_ascii(char32_t character);
     void apply(ParserAction action, char32_t character);
     void begin_escape();
     void collect(char character);

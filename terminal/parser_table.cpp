@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/parser_table.h"
 
-#include <array>
-#include <cstddef>
-
 namespace terminal {
 
 namespace {
@@ -154,15 +151,9 @@ constexpr Table make_table() {
     return table;
 }
 
-constexpr std::array<Class, 128> classes = make_classes();
-constexpr Table table = make_table();
-
 }  // namespace
 
-ByteClass byte_class(char32_t character) { return classes[character]; }
-
-Transition transition(ParserState state, ByteClass byte_class) {
-    return table[static_cast<std::size_t>(state)][static_cast<std::size_t>(byte_class)];
-}
+constexpr std::array<Class, 128> byte_classes = make_classes();
+constexpr Table transitions = make_table();
 
 }  // namespace terminal

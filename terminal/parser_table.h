@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
 
 namespace terminal {
@@ -68,8 +70,14 @@ struct Transition {
     ParserState next = ParserState::ground;
 };
 
+extern const std::array<ByteClass, 128> byte_classes;
+extern const std::array<std::array<Transition, byte_class_count>, parser_state_count> transitions;
+
 /// The class of a character below U+0080.
-ByteClass byte_class(char32_t character);
-Transition transition(ParserState state, ByteClass byte_class);
+inline ByteClass byte_class(char32_t character) { return byte_classes[character]; }
+
+inline Transition transition(ParserState state, ByteClass byte_class) {
+    return transitions[static_cast<std::size_t>(state)][static_cast<std::size_t>(byte_class)];
+}
 
 }  // namespace terminal

@@ -308,9 +308,13 @@ std::string Pty::control_characters() const {
     return characters;
 }
 
-bool Pty::reads_lines() const {
+bool Pty::reads_lines() const { return has_local_mode(ICANON); }
+
+bool Pty::echoes() const { return has_local_mode(ECHO); }
+
+bool Pty::has_local_mode(tcflag_t mode) const {
     termios modes{};
-    return tcgetattr(master_, &modes) == 0 && (modes.c_lflag & ICANON) != 0;
+    return tcgetattr(master_, &modes) == 0 && (modes.c_lflag & mode) != 0;
 }
 
 }  // namespace terminal

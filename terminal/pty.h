@@ -11,6 +11,7 @@
 #include <vector>
 
 #include <sys/types.h>
+#include <termios.h>
 
 namespace terminal {
 
@@ -62,9 +63,12 @@ class Pty {
     [[nodiscard]] std::string control_characters() const;
     /// Whether a program reads lines (ICANON): the kernel then cuts a line at 4,095 bytes.
     [[nodiscard]] bool reads_lines() const;
+    /// Whether what is typed is shown (ECHO): not while a program asks for a password.
+    [[nodiscard]] bool echoes() const;
 
   private:
     Pty() = default;
+    [[nodiscard]] bool has_local_mode(tcflag_t mode) const;
     int master_ = -1;
     int process_ = -1;
     pid_t child_ = -1;

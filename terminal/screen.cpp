@@ -82,15 +82,12 @@ void Screen::written(Line& line, int end) {
     touch(line);
 }
 
-void Screen::write(int row, int column, Cell cell) {
+void Screen::write(int row, int column, std::span<const Cell> cells) {
     Line& at = line(row);
-    const int end = column + (cell.is_wide() ? 2 : 1);
+    const int end = column + static_cast<int>(cells.size());
     assert(end <= size_.columns);
     open_gap(at, column, end);
-    data(at)[column] = cell;
-    if (cell.is_wide()) {
-        data(at)[column + 1] = {Cell::wide_tail | (cell.glyph & Cell::guarded), cell.style, cell.link};
-    }
+    std::ranges::copy(cells, data(at) + column);
     written(at, end);
 }
 

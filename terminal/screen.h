@@ -48,8 +48,8 @@ class Screen {
     void set_wrapped(int row, bool wrapped);
     /// Puts a run of ASCII characters with the attributes of `pen` in a row; they must fit.
     void write_ascii(int row, int column, std::string_view text, Cell pen);
-    /// Puts one character; a wide one takes its tail's cell too.
-    void write(int row, int column, Cell cell);
+    /// Puts cells, wide ones with their tails, in a row; they must fit.
+    void write(int row, int column, std::span<const Cell> cells);
     /// Puts cells as they are from the row's beginning on.
     void set_row(int row, std::span<const Cell> cells, bool wrapped);
     /// Changes a cell in place, for attributes and clusters; its width must stay.

@@ -85,7 +85,7 @@ void Scrollback::push(std::span<const Cell> cells, bool wrapped, std::uint64_t s
     Piece& piece = last();
     append(piece, cells);
     piece.continued = open_ = wrapped;
-    piece.stamp = stamp;
+    piece.stamp = std::max(piece.stamp, stamp);
     tail_cells_ = static_cast<int>(cells.size());
     ++end_row_;
 }
@@ -114,76 +114,70 @@ void Scrollback::append(Piece& piece, std::span<const Cell> cells) {
     if (cells.empty()) {
         return;
     }
-    constexpr std::uint32_t ascii_mask = 0x7F;
-    std::uint32_t glyphs = 0;
-    std::uint32_t differences = 0;
-    const Cell first = cells.front();
-    for (const Cell& cell : cells) {
-        glyphs |= cell.glyph;
-        differences |= static_cast<std::uint32_t>((cell.style ^ first.style) | (cell.link ^ first.link));
-    }
-    if ((glyphs & ~ascii_mask) == 0 && differences == 0) {
-        append_uniform(piece, cells);
-    } else {
-        append_mixed(piece, cells);
-    }
+    append_runs(piece, cells);
+    append_text(piece, cells);
     piece.cells = static_cast<std::uint16_t>(piece.cells + cells.size());
 }
 
-/// ASCII in one style: most rows are that.
-void Scrollback::append_uniform(Piece& piece, std::span<const Cell> cells) {
-    append_run(piece, {static_cast<std::uint16_t>(cells.size() & 0x7FFF), 0, cells.front().style,
-                       cells.front().link});
-    piece.text = text_.extend(piece.text, cells.size());
-    char* to = text_.at(piece.text) + piece.bytes;
+void Scrollback::append_text(Piece& piece, std::span<const Cell> cells) {
+    std::uint32_t glyphs = 0;
     for (const Cell& cell : cells) {
-        *to++ = static_cast<char>(cell.glyph);
+        glyphs |= cell.glyph;
     }
-    piece.bytes = static_cast<std::uint16_t>(piece.bytes + cells.size());
+    const bool ascii = (glyphs & ~Cell::guarded) < 0x80;
+    piece.text = text_.extend(piece.text, cells.size() * (ascii ? 1 : max_utf8_bytes));
+    char* const begin = text_.at(piece.text) + piece.bytes;
+    char* to = begin;
+    if (ascii) {
+        for (const Cell& cell : cells) {
+            *to++ = static_cast<char>(cell.glyph & 0x7F);
+        }
+    } else {
+        for (const Cell& cell : cells) {
+            to = cell.is_wide_tail() ? to : write_utf8(encode(cell), to);
+        }
+        piece.wide = piece.wide || (glyphs & Cell::wide) != 0;
+    }
+    piece.bytes = static_cast<std::uint16_t>(piece.bytes + (to - begin));
+    text_.truncate(piece.text + piece.bytes);
 }
 
-void Scrollback::append_mixed(Piece& piece, std::span<const Cell> cells) {
-    scratch_.clear();
-    const std::uint16_t cells_before = piece.cells;
+void Scrollback::append_runs(Piece& piece, std::span<const Cell> cells) {
+    const auto attributes = [](const Cell& cell) {
+        return static_cast<std::uint64_t>(cell.glyph & Cell::guarded) << 32 |
+               static_cast<std::uint64_t>(cell.style) << 16 | cell.link;
+    };
+    int before = piece.cells;
     for (std::size_t i = 0; i < cells.size();) {
         const Cell& first = cells[i];
-        const auto same = [&first](const Cell& cell) {
-            return cell.style == first.style && cell.link == first.link &&
-                   ((cell.glyph ^ first.glyph) & Cell::guarded) == 0;
-        };
-        std::size_t end = i;
-        for (; end < cells.size() && same(cells[end]); ++end) {
-            const Cell& cell = cells[end];
-            if (!cell.is_wide_tail()) {
-                append_utf8(encode(cell), scratch_);
-            }
-            piece.wide = piece.wide || cell.is_wide();
+        const std::uint64_t wanted = attributes(first);
+        std::size_t end = i + 1;
+        while (end < cells.size() && attributes(cells[end]) == wanted) {
+            ++end;
         }
         const bool guarded = (first.glyph & Cell::guarded) != 0;
-        append_run(piece, {static_cast<std::uint16_t>((end - i) & 0x7FFF), guarded, first.style, first.link});
-        piece.cells = static_cast<std::uint16_t>(piece.cells + (end - i));  // append_run counts on it
+        const auto length = static_cast<std::uint16_t>(end - i);
+        append_run(piece, before, {length, guarded, first.style, first.link});
+        before += length;
         i = end;
     }
-    piece.cells = cells_before;
-    piece.text = text_.extend(piece.text, scratch_.size());
-    std::copy(scratch_.begin(), scratch_.end(), text_.at(piece.text) + piece.bytes);
-    piece.bytes = static_cast<std::uint16_t>(piece.bytes + scratch_.size());
 }
 
-void Scrollback::append_run(Piece& piece, Run run) {
+/// `before` cells of the piece come before the run.
+void Scrollback::append_run(Piece& piece, int before, Run run) {
     if (piece.run_count == 0) {
-        if (run.style == 0 && run.link == 0 && run.guarded == 0) {
+        if (run.style == 0 && run.link == 0 && !run.guarded) {
             return;
         }
-        if (piece.cells > 0) {
+        if (before > 0) {
             piece.runs = runs_.extend(piece.runs, 1);
-            *runs_.at(piece.runs) = {static_cast<std::uint16_t>(piece.cells & 0x7FFF), 0, 0, 0};
+            *runs_.at(piece.runs) = {static_cast<std::uint16_t>(before), false, 0, 0};
             piece.run_count = 1;
         }
     } else {
-        Run& before = *runs_.at(piece.runs + piece.run_count - 1);
-        if (before.style == run.style && before.link == run.link && before.guarded == run.guarded) {
-            before.length = static_cast<std::uint16_t>((before.length + run.length) & 0x7FFF);
+        Run& last_run = *runs_.at(piece.runs + piece.run_count - 1);
+        if (last_run.style == run.style && last_run.link == run.link && last_run.guarded == run.guarded) {
+            last_run.length = static_cast<std::uint16_t>(last_run.length + run.length);
             return;
         }
     }
@@ -246,7 +240,7 @@ void Scrollback::paint(const Piece& piece, int begin, std::vector<Cell>& cells) 
     for (const Run& run : runs(piece)) {
         const int run_end = run_begin + run.length;
         const int end = std::min(run_end, static_cast<int>(cells.size()));
-        const std::uint32_t guarded = run.guarded != 0 ? Cell::guarded : 0;
+        const std::uint32_t guarded = run.guarded ? Cell::guarded : 0;
         for (int i = std::max(run_begin, 0); i < end; ++i) {
             Cell& cell = cells[static_cast<std::size_t>(i)];
             cell.glyph |= guarded;

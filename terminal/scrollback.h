@@ -9,7 +9,6 @@
 #include <cstdint>
 #include <optional>
 #include <span>
-#include <string>
 #include <vector>
 
 namespace terminal {
@@ -74,11 +73,12 @@ class Scrollback {
   private:
     /// Attributes of consecutive cells. A piece without runs is plain.
     struct Run {
-        std::uint16_t length : 15;
-        std::uint16_t guarded : 1;
+        std::uint16_t length;
+        bool guarded;
         StyleId style;
         LinkId link;
     };
+    static_assert(sizeof(Run) == 8);
     struct Piece {
         std::uint64_t text;
         std::uint64_t runs;
@@ -103,9 +103,9 @@ class Scrollback {
     [[nodiscard]] bool empty() const { return first_ == pieces_.end(); }
     [[nodiscard]] bool joins_last(std::span<const Cell> cells) const;
     void append(Piece& piece, std::span<const Cell> cells);
-    void append_uniform(Piece& piece, std::span<const Cell> cells);
-    void append_mixed(Piece& piece, std::span<const Cell> cells);
-    void append_run(Piece& piece, Run run);
+    void append_text(Piece& piece, std::span<const Cell> cells);
+    void append_runs(Piece& piece, std::span<const Cell> cells);
+    void append_run(Piece& piece, int before, Run run);
 
     [[nodiscard]] Ordinal find_piece(RowId id) const;
     [[nodiscard]] const char* text(const Piece& piece) const;
@@ -128,7 +128,6 @@ class Scrollback {
     RecordStore<char, 65'536> text_;
     RecordStore<Run, 16'384> runs_;
     RecordStore<Piece, 1'024> pieces_;
-    std::string scratch_;
     mutable Ordinal last_found_ = 0;  // rows are asked for one after the other
 };
 

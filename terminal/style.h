@@ -32,9 +32,9 @@ enum class Underline : std::uint8_t { none, single, twofold, curly, dotted, dash
 
 /// What SGR (ECMA-48 8.3.117, and xterm's additions) can say of a character.
 struct Style {
-    Colour foreground;
-    Colour background;
-    Colour underline_colour;  ///< standard: as the foreground
+    Colour foreground{};
+    Colour background{};
+    Colour underline_colour{};  ///< standard: as the foreground
     Underline underline = Underline::none;
     bool bold : 1 = false;
     bool faint : 1 = false;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <span>
@@ -40,10 +41,10 @@ class Utf8Decoder {
 /// characters.
 std::size_t decode_run(std::string_view& bytes, std::span<char32_t> out);
 
-/// Appends a value below 2^21 in UTF-8's pattern. Values above U+10FFFF are for our own use in the
-/// scrollback.
-inline void append_utf8(char32_t value, std::string& out) {
-    const auto put = [&out](char32_t byte) { out.push_back(static_cast<char>(byte)); };
+/// Writes a value below 2^21 in UTF-8's pattern, at most four bytes; returns behind them. Values above
+/// U+10FFFF are for our own use in the scrollback.
+inline char* write_utf8(char32_t value, char* to) {
+    const auto put = [&to](char32_t byte) { *to++ = static_cast<char>(byte); };
     if (value < 0x80) {
         put(value);
     } else if (value < 0x800) {
@@ -59,6 +60,13 @@ inline void append_utf8(char32_t value, std::string& out) {
         put(0x80 | (value >> 6 & 0x3F));
         put(0x80 | (value & 0x3F));
     }
+    return to;
+}
+inline constexpr std::size_t max_utf8_bytes = 4;
+
+inline void append_utf8(char32_t value, std::string& out) {
+    std::array<char, max_utf8_bytes> bytes;
+    out.append(bytes.data(), write_utf8(value, bytes.data()));
 }
 
 /// The first value of text made by `append_utf8`, which is therefore well-formed; moves `text` behind it.

@@ -6,11 +6,18 @@
 namespace terminal {
 
 int character_width(char32_t character) {
-    if (character < 0x300 || character == 0x00AD) {
+    // The most frequent ones without a look into the tables: Latin, Greek, Cyrillic, lines and blocks, Han.
+    const auto within = [character](char32_t first, char32_t last) {
+        return character >= first && character <= last;
+    };
+    if (character < 0x300 || within(0x370, 0x482) || within(0x2500, 0x259F)) {
         return 1;
     }
-    if (character >= 0x4E00 && character <= 0x9FFF) {  // the most frequent wide ones
+    if (within(0x4E00, 0x9FFF)) {
         return 2;
+    }
+    if (within(0x1160, 0x11FF)) {  // vowels and finals of a Hangul syllable
+        return 0;
     }
     const auto code = static_cast<utf8proc_int32_t>(character);
     const int width = utf8proc_charwidth(code);
@@ -22,8 +29,6 @@ int character_width(char32_t character) {
         case UTF8PROC_CATEGORY_ME:
         case UTF8PROC_CATEGORY_CF:
             return 0;
-        case UTF8PROC_CATEGORY_LO:  // the vowels and finals of a Hangul syllable
-            return character >= 0x1160 && character <= 0x11FF ? 0 : 1;
         default:
             return 1;
     }

@@ -1,0 +1,169 @@
+// SPDX-License-Identifier: MIT
+#include "terminal/limits.h"
+
+#include "terminal/intern_table.h"
+#include "tests/terminal/screen_fixture.h"
+
+#include <gtest/gtest.h>
+
+// What a program writes must not cost more memory or time than the limits allow, and must do no harm at them.
+
+namespace terminal {
+namespace {
+
+std::string repeated(std::string_view text, std::size_t count) {
+    std::string out;
+    for (std::size_t i = 0; i < count; ++i) {
+        out += text;
+    }
+    return out;
+}
+
+/// A colour of its own for each number.
+Colour colour(std::size_t number) {
+    const auto byte = [number](unsigned shift) { return static_cast<std::uint8_t>(number >> shift & 0xFF); };
+    return Colour::direct(byte(16), byte(8), byte(0));
+}
+
+std::string coloured_x(std::size_t number) {
+    const Colour value = colour(number);
+    return "\x1b[38;2;" + std::to_string(value.red) + ';' + std::to_string(value.green) + ';' +
+           std::to_string(value.blue) + "mx";
+}
+
+TEST(Limits, HugeCountsAreHarmless) {
+    for (const char* const end : {"@", "A",  "B",  "C",  "D",  "E",  "F",  "G",  "H",  "I",  "J", "K", "L",
+                                  "M", "P",  "S",  "T",  "X",  "Z",  "`",  "a",  "b",  "d",  "e", "g", "r",
+                                  "t", "'}", "'~", " @", " A", "$x", "$z", "$v", "$r", "$t", "${"}) {
+        Screened at;
+        at.terminal.write("x");
+        const std::string count = "\x1b[2147483648";
+        at.terminal.write(
+            repeated(count + end + "\x1b[4294967295;99999999999999999999;2147483647;7" + end, 50));
+        EXPECT_LE(at.terminal.end_row(), 100 * 4 + 4 + 800) << end;
+        at.terminal.write("\x1b[!p\x1b[2J\x1b[Hok");
+        EXPECT_EQ(at.screen(), "ok|||") << end;
+    }
+}
+
+TEST(Limits, ParametersBeyondTheGreatestNumberAreDropped) {
+    Screened at;
+    at.terminal.write("\x1b[" + repeated("0;", max_parameters - 1) + "1;3;4mx");
+    EXPECT_EQ(at.style(0, 0), (Style{.bold = true}));
+}
+
+TEST(Limits, ParameterValueSaturates) {
+    Screened at;
+    at.terminal.write("\x1b[?99999999999$p");
+    EXPECT_EQ(at.recorder.replies, "\x1b[?" + std::to_string(max_parameter_value) + ";0$y");
+}
+
+TEST(Limits, TooLongStringsAreIgnored) {
+    Screened at;
+    const std::string longest(max_string - 2, 'a');
+    at.terminal.write("\x1b]2;" + longest + "\x07");
+    ASSERT_EQ(at.recorder.titles.size(), 1U);
+    EXPECT_EQ(at.recorder.titles[0], longest.substr(0, max_title));
+    at.terminal.write("\x1b]2;" + longest + "b\x07" + "\x1b]2;" + repeated("漢", max_string) + "\x1b\\x");
+    EXPECT_EQ(at.recorder.titles.size(), 1U);
+    EXPECT_EQ(at.screen(), "x|||");
+}
+
+TEST(Limits, TitleIsCutBetweenCharacters) {
+    Screened at;
+    at.terminal.write("\x1b]2;" + repeated("漢", max_title) + "\x07" + "\x1b]2;a" + repeated("漢", 500) +
+                      "\x07");
+    ASSERT_EQ(at.recorder.titles.size(), 2U);
+    EXPECT_EQ(at.recorder.titles[0], repeated("漢", max_title / 3));
+    EXPECT_EQ(at.recorder.titles[1], 'a' + repeated("漢", (max_title - 1) / 3));
+}
+
+TEST(Limits, StylesOutOfUseMakeRoom) {
+    Screened at({10, 4}, 10);
+    const std::size_t count = max_styles + 104;
+    for (std::size_t i = 0; i < count; ++i) {
+        at.terminal.write("\r" + coloured_x(i + 1) + "y");
+    }
+    EXPECT_EQ(at.style(0, 0).foreground, colour(count));
+    EXPECT_EQ(at.style(0, 1).foreground, colour(count));
+}
+
+TEST(Limits, TooManyStylesInUseFallBackToThePlainOne) {
+    Screened at({100, 4}, 2'000);
+    const std::size_t count = max_styles + 2'000;
+    for (std::size_t i = 0; i < count; ++i) {
+        at.terminal.write(coloured_x(i + 1));
+    }
+    const auto first = at.terminal.row(at.terminal.first_row()).cells;
+    EXPECT_EQ(at.terminal.style(first[0].style).foreground, colour(1));
+    const auto last = at.terminal.row(at.terminal.cursor().position.row).cells;
+    EXPECT_EQ(at.terminal.style(last[0].style), Style{});
+    EXPECT_EQ(at.all_text().size(), count);
+}
+
+TEST(Limits, ClustersAreCutAndTheirNumberBounded) {
+    Screened at;
+    at.terminal.write("a" + repeated("\u0301", 10'000));
+    EXPECT_EQ(at.screen(), "a" + repeated("\u0301", max_cluster_characters - 1) + "|||");
+    at.terminal.write("\r\n");
+    for (char32_t base = 0x4E00; base < 0x4E00 + 300; ++base) {  // more clusters than there are numbers
+        for (int mark = 0; mark < 300; ++mark) {
+            std::string text;
+            const auto put = [&text](char32_t value) {
+                text += static_cast<char>(0xE0 | value >> 12);
+                text += static_cast<char>(0x80 | (value >> 6 & 0x3F));
+                text += static_cast<char>(0x80 | (value & 0x3F));
+            };
+            put(base);
+            put(0x1AB0 + static_cast<char32_t>(mark % 15));
+            put(0x1AB0 + static_cast<char32_t>(mark / 15));
+            at.terminal.write(text + '\r');
+        }
+    }
+    at.terminal.write("\x1b[2J\x1b[He\u0301");
+    EXPECT_EQ(at.screen(), "e\u0301|||");
+}
+
+TEST(Limits, LinksAreBounded) {
+    Screened at;
+    const auto link = [](const std::string& address) { return "\x1b]8;;" + address + "\x07x\x1b]8;;\x07\r"; };
+    for (std::size_t i = 0; i < max_links + 10; ++i) {
+        at.terminal.write(link("http://" + std::to_string(i)));
+    }
+    const auto first_link = [&at] {
+        return at.terminal.link(at.terminal.row(at.terminal.screen_top()).cells[0].link);
+    };
+    EXPECT_EQ(first_link(), "http://" + std::to_string(max_links + 9));
+    at.terminal.write(link(std::string(max_link + 1, 'a')));
+    EXPECT_EQ(first_link(), "");
+    at.terminal.write(link("http://a b") + link("http://\xc3\xa4"));
+    EXPECT_EQ(first_link(), "");
+}
+
+TEST(Limits, SizeIsBounded) {
+    Screened at({0, -5});
+    EXPECT_EQ(at.terminal.size(), (Size{min_columns, min_rows}));
+    at.terminal.write("漢字ab");
+    EXPECT_EQ(at.all_text(), "漢字ab");
+    at.terminal.resize({1 << 30, 1 << 30});
+    EXPECT_EQ(at.terminal.size(), (Size{max_columns, max_rows}));
+    EXPECT_EQ(at.all_text(), "漢字ab");
+}
+
+TEST(InternTable, GivesFreedNumbersAnew) {
+    InternTable<std::string> table(4, "");
+    EXPECT_EQ(table.intern("a"), 1U);
+    EXPECT_EQ(table.intern("b"), 2U);
+    EXPECT_EQ(table.intern("c"), 3U);
+    EXPECT_EQ(table.intern("a"), 1U);
+    EXPECT_EQ(table.intern("d"), std::nullopt);
+    EXPECT_TRUE(table.wants_collection());
+    table.retain({true, false, true, false});
+    EXPECT_EQ(table.intern("b"), 2U);
+    EXPECT_EQ(table.intern("d"), 1U);
+    EXPECT_EQ(table[1], "d");
+    EXPECT_EQ(table.size(), 3U);
+}
+
+}  // namespace
+}  // namespace terminal

@@ -1,0 +1,155 @@
+// SPDX-License-Identifier: MIT
+#include "tests/terminal/screen_fixture.h"
+
+#include <array>
+#include <random>
+
+#include <gtest/gtest.h>
+
+namespace terminal {
+namespace {
+
+struct Case {
+    const char* name;
+    std::string input;
+    std::vector<Size> sizes;  ///< from 10 columns by 4 rows on
+    const char* scrollback;
+    const char* screen;
+    const char* cursor;
+};
+
+void PrintTo(const Case& row, std::ostream* out) { *out << row.name; }
+
+class ResizeTable : public testing::TestWithParam<Case> {};
+
+TEST_P(ResizeTable, LeavesTextAndCursor) {
+    Screened at;
+    at.terminal.write(GetParam().input);
+    const std::string text = at.all_text();
+    for (const Size size : GetParam().sizes) {
+        at.terminal.resize(size);
+        EXPECT_EQ(at.terminal.size(), size);
+    }
+    EXPECT_EQ(at.all_text(), text);
+    EXPECT_EQ(at.scrollback(), GetParam().scrollback);
+    EXPECT_EQ(at.screen(), GetParam().screen);
+    EXPECT_EQ(at.cursor(), GetParam().cursor);
+}
+
+const std::string six = "a\r\nb\r\nc\r\nd\r\ne\r\nf";
+
+const Case cases[] = {
+    {"NarrowerWraps", "0123456789", {{4, 4}}, "", "0123>|4567>|89|", "2,2"},
+    {"AndBack", "0123456789", {{4, 4}, {10, 4}}, "", "0123456789|||", "0,9+"},
+    {"WiderJoins", "0123456789abcde", {{20, 4}}, "", "0123456789abcde|||", "0,15"},
+    {"ToItsLengthWrapIsPending", "01234", {{5, 4}}, "", "01234|||", "0,4+"},
+    {"PendingWrapIsResolved", "0123456789", {{12, 4}}, "", "0123456789|||", "0,10"},
+    {"TextThatNoLongerFitsScrollsOff",
+     "one\r\n0123456789\r\ntwo\r\nxyz",
+     {{3, 4}},
+     "one|012>|345>",
+     "678>|9|two|xyz",
+     "3,2+"},
+    {"LowerScrollsOff", six, {{10, 2}}, "a|b|c|d", "e|f", "1,1"},
+    {"LowerGivesUpBlankRowsFirst", "a\r\nb", {{10, 2}}, "", "a|b", "1,1"},
+    {"HigherBringsBack", six, {{10, 5}}, "a", "b|c|d|e|f", "4,1"},
+    {"HigherThanAllThereIs", six, {{10, 8}}, "", "a|b|c|d|e|f||", "5,1"},
+    {"LowerAndBack", six, {{10, 1}, {10, 6}}, "", "a|b|c|d|e|f", "5,1"},
+    {"LineAcrossTheEdgeFlowsWhole",
+     "0123456789abcdefghijABCDEFGHIJ\r\nx\r\ny",
+     {{40, 4}},
+     "",
+     "0123456789abcdefghijABCDEFGHIJ|x|y|",
+     "2,1"},
+    {"WideCharactersMoveWhole", "漢字漢字漢", {{5, 4}}, "", "漢字>|漢字>|漢|", "2,2"},
+    {"WideCharactersAndBack", "漢字漢字漢", {{5, 4}, {3, 6}, {10, 4}}, "", "漢字漢字漢|||", "0,9+"},
+    {"PaddingBeforeAWideCharacterIsNoText", "012345678漢x", {{20, 4}}, "", "012345678漢x|||", "0,12"},
+    {"CursorFollowsItsText", "0123456789abcdef\x1b[1;6H", {{4, 4}}, "", "0123>|4567>|89ab>|cdef", "1,1"},
+    {"CursorInABlankRow", "a\r\n\r\n", {{5, 4}}, "", "a|||", "2,0"},
+    {"CursorBeyondTheText", "ab\x1b[1;8H", {{5, 4}}, "", "ab|||", "0,4"},
+    {"ColoursFlow", "01234567\x1b[41m89", {{9, 4}}, "", "012345678>|9||", "1,1"},
+};
+
+INSTANTIATE_TEST_SUITE_P(Resize, ResizeTable, testing::ValuesIn(cases),
+                         [](const testing::TestParamInfo<Case>& row) { return row.param.name; });
+
+TEST(Resize, AnchorsMoveWithTheirText) {
+    Screened at;
+    at.terminal.write("first\r\n0123456789abcdefghij\r\nx\r\ny\r\nz");
+    ASSERT_EQ(at.scrollback(), "first|0123456789>");
+    const RowId first = at.terminal.first_row();
+    std::array<Position, 5> anchors = {{{first, 2},         // "r" of the first line
+                                        {first + 1, 7},     // "7", in the scrollback
+                                        {first + 2, 3},     // "d", on the screen
+                                        {first + 3, 0},     // "x"
+                                        {first + 2, 10}}};  // behind "j"
+    at.terminal.resize({6, 3}, anchors);
+    const auto at_anchor = [&at](Position place) {
+        return at.row_text(place.row).substr(static_cast<std::size_t>(place.column));
+    };
+    EXPECT_EQ(at.row_text(anchors[0].row), "first");
+    EXPECT_EQ(anchors[0].column, 2);
+    EXPECT_EQ(at_anchor(anchors[1]), "789ab");
+    EXPECT_EQ(at_anchor(anchors[2]), "defgh");
+    EXPECT_EQ(at_anchor(anchors[3]), "x");
+    EXPECT_EQ(at.row_text(anchors[4].row), "ij");
+    EXPECT_EQ(anchors[4].column, 2);
+}
+
+TEST(Resize, AlternateScreenIsCutAndPrimaryFlows) {
+    Screened at;
+    at.terminal.write("0123456789abc\x1b[?1049h\x1b[4;1Hbottom\x1b[1;8Htop\x1b[4;7H");
+    at.terminal.resize({8, 2});
+    EXPECT_EQ(at.screen(), "|bottom");
+    EXPECT_EQ(at.cursor(), "1,6");
+    at.terminal.resize({20, 4});
+    at.terminal.write("\x1b[?1049l!");
+    EXPECT_EQ(at.screen(), "0123456789abc!|||");
+}
+
+TEST(Resize, NarrowingDropsNothingFromAFullScrollback) {
+    Screened at({10, 4}, 20);
+    for (int i = 0; i < 40; ++i) {
+        at.terminal.write("line " + std::to_string(i) + "\r\n");
+    }
+    const std::string before = at.all_text();
+    at.terminal.resize({3, 4});
+    at.terminal.resize({10, 4});
+    EXPECT_EQ(at.all_text(), before);
+    EXPECT_EQ(at.terminal.screen_top() - at.terminal.first_row(), 20);
+    at.terminal.resize({3, 4});
+    for (int i = 0; i < 100; ++i) {
+        at.terminal.write("x\r\n");
+    }
+    EXPECT_EQ(at.terminal.screen_top() - at.terminal.first_row(), 20);
+}
+
+TEST(Resize, TabStopsAndMarginsFitTheNewSize) {
+    Screened at;
+    at.terminal.write("\x1b[2;3r");
+    at.terminal.resize({30, 3});
+    at.terminal.write("\x1b[1;10H\tx\x1b[3;1H\n\ny");
+    EXPECT_EQ(at.screen(), "||y");
+    EXPECT_EQ(at.scrollback(), "                x|");
+}
+
+// Any walk through sizes leaves the text as it was.
+TEST(Resize, RandomWalkKeepsAllText) {
+    std::mt19937 random(7);
+    const auto below = [&random](int limit) {
+        return static_cast<int>(random() % static_cast<unsigned>(limit));
+    };
+    Screened at({30, 8}, 100'000);
+    for (int i = 0; i < 200; ++i) {
+        for (int word = below(20); word >= 0; --word) {
+            at.terminal.write(below(4) == 0 ? "漢字" : below(5) == 0 ? "\x1b[31mré\u0301d\x1b[0m" : "word ");
+        }
+        at.terminal.write("\r\n");
+        const std::string before = at.all_text();
+        at.terminal.resize({2 + below(60), 1 + below(20)});
+        ASSERT_EQ(at.all_text(), before) << "after line " << i;
+    }
+}
+
+}  // namespace
+}  // namespace terminal
