@@ -21,8 +21,7 @@ class PaneWidget final : public QWidget {
 
     [[nodiscard]] TerminalSession& session() { return session_; }
     [[nodiscard]] TerminalView& view() { return *view_; }
-    void set_bell_callback(std::function<void()> callback) { on_bell_ = std::move(callback); }
-    void set_end_callback(std::function<void()> callback) { on_end_ = std::move(callback); }
+    void set_events(TerminalPane::Events events) { events_ = std::move(events); }
 
   private:
     void show_menu(QPoint place);
@@ -31,11 +30,16 @@ class PaneWidget final : public QWidget {
     QScrollBar* scroll_bar_;
     TerminalView* view_;
     TerminalFindBar* find_bar_;
-    std::function<void()> on_bell_;
-    std::function<void()> on_end_;
+    TerminalPane::Events events_;
 };
 
 namespace {
+
+void call(const std::function<void()>& callback) {
+    if (callback) {
+        callback();
+    }
+}
 
 /// The scroll bar stands in the terminal's dark frame.
 QPalette scroll_bar_palette() {
@@ -72,16 +76,11 @@ PaneWidget::PaneWidget(QWidget* parent)
                          .bell =
                              [this] {
                                  view_->ring();
-                                 if (on_bell_) {
-                                     on_bell_();
-                                 }
+                                 call(events_.bell);
                              },
-                         .ended =
-                             [this] {
-                                 if (on_end_) {
-                                     on_end_();
-                                 }
-                             }});
+                         .ready = [this] { call(events_.ready); },
+                         .ended = [this] { call(events_.ended); },
+                         .restarted = [this] { call(events_.restarted); }});
 }
 
 void PaneWidget::show_menu(QPoint place) {
@@ -149,11 +148,9 @@ pid_t TerminalPane::child() const {
     return pty != nullptr ? pty->child() : -1;
 }
 
-void TerminalPane::on_bell(std::function<void()> callback) { pane_->set_bell_callback(std::move(callback)); }
+void TerminalPane::set_events(Events events) { pane_->set_events(std::move(events)); }
 
-void TerminalPane::on_end(std::function<void()> callback) { pane_->set_end_callback(std::move(callback)); }
-
-void ttysw_input(TerminalPane& pane, std::string_view text) { pane.pane_->session().type(text); }
+void ttysw_input(TerminalPane& pane, std::string_view text) { pane.pane_->session().submit(text); }
 
 void ttysw_output(TerminalPane& pane, std::string_view text) { pane.pane_->session().show(text); }
 

@@ -61,9 +61,14 @@ class TerminalPane {
     /// The program's process, -1 when none runs.
     [[nodiscard]] pid_t child() const;
 
-    /// Called when the bell rings, and when the program has ended and this was announced.
-    void on_bell(std::function<void()> callback);
-    void on_end(std::function<void()> callback);
+    /// What the pane tells its owner, from the event loop.
+    struct Events {
+        std::function<void()> bell;
+        std::function<void()> ready;      ///< a program that was started is ready for commands
+        std::function<void()> ended;      ///< it has ended and this was announced
+        std::function<void()> restarted;  ///< the user has started it anew
+    };
+    void set_events(Events events);
 
   private:
     PaneWidget* pane_;  ///< owned by its parent
@@ -73,9 +78,9 @@ class TerminalPane {
     friend void textsw_possibly_normalize(TerminalPane& pane);
 };
 
-/// Types text into the pane's program: in order, and nothing is lost, also before the program runs. Once it
-/// has ended and until Return starts a new one, text is dropped: what was meant for one shell must not run in
-/// the next.
+/// Types text into the pane's program: in order, and nothing is lost. Before the program runs, and until it
+/// has worked through its start-up files, the text waits. Once it has ended and until Return starts a new
+/// one, text is dropped: what was meant for one shell must not run in the next.
 void ttysw_input(TerminalPane& pane, std::string_view text);
 /// Shows text in the pane only; the program does not see it.
 void ttysw_output(TerminalPane& pane, std::string_view text);

@@ -9,6 +9,7 @@
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QTextCursor>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -18,24 +19,42 @@ namespace {
 // Enough to see what it is; laying out a huge text would hold up everything else.
 constexpr std::size_t shown_bytes = 32 * 1024;
 
-/// Each line with its end shown, so that a line end cannot hide.
-QString shown_text(const std::string& text) {
-    const std::string_view shown = std::string_view(text).substr(0, shown_bytes);
-    QString result;
-    std::size_t begin = 0;
-    while (begin < shown.size()) {
-        const std::size_t end = std::min(shown.find('\n', begin), shown.size());
-        const bool ended = end < shown.size();
-        result += visible_text(shown.substr(begin, end - begin + (ended ? 1 : 0)));
-        if (ended) {
-            result += u'\n';
+/// What stands for a control character: "^C" as the terminal would echo it, and an arrow for a line end.
+QString picture(char16_t control) {
+    if (control == u'\n' || control == u'\r') {
+        return QStringLiteral("\u21b5");
+    }
+    if (control < 0x20 || control == 0x7f) {
+        return QStringLiteral("^%1").arg(QChar(static_cast<char16_t>(control ^ 0x40)));
+    }
+    return QStringLiteral("<%1>").arg(control, 2, 16, QChar(u'0'));
+}
+
+bool is_control(QChar c) { return c.unicode() < 0x20 || (c.unicode() >= 0x7f && c.unicode() < 0xa0); }
+
+/// Fills the view with the beginning of the text. Pictures of control characters are marked by colour, so
+/// that they cannot be mistaken for the characters they are made of.
+void show_text(QPlainTextEdit& view, const std::string& text) {
+    QTextCharFormat mark;
+    mark.setBackground(QColor(0xff, 0xd9, 0x80));
+    const QString shown = to_qstring(std::string_view(text).substr(0, shown_bytes));
+    QTextCursor cursor = view.textCursor();
+    qsizetype plain_from = 0;
+    for (qsizetype at = 0; at <= shown.size(); ++at) {
+        if (at < shown.size() && !is_control(shown[at])) {
+            continue;
         }
-        begin = end + 1;
+        cursor.insertText(shown.mid(plain_from, at - plain_from), QTextCharFormat());
+        plain_from = at + 1;
+        if (at < shown.size()) {
+            cursor.insertText(picture(shown[at].unicode()), mark);
+            cursor.insertText(shown[at] == u'\n' ? QStringLiteral("\n") : QString(), QTextCharFormat());
+        }
     }
-    if (text.size() > shown.size()) {
-        result += QStringLiteral("\n... and %1 bytes more").arg(text.size() - shown.size());
+    if (text.size() > shown_bytes) {
+        cursor.insertText(QStringLiteral("\n... and %1 bytes more").arg(text.size() - shown_bytes), mark);
     }
-    return result;
+    view.moveCursor(QTextCursor::Start);
 }
 
 QString summary(const std::string& text) {
@@ -58,7 +77,8 @@ void review_paste(QWidget* parent, const std::string& text, std::function<void()
     auto* label = new QLabel(summary(text), dialog);
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
-    auto* view = new QPlainTextEdit(shown_text(text), dialog);
+    auto* view = new QPlainTextEdit(dialog);
+    show_text(*view, text);
     view->setReadOnly(true);
     view->setAccessibleName(QStringLiteral("Text to be pasted"));
     view->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));

@@ -17,6 +17,11 @@ constexpr std::size_t slice_bytes = 256 * 1024;
 constexpr int slice_milliseconds = 3;
 constexpr int update_limit_milliseconds = 150;
 constexpr int hung_up_interval_milliseconds = 100;
+// A program that reads lines and has no line editor is taken to be ready when it has written its prompt and
+// gone quiet, or at the latest after the limit.
+constexpr int readiness_interval_milliseconds = 10;
+constexpr int quiet_milliseconds = 100;
+constexpr int readiness_limit_milliseconds = 1500;
 // Output can ask for answers faster than a program that does not listen takes them.
 constexpr std::size_t unread_replies_limit = 1024 * 1024;
 
@@ -45,16 +50,25 @@ TerminalSession::TerminalSession() : terminal_(terminal::Options{}, *this) {
     hung_up_.setInterval(hung_up_interval_milliseconds);
     hung_up_.setSingleShot(true);
     QObject::connect(&hung_up_, &QTimer::timeout, [this] { readable_->setEnabled(true); });
+    readiness_.setInterval(readiness_interval_milliseconds);
+    QObject::connect(&readiness_, &QTimer::timeout, [this] { watch_readiness(); });
 }
 
 TerminalSession::~TerminalSession() = default;
 
 void TerminalSession::start(const terminal::Program& program) {
     program_ = program;
-    restart();
+    run();
 }
 
 void TerminalSession::restart() {
+    run();
+    if (state_ == State::starting && events_.restarted) {
+        events_.restarted();
+    }
+}
+
+void TerminalSession::run() {
     if (!program_) {
         return;
     }
@@ -63,10 +77,14 @@ void TerminalSession::restart() {
     pty_ = terminal::Pty::start(*program_, terminal_.size(), error);
     if (!pty_) {
         state_ = State::ended;
+        held_back_.clear();
         announce(fmt::format("[shell can't be started: {}; press Return to try again]", error));
         return;
     }
-    state_ = State::running;
+    state_ = State::starting;
+    since_start_.start();
+    since_output_.invalidate();
+    readiness_.start();
     pty_->resize(terminal_.size(), pixel_width_, pixel_height_);
     readable_ = std::make_unique<QSocketNotifier>(pty_->descriptor(), QSocketNotifier::Read);
     QObject::connect(readable_.get(), &QSocketNotifier::activated, [this] { read_slice(); });
@@ -77,22 +95,42 @@ void TerminalSession::restart() {
         exited_ = std::make_unique<QSocketNotifier>(pty_->exit_descriptor(), QSocketNotifier::Read);
         QObject::connect(exited_.get(), &QSocketNotifier::activated, [this] { check_for_end(); });
     }
-    if (!waiting_.empty()) {
-        type(std::exchange(waiting_, {}));
-    }
 }
 
 void TerminalSession::type(std::string_view bytes) {
-    switch (state_) {
-        case State::idle:
-            waiting_.append(bytes);
-            break;
-        case State::ended:
-            break;
-        case State::running:
-            pty_->write(bytes);
-            writable_->setEnabled(pty_->pending() > 0);
-            break;
+    if (pty_) {
+        pty_->write(bytes);
+        writable_->setEnabled(pty_->pending() > 0);
+    }
+}
+
+void TerminalSession::submit(std::string_view bytes) {
+    if (state_ == State::idle || state_ == State::starting) {
+        held_back_.append(bytes);
+    } else {
+        type(bytes);
+    }
+}
+
+/// A line editor, which reads characters, is sure to be a shell at its prompt. Where nothing is echoed, a
+/// password is being asked for.
+bool TerminalSession::is_ready() const {
+    if (!pty_->reads_lines()) {
+        return true;
+    }
+    const bool prompted = since_output_.isValid() && since_output_.hasExpired(quiet_milliseconds);
+    return pty_->echoes() && (prompted || since_start_.hasExpired(readiness_limit_milliseconds));
+}
+
+void TerminalSession::watch_readiness() {
+    if (!is_ready()) {
+        return;
+    }
+    readiness_.stop();
+    state_ = State::running;
+    type(std::exchange(held_back_, {}));
+    if (events_.ready) {
+        events_.ready();
     }
 }
 
@@ -163,8 +201,11 @@ void TerminalSession::read_slice() {
         note_update_state();
         total += result.size;
     }
-    if (total > 0 && events_.changed) {
-        events_.changed();
+    if (total > 0) {
+        since_output_.start();
+        if (events_.changed) {
+            events_.changed();
+        }
     }
     if (state == terminal::Pty::ReadState::hung_up) {
         // Nobody holds the terminal open. Most likely the program has ended; else somebody may open it again.
@@ -196,6 +237,7 @@ void TerminalSession::finish(int status) {
         result = pty_->read(buffer);
     }
     state_ = State::ended;
+    held_back_.clear();
     drop_pty();
     announce(end_text(status));
 }
@@ -216,6 +258,7 @@ void TerminalSession::announce(const std::string& text) {
 
 void TerminalSession::drop_pty() {
     hung_up_.stop();
+    readiness_.stop();
     // May be called by one of the notifiers itself.
     for (auto* notifier : {&readable_, &writable_, &exited_}) {
         if (*notifier) {

@@ -23,7 +23,9 @@ class TerminalSession final : private terminal::Client {
     struct Events {
         std::function<void()> changed;  ///< the terminal was written to
         std::function<void()> bell;
-        std::function<void()> ended;  ///< the program has ended and this was announced
+        std::function<void()> ready;      ///< a program that was started is ready for commands
+        std::function<void()> ended;      ///< the program has ended and this was announced
+        std::function<void()> restarted;  ///< the user has started it anew
     };
 
     TerminalSession();
@@ -36,10 +38,13 @@ class TerminalSession final : private terminal::Client {
     void start(const terminal::Program& program);
     void restart();
 
-    /// Queues bytes for the program, in order and without loss. What comes before the first start waits for
-    /// it. What comes after the program has ended is dropped: the announcement is still the last line to be
-    /// seen, and a later shell must not run what was meant for an earlier one.
+    /// Queues bytes for the program, in order and without loss. After it has ended they are dropped: the
+    /// announcement is still the last line to be seen, and a later shell must not run what was meant for an
+    /// earlier one.
     void type(std::string_view bytes);
+    /// The same for the tool's own commands: while the program is still busy with its start-up files they are
+    /// held back, so that no question asked there takes them for the answer.
+    void submit(std::string_view bytes);
     /// Shows a text that the program does not see.
     void show(std::string_view text);
 
@@ -57,7 +62,7 @@ class TerminalSession final : private terminal::Client {
     [[nodiscard]] bool update_is_open() const;
 
   private:
-    enum class State : std::uint8_t { idle, running, ended };
+    enum class State : std::uint8_t { idle, starting, running, ended };
 
     void reply(std::string_view bytes) override;
     void bell() override;
@@ -69,7 +74,10 @@ class TerminalSession final : private terminal::Client {
     void finish(int status);
     void announce(const std::string& text);
     void note_update_state();
+    void run();
     void drop_pty();
+    void watch_readiness();
+    [[nodiscard]] bool is_ready() const;
 
     Events events_;
     terminal::Terminal terminal_;
@@ -80,7 +88,10 @@ class TerminalSession final : private terminal::Client {
     std::unique_ptr<QSocketNotifier> exited_;
     QTimer hung_up_;  ///< looks after a program that has closed its terminal but not ended
     State state_ = State::idle;
-    std::string waiting_;  ///< typed before the first start
+    std::string held_back_;  ///< submitted before the program was ready
+    QTimer readiness_;
+    QElapsedTimer since_start_;
+    QElapsedTimer since_output_;  ///< valid once a starting program has written something
     int pixel_width_ = 0;
     int pixel_height_ = 0;
     QElapsedTimer update_open_;  ///< since when mode 2026 is on

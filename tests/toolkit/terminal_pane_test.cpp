@@ -107,7 +107,8 @@ TEST_F(TerminalPaneTest, OutputOfTheToolIsNotSeenByTheProgram) {
 
 TEST_F(TerminalPaneTest, EndOfTheShellIsAnnouncedAndReturnStartsANewOne) {
     int ended = 0;
-    pane.on_end([&ended] { ++ended; });
+    int restarted = 0;
+    pane.set_events({.ended = [&ended] { ++ended; }, .restarted = [&restarted] { ++restarted; }});
     start("echo up; read a; printf 'got %s' \"$a\"; exit 3");
     ASSERT_TRUE(wait_for_text("up"));
     const pid_t first = pane.child();
@@ -120,11 +121,26 @@ TEST_F(TerminalPaneTest, EndOfTheShellIsAnnouncedAndReturnStartsANewOne) {
     ttysw_input(pane, "not for the next shell\n");
     press(Qt::Key_A);
     EXPECT_EQ(pane.child(), -1);
+    EXPECT_EQ(restarted, 0);
     press(Qt::Key_Return);
+    EXPECT_EQ(restarted, 1);
     EXPECT_NE(pane.child(), -1);
     EXPECT_NE(pane.child(), first);
     ttysw_input(pane, "y\n");
     EXPECT_TRUE(wait_for_text("got y")) << text();
+}
+
+TEST_F(TerminalPaneTest, QuestionAtTheStartIsLeftToTheUser) {
+    int ready = 0;
+    pane.set_events({.ready = [&ready] { ++ready; }});
+    start("stty -echo; printf 'password: '; read a; stty echo; echo; read b; echo \"got $a, $b\"");
+    ttysw_input(pane, "command\n");
+    ASSERT_TRUE(wait_for_text("password: "));
+    press(Qt::Key_X);
+    EXPECT_EQ(ready, 0);
+    press(Qt::Key_Return);
+    EXPECT_TRUE(wait_for_text("got x, command")) << text();
+    EXPECT_EQ(ready, 1);
 }
 
 TEST_F(TerminalPaneTest, KilledFullScreenProgramLeavesATidyTerminal) {
@@ -219,7 +235,7 @@ TEST_F(TerminalPaneTest, StateOfTheShellIsKnown) {
 
 TEST_F(TerminalPaneTest, BellIsPassedOn) {
     int bells = 0;
-    pane.on_bell([&bells] { ++bells; });
+    pane.set_events({.bell = [&bells] { ++bells; }});
     start("printf '\\a'");
     EXPECT_TRUE(wait([&bells] { return bells == 1; }));
 }
