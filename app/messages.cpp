@@ -3,6 +3,7 @@
 
 #include "toolkit/frame.h"
 #include "toolkit/text_pane.h"
+#include "ui/message_board.h"
 
 #include <algorithm>
 #include <array>
@@ -33,6 +34,8 @@ void display_message(TextPane& pane, std::string_view text) {
     textsw_insert(pane, text);
     textsw_possibly_normalize(pane);
 }
+
+void report(std::string_view text) { display_message(message_board().text, text); }
 
 void show_caret(TextPane& pane) {
     textsw_set_insertion_point(pane, textsw_infinity);

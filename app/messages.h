@@ -8,6 +8,8 @@ class TextPane;
 
 /// Appends a text to a text pane and scrolls it into view.
 void display_message(TextPane& pane, std::string_view text);
+/// Appends a text to the Message Board.
+void report(std::string_view text);
 /// Puts the insertion point at the end of a text pane and scrolls it into view.
 void show_caret(TextPane& pane);
 /// Empties a text pane; edits are discarded.

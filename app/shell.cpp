@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/shell.h"
 
+#include "app/messages.h"
 #include "app/process.h"
 #include "app/quoting.h"
 #include "app/text.h"
@@ -55,6 +56,14 @@ std::string type_line(std::string_view text) {
     }
     ttysw_input(pane, std::string(text) + "\n");
     return {};
+}
+
+bool type_or_report(const std::string& text) {
+    const std::string refusal = type_line(text);
+    if (!refusal.empty()) {
+        report(fmt::format("{}: {}\n", refusal, text));
+    }
+    return refusal.empty();
 }
 
 std::string get_seln() {

@@ -15,6 +15,8 @@ terminal::Program login_shell();
 /// Types a text followed by a line feed. Returns an empty text, or why it was not typed: it holds a control
 /// character, or is longer than the shell's terminal takes in one line.
 [[nodiscard]] std::string type_line(std::string_view text);
+/// The same; a refusal goes to the Message Board. Whether the text was typed.
+bool type_or_report(const std::string& text);
 
 /// The primary selection as text; empty when there is none or it is longer than 999 characters.
 std::string get_seln();

@@ -5,10 +5,10 @@
 #include "app/messages.h"
 #include "app/options.h"
 #include "app/process.h"
-#include "app/prompt_hook.h"
 #include "app/quoting.h"
 #include "app/shell.h"
 #include "app/status.h"
+#include "app/status_file.h"
 #include "app/termpane.h"
 #include "app/title.h"
 #include "browsers/expand_path.h"
@@ -29,19 +29,9 @@
 
 namespace {
 
-constexpr int status_display_on = 0;
-constexpr int refresh_after_command = 500;
-constexpr int refresh_after_login = 999;
-
-void report(std::string_view message) { display_message(message_board().text, message); }
-
-/// Types a line; what cannot be typed is reported with the reason.
-void type_or_report(const std::string& line, int refresh) {
-    const std::string refusal = type_line(line);
-    if (refusal.empty()) {
+void type_and_refresh(const std::string& line, int refresh) {
+    if (type_or_report(line)) {
         SetupTimer(refresh);
-    } else {
-        report(refusal + ": " + line + "\n");
     }
 }
 
@@ -56,7 +46,7 @@ void type_with_path(const std::string& command, const std::string& path) {
     const std::optional<std::string> word =
         path.empty() ? path : shell_word(path_meant(path), shell_family(shell_name));
     if (word) {
-        type_or_report(command + " " + *word, refresh_after_command);
+        type_and_refresh(command + " " + *word, refresh_after_command);
     } else {
         report("Name can't be typed into the shell: " + path + "\n");
     }
@@ -73,6 +63,10 @@ void connect_to_display(std::vector<std::string>& arguments) {
 void make_windows() {
     create_windows();
     apply_geometry_option(main_window());
+    // A shell that takes its time is read once it is there; one that the user has restarted knows no hook
+    // yet.
+    main_window().termpane.set_events(
+        {.ready = [] { SetupTimer(refresh_after_login); }, .restarted = [] { (void)type_prompt_hooks(); }});
     main_window().termpane.start(login_shell());
 }
 
@@ -119,16 +113,8 @@ void type_environment_file() {
     }
 }
 
-/// The hook of each kind that fits the shell is shown, and typed where its status is wanted.
-void type_prompt_hooks() {
-    const std::string status_file = status_display().status_file.text();
-    for (const PromptHook& hook : prompt_hooks(shell_name, ClearCaseUsage::off, status_file)) {
-        environment_setup().precmd.set_text(hook.text);
-        environment_setup().precmd.show_beginning();
-        if (status_display().display.value() != status_display_on) {
-            continue;
-        }
-        type_or_report(hook.text, refresh_after_login);
+void type_first_prompt_hooks() {
+    for (const PromptHook& hook : type_prompt_hooks()) {
         if (hook.kind == HookKind::bash) {
             ttysw_output(
                 main_window().termpane,
@@ -139,7 +125,7 @@ void type_prompt_hooks() {
 
 void log_in_to(const std::string& host) {
     if (host.empty() || is_host_name(host)) {
-        type_or_report("rlogin " + host, refresh_after_login);
+        type_and_refresh("rlogin " + host, refresh_after_login);
     } else {
         report("Not a host name: " + host + "\n");
     }
@@ -164,7 +150,7 @@ void start_up(std::vector<std::string> arguments) {
         type_with_path("cd", options.workdir);
     }
     show_title();
-    type_prompt_hooks();
+    type_first_prompt_hooks();
     if (options.host) {
         log_in_to(options.hostname);
     }

@@ -1,10 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "app/status.h"
 
+#include "app/messages.h"
 #include "app/notify.h"
+#include "app/process.h"
+#include "app/shell.h"
+#include "app/status_file.h"
 #include "app/text.h"
 #include "toolkit/timer.h"
 #include "ui/default_settings.h"
+#include "ui/environment_setup.h"
 #include "ui/main_window.h"
 #include "ui/process_information.h"
 #include "ui/status_display.h"
@@ -38,6 +43,20 @@ void DisplayStatusTimer() {
     default_settings().prompt.set_text(remove_trailing_spaces(status.prompt));
     main_window().set_right_footer(
         status_line(status, status_display().enable.value(), process_information().process_id.value()));
+}
+
+std::vector<PromptHook> type_prompt_hooks() {
+    std::vector<PromptHook> typed;
+    for (PromptHook& hook :
+         prompt_hooks(shell_name, ClearCaseUsage::off, status_display().status_file.text())) {
+        environment_setup().precmd.set_text(hook.text);
+        environment_setup().precmd.show_beginning();
+        if (status_display().display.value() == display_on && type_or_report(hook.text)) {
+            SetupTimer(refresh_after_login);
+            typed.push_back(std::move(hook));
+        }
+    }
+    return typed;
 }
 
 void end_status_display() {

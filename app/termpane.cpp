@@ -6,8 +6,6 @@
 
 namespace {
 
-constexpr int refresh_after_command = 500;
-
 /// Sees every key before the terminal pane does. A released Return means that a command has been given: the
 /// shell will have written its new state soon.
 bool termpane_event_proc(KeyEvent& event) {

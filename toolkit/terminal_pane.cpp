@@ -75,8 +75,9 @@ PaneWidget::PaneWidget(QWidget* parent)
     session_.set_events({.changed = [this] { view_->content_changed(); },
                          .bell =
                              [this] {
-                                 view_->ring();
-                                 call(events_.bell);
+                                 if (view_->ring()) {
+                                     call(events_.bell);
+                                 }
                              },
                          .ready = [this] { call(events_.ready); },
                          .ended = [this] { call(events_.ended); },

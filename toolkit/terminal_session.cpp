@@ -22,6 +22,7 @@ constexpr int hung_up_interval_milliseconds = 100;
 constexpr int readiness_interval_milliseconds = 10;
 constexpr int quiet_milliseconds = 100;
 constexpr int readiness_limit_milliseconds = 1500;
+constexpr int password_limit_milliseconds = 60'000;
 // Output can ask for answers faster than a program that does not listen takes them.
 constexpr std::size_t unread_replies_limit = 1024 * 1024;
 
@@ -113,13 +114,16 @@ void TerminalSession::submit(std::string_view bytes) {
 }
 
 /// A line editor, which reads characters, is sure to be a shell at its prompt. Where nothing is echoed, a
-/// password is being asked for.
+/// password is being asked for, which may take its user a while.
 bool TerminalSession::is_ready() const {
     if (!pty_->reads_lines()) {
         return true;
     }
+    if (!pty_->echoes()) {
+        return since_start_.hasExpired(password_limit_milliseconds);
+    }
     const bool prompted = since_output_.isValid() && since_output_.hasExpired(quiet_milliseconds);
-    return pty_->echoes() && (prompted || since_start_.hasExpired(readiness_limit_milliseconds));
+    return prompted || since_start_.hasExpired(readiness_limit_milliseconds);
 }
 
 void TerminalSession::watch_readiness() {

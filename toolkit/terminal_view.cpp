@@ -243,6 +243,9 @@ void TerminalView::refresh() {
     if (selection_.drop_if_changed()) {
         mouse_.selecting = false;
     }
+    if (!follows_output_ && view_top_ >= terminal().screen_top()) {
+        follows_output_ = true;  // the text was cleared
+    }
     update_scroll_bar();
     repaint_all_if_colours_changed();
     const RowId top = top_row();
@@ -309,14 +312,15 @@ void TerminalView::restart_cursor_blinking() {
     }
 }
 
-void TerminalView::ring() {
+bool TerminalView::ring() {
     if (since_bell_.isValid() && !since_bell_.hasExpired(bell_interval_milliseconds)) {
-        return;
+        return false;
     }
     since_bell_.start();
     QApplication::beep();
     flash_timer_.start(flash_milliseconds, this);
     update();
+    return true;
 }
 
 void TerminalView::timerEvent(QTimerEvent* event) {

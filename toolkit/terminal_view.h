@@ -35,8 +35,8 @@ class TerminalView final : public QWidget {
 
     /// The terminal has changed: it is painted with the next frame.
     void content_changed();
-    /// A short flash and a sound; bells that follow too soon are passed over.
-    void ring();
+    /// A short flash and a sound. Bells that follow too soon are passed over: false.
+    bool ring();
 
     [[nodiscard]] const terminal::Terminal& terminal() const { return session_.terminal(); }
     [[nodiscard]] QSize sizeHint() const override;

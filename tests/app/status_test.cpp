@@ -2,6 +2,7 @@
 #include "app/status.h"
 
 #include "app/notify.h"
+#include "app/status_file.h"
 #include "tests/support/scratch_directory.h"
 #include "ui/default_settings.h"
 #include "ui/main_window.h"

@@ -63,7 +63,7 @@ TEST_F(TerminalPaneTest, InputBeforeTheStartWaitsAndKeepsItsOrder) {
 }
 
 TEST_F(TerminalPaneTest, LargeInputArrivesWhole) {
-    start("stty -echo; echo ready; head -c 400000 | sha1sum");
+    start("stty raw -echo; echo ready; head -c 400000 | sha1sum");
     ASSERT_TRUE(wait_for_text("ready"));
     std::string input;
     while (input.size() < 400'000) {
@@ -222,11 +222,11 @@ TEST_F(TerminalPaneTest, ProgramIsToldTheNewSize) {
 }
 
 TEST_F(TerminalPaneTest, StateOfTheShellIsKnown) {
-    start("stty -echo; printf 'one\\nprompt> '; read a; stty -icanon; echo raw; exec cat");
+    start("printf 'one\\nprompt> '; read a; stty -icanon; echo raw; exec cat");
     ASSERT_TRUE(wait_for_text("prompt> "));
     EXPECT_EQ(pane.line_to_cursor_text(), "prompt> ");
     EXPECT_TRUE(pane.reads_lines());
-    ttysw_input(pane, "\n");
+    press(Qt::Key_Return);
     ASSERT_TRUE(wait_for_text("raw"));
     EXPECT_FALSE(pane.reads_lines());
     pane.clear();
