@@ -36,7 +36,9 @@ class FrameWidget : public QWidget {
         column->setSpacing(0);
         areas = new QVBoxLayout;
         areas->setSpacing(0);
-        column->addLayout(areas, 1);
+        column->addLayout(areas);
+        // Takes the height that no area wants.
+        column->addSpacerItem(new QSpacerItem(0, 0, QSizePolicy::Minimum, QSizePolicy::Preferred));
         auto* footers = new QHBoxLayout;
         footers->setContentsMargins(8, 3, 8, 4);
         footers->setSpacing(16);
@@ -147,10 +149,7 @@ void Frame::place_beside_base(int right, int down) {
 
 void Frame::on_close(Notify notify) { widget_->close_notify = notify; }
 
-void Frame::add(std::string_view /*label*/, QWidget* area) {
-    const bool takes_height = (area->sizePolicy().verticalPolicy() & QSizePolicy::ExpandFlag) != 0;
-    widget_->areas->addWidget(area, takes_height ? 1 : 0, takes_height ? Qt::Alignment() : Qt::AlignTop);
-}
+void Frame::add(std::string_view /*label*/, QWidget* area) { widget_->areas->addWidget(area); }
 
 QWidget* Frame::widget() const { return widget_; }
 

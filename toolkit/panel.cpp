@@ -26,11 +26,15 @@ Panel::Panel(Container& parent) : widget_(new QWidget(parent.widget())), layout_
     layout_->setHorizontalSpacing(spacing + 2);
     layout_->setVerticalSpacing(spacing);
     layout_->setColumnStretch(1, 1);
+    widget_->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
     parent.add({}, widget_);
 }
 
 void Panel::add(std::string_view label, QWidget* control) {
     const int row = layout_->rowCount();
+    if ((control->sizePolicy().verticalPolicy() & QSizePolicy::ExpandFlag) != 0) {
+        widget_->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
+    }
     if (label.empty()) {
         layout_->addWidget(control, row, 0, 1, 2);
         return;

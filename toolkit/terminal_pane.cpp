@@ -69,6 +69,7 @@ PaneWidget::PaneWidget(QWidget* parent)
     layout->setRowStretch(0, 1);
     layout->setColumnStretch(0, 1);
     setFocusProxy(view_);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 
     view_->set_menu_callback([this](QPoint place) { show_menu(place); });
     view_->set_find_callback([this] { find_bar_->open(); });
