@@ -1,35 +1,25 @@
 // SPDX-License-Identifier: MIT
 #include "toolkit/choices.h"
 
+#include "toolkit/accessible_role.h"
 #include "toolkit/text_conversion.h"
 
 #include <QAbstractButton>
-#include <QAccessibleWidget>
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QHBoxLayout>
 #include <QRadioButton>
+#include <QWidget>
 
 namespace {
-
-/// The widget around the items of one choice: its only job is to be a group that assistive programs can name.
-class ChoiceGroup : public QWidget {
-  public:
-    using QWidget::QWidget;
-};
-
-QAccessibleInterface* make_accessible_group(const QString& /*key*/, QObject* object) {
-    auto* group = dynamic_cast<ChoiceGroup*>(object);
-    return group == nullptr ? nullptr : new QAccessibleWidget(group, QAccessible::Grouping);
-}
 
 enum class Exclusive : bool { no, yes };
 
 template <typename Item>
 QButtonGroup* make_items(Container& parent, std::string_view label,
                          std::initializer_list<std::string_view> items, Exclusive exclusive, Notify notify) {
-    QAccessible::installFactory(make_accessible_group);  // a second installation is ignored
-    auto* group = new ChoiceGroup(parent.widget());
+    auto* group = new QWidget(parent.widget());
+    set_accessible_role(*group, QAccessible::Grouping);
     group->setAccessibleName(to_qstring(label));
     auto* layout = new QHBoxLayout(group);
     layout->setContentsMargins(0, 0, 0, 0);

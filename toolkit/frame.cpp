@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "toolkit/frame.h"
 
+#include "toolkit/accessible_role.h"
 #include "toolkit/footer.h"
 #include "toolkit/text_conversion.h"
 
@@ -77,6 +78,7 @@ Frame::Frame(std::string_view label)
     if (base_frame == nullptr) {
         base_frame = this;
     }
+    set_accessible_role(*widget_, base_frame == this ? QAccessible::Window : QAccessible::Dialog);
     set_label(label);
 }
 
@@ -149,7 +151,12 @@ void Frame::place_beside_base(int right, int down) {
 
 void Frame::on_close(Notify notify) { widget_->close_notify = notify; }
 
-void Frame::add(std::string_view /*label*/, QWidget* area) { widget_->areas->addWidget(area); }
+void Frame::add(std::string_view /*label*/, QWidget* area) {
+    widget_->areas->addWidget(area);
+    // Assistive programs read the areas first.
+    widget_->left_footer->raise();
+    widget_->right_footer->raise();
+}
 
 QWidget* Frame::widget() const { return widget_; }
 

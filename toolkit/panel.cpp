@@ -16,6 +16,7 @@ QLabel* make_label(std::string_view text, QWidget* control, QWidget* parent) {
     auto* label = new QLabel(without_mnemonic(text), parent);
     label->setTextFormat(Qt::PlainText);
     label->setBuddy(control);
+    label->stackUnder(control);  // assistive programs read it first
     return label;
 }
 

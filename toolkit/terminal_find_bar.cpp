@@ -46,6 +46,7 @@ TerminalFindBar::TerminalFindBar(TerminalView& view, QWidget* parent)
     field_->setAccessibleName(QStringLiteral("Find"));
     field_->setPlaceholderText(QStringLiteral("Find"));
     field_->setClearButtonEnabled(true);
+    field_->findChild<QToolButton*>()->setAccessibleName(QStringLiteral("Clear"));
     match_case_->setAccessibleName(QStringLiteral("Match case"));
     result_->setTextFormat(Qt::PlainText);
     auto* previous = make_button(this, Qt::UpArrow, QStringLiteral("Previous match"));
