@@ -14,10 +14,6 @@ namespace {
 /// one on the other.
 constexpr RowId alternate_top = RowId{1} << 40;
 
-Size within_limits(Size size) {
-    return {std::clamp(size.columns, min_columns, max_columns), std::clamp(size.rows, min_rows, max_rows)};
-}
-
 }  // namespace
 
 Engine::Engine(const Options& options, Client& client)

@@ -46,7 +46,7 @@ class Engine final : public ParserHandler {
 
     void write(std::string_view bytes);
     void write_local(std::string_view text);
-    void resize(Size size, std::span<Position> anchors);
+    void resize(Size wanted, std::span<Position> anchors);
     void clear_all();
     void reset();
 

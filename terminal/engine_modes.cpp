@@ -16,7 +16,7 @@ struct Engine::Mode {
     bool (Engine::*get)() const;
 
     static std::span<const Mode> ansi();
-    static std::span<const Mode> private_();
+    static std::span<const Mode> dec();
     static const Mode* find(std::span<const Mode> modes, int number) {
         const auto found = std::ranges::find(modes, number, &Mode::number);
         return found == modes.end() ? nullptr : &*found;
@@ -80,7 +80,7 @@ std::span<const Engine::Mode> Engine::Mode::ansi() {
     return modes;
 }
 
-std::span<const Engine::Mode> Engine::Mode::private_() {
+std::span<const Engine::Mode> Engine::Mode::dec() {
     static constexpr Mode modes[] = {
         of<&Modes::application_cursor_keys>(1),
         {5, &Engine::set_reverse_video, &Engine::mode<&Modes::reverse_video>},
@@ -112,7 +112,7 @@ std::span<const Engine::Mode> Engine::Mode::private_() {
 }
 
 void Engine::change_modes(Function function, bool on) {
-    const auto modes = function.prefix == '?' ? Mode::private_() : Mode::ansi();
+    const auto modes = function.prefix == '?' ? Mode::dec() : Mode::ansi();
     for (std::size_t i = 0; i < function.parameters.size(); ++i) {
         if (const Mode* const mode = Mode::find(modes, function.parameters.get(i))) {
             (this->*mode->set)(on);
@@ -127,7 +127,7 @@ void Engine::decrst(Function function) { change_modes(function, false); }
 
 void Engine::xtsave(Function function) {
     for (std::size_t i = 0; i < function.parameters.size(); ++i) {
-        const Mode* const mode = Mode::find(Mode::private_(), function.parameters.get(i));
+        const Mode* const mode = Mode::find(Mode::dec(), function.parameters.get(i));
         if (mode != nullptr) {
             std::erase_if(saved_modes_, [mode](const auto& saved) { return saved.first == mode->number; });
             saved_modes_.emplace_back(mode->number, (this->*mode->get)());
@@ -140,7 +140,7 @@ void Engine::xtrestore(Function function) {
         const auto saved = std::ranges::find(saved_modes_, function.parameters.get(i),
                                              [](const auto& entry) { return entry.first; });
         if (saved != saved_modes_.end()) {
-            (this->*Mode::find(Mode::private_(), saved->first)->set)(saved->second);
+            (this->*Mode::find(Mode::dec(), saved->first)->set)(saved->second);
         }
     }
 }
@@ -149,7 +149,7 @@ void Engine::xtrestore(Function function) {
 void Engine::decrqm(Function function) {
     const bool is_private = function.prefix == '?';
     const int number = function.parameters.get(0);
-    const Mode* const mode = Mode::find(is_private ? Mode::private_() : Mode::ansi(), number);
+    const Mode* const mode = Mode::find(is_private ? Mode::dec() : Mode::ansi(), number);
     const int state = mode == nullptr ? 0 : (this->*mode->get)() ? 1 : 2;
     reply("\x1b[" + std::string(is_private ? "?" : "") + std::to_string(number) + ';' +
           std::to_string(state) + "$y");

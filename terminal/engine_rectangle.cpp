@@ -19,12 +19,12 @@ void change_attributes(const Parameters& parameters, std::size_t first, Style& s
 
 void reverse_attributes(const Parameters& parameters, std::size_t first, Style& style) {
     const auto reverse = [&style](int code) {
-        const bool all = code == 0;
-        style.bold = style.bold != (all || code == 1);
-        style.blink = style.blink != (all || code == 5);
-        style.reverse = style.reverse != (all || code == 7);
-        style.invisible = style.invisible != (all || code == 8);
-        if (all || code == 4) {
+        const auto concerns = [code](int attribute) { return code == 0 || code == attribute; };
+        style.bold = concerns(1) ? !style.bold : style.bold;
+        style.blink = concerns(5) ? !style.blink : style.blink;
+        style.reverse = concerns(7) ? !style.reverse : style.reverse;
+        style.invisible = concerns(8) ? !style.invisible : style.invisible;
+        if (concerns(4)) {
             style.underline = style.underline == Underline::none ? Underline::single : Underline::none;
         }
     };

@@ -120,9 +120,8 @@ Position Engine::position(Mark mark) const {
     return {primary_.top() + row, static_cast<int>(std::min<std::int64_t>(mark.offset, size().columns))};
 }
 
-void Engine::resize(Size asked, std::span<Position> anchors) {
-    const Size wanted{std::clamp(asked.columns, min_columns, max_columns),
-                      std::clamp(asked.rows, min_rows, max_rows)};
+void Engine::resize(Size wanted, std::span<Position> anchors) {
+    wanted = within_limits(wanted);
     const Size before = size();
     if (wanted == before) {
         return;

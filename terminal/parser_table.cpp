@@ -30,7 +30,7 @@ constexpr std::array<Class, 128> make_classes() {
     classes[0x5B] = Class::csi;
     classes[0x5D] = Class::osc;
     classes[0x58] = classes[0x5E] = classes[0x5F] = Class::string;
-    classes[0x7F] = Class::delete_;
+    classes[0x7F] = Class::rubout;
     return classes;
 }
 
@@ -57,20 +57,20 @@ constexpr Rule rules[] = {
     {State::escape, Class::csi, Class::csi, Action::begin_sequence, State::csi_entry},
     {State::escape, Class::osc, Class::osc, Action::begin_osc, State::osc_string},
     {State::escape, Class::string, Class::string, Action::begin_sequence, State::ignored_string},
-    {State::escape, Class::delete_, Class::delete_, Action::none, State::escape},
+    {State::escape, Class::rubout, Class::rubout, Action::none, State::escape},
 
     {State::escape_intermediate, Class::control, Class::bell, Action::execute, State::escape_intermediate},
     {State::escape_intermediate, Class::intermediate, Class::intermediate, Action::collect,
      State::escape_intermediate},
     {State::escape_intermediate, Class::digit, final_last, Action::dispatch_escape, State::ground},
-    {State::escape_intermediate, Class::delete_, Class::delete_, Action::none, State::escape_intermediate},
+    {State::escape_intermediate, Class::rubout, Class::rubout, Action::none, State::escape_intermediate},
 
     {State::csi_entry, Class::control, Class::bell, Action::execute, State::csi_entry},
     {State::csi_entry, Class::intermediate, Class::intermediate, Action::collect, State::csi_intermediate},
     {State::csi_entry, Class::digit, Class::semicolon, Action::parameter, State::csi_parameter},
     {State::csi_entry, Class::private_marker, Class::private_marker, Action::collect, State::csi_parameter},
     {State::csi_entry, final_first, final_last, Action::dispatch_csi, State::ground},
-    {State::csi_entry, Class::delete_, Class::delete_, Action::none, State::csi_entry},
+    {State::csi_entry, Class::rubout, Class::rubout, Action::none, State::csi_entry},
 
     {State::csi_parameter, Class::control, Class::bell, Action::execute, State::csi_parameter},
     {State::csi_parameter, Class::intermediate, Class::intermediate, Action::collect,
@@ -78,26 +78,26 @@ constexpr Rule rules[] = {
     {State::csi_parameter, Class::digit, Class::semicolon, Action::parameter, State::csi_parameter},
     {State::csi_parameter, Class::private_marker, Class::private_marker, Action::none, State::csi_ignore},
     {State::csi_parameter, final_first, final_last, Action::dispatch_csi, State::ground},
-    {State::csi_parameter, Class::delete_, Class::delete_, Action::none, State::csi_parameter},
+    {State::csi_parameter, Class::rubout, Class::rubout, Action::none, State::csi_parameter},
 
     {State::csi_intermediate, Class::control, Class::bell, Action::execute, State::csi_intermediate},
     {State::csi_intermediate, Class::intermediate, Class::intermediate, Action::collect,
      State::csi_intermediate},
     {State::csi_intermediate, Class::digit, Class::private_marker, Action::none, State::csi_ignore},
     {State::csi_intermediate, final_first, final_last, Action::dispatch_csi, State::ground},
-    {State::csi_intermediate, Class::delete_, Class::delete_, Action::none, State::csi_intermediate},
+    {State::csi_intermediate, Class::rubout, Class::rubout, Action::none, State::csi_intermediate},
 
     {State::csi_ignore, Class::control, Class::bell, Action::execute, State::csi_ignore},
     {State::csi_ignore, Class::intermediate, Class::private_marker, Action::none, State::csi_ignore},
     {State::csi_ignore, final_first, final_last, Action::none, State::ground},
-    {State::csi_ignore, Class::delete_, Class::delete_, Action::none, State::csi_ignore},
+    {State::csi_ignore, Class::rubout, Class::rubout, Action::none, State::csi_ignore},
 
     {State::dcs_entry, Class::control, Class::bell, Action::none, State::dcs_entry},
     {State::dcs_entry, Class::intermediate, Class::intermediate, Action::collect, State::dcs_intermediate},
     {State::dcs_entry, Class::digit, Class::semicolon, Action::parameter, State::dcs_parameter},
     {State::dcs_entry, Class::private_marker, Class::private_marker, Action::collect, State::dcs_parameter},
     {State::dcs_entry, final_first, final_last, Action::begin_dcs, State::dcs_passthrough},
-    {State::dcs_entry, Class::delete_, Class::other, Action::none, State::dcs_ignore},
+    {State::dcs_entry, Class::rubout, Class::other, Action::none, State::dcs_ignore},
 
     {State::dcs_parameter, Class::control, Class::bell, Action::none, State::dcs_parameter},
     {State::dcs_parameter, Class::intermediate, Class::intermediate, Action::collect,
@@ -105,18 +105,18 @@ constexpr Rule rules[] = {
     {State::dcs_parameter, Class::digit, Class::semicolon, Action::parameter, State::dcs_parameter},
     {State::dcs_parameter, Class::private_marker, Class::private_marker, Action::none, State::dcs_ignore},
     {State::dcs_parameter, final_first, final_last, Action::begin_dcs, State::dcs_passthrough},
-    {State::dcs_parameter, Class::delete_, Class::other, Action::none, State::dcs_ignore},
+    {State::dcs_parameter, Class::rubout, Class::other, Action::none, State::dcs_ignore},
 
     {State::dcs_intermediate, Class::control, Class::bell, Action::none, State::dcs_intermediate},
     {State::dcs_intermediate, Class::intermediate, Class::intermediate, Action::collect,
      State::dcs_intermediate},
     {State::dcs_intermediate, Class::digit, Class::private_marker, Action::none, State::dcs_ignore},
     {State::dcs_intermediate, final_first, final_last, Action::begin_dcs, State::dcs_passthrough},
-    {State::dcs_intermediate, Class::delete_, Class::other, Action::none, State::dcs_ignore},
+    {State::dcs_intermediate, Class::rubout, Class::other, Action::none, State::dcs_ignore},
 
     {State::dcs_passthrough, Class::control, Class::bell, Action::none, State::dcs_passthrough},
     {State::dcs_passthrough, Class::intermediate, final_last, Action::put, State::dcs_passthrough},
-    {State::dcs_passthrough, Class::delete_, Class::delete_, Action::none, State::dcs_passthrough},
+    {State::dcs_passthrough, Class::rubout, Class::rubout, Action::none, State::dcs_passthrough},
     {State::dcs_passthrough, Class::other, Class::other, Action::put, State::dcs_passthrough},
 
     {State::dcs_ignore, Class::control, Class::other, Action::none, State::dcs_ignore},
@@ -124,7 +124,7 @@ constexpr Rule rules[] = {
     {State::osc_string, Class::control, Class::control, Action::none, State::osc_string},
     {State::osc_string, Class::bell, Class::bell, Action::end_osc, State::ground},
     {State::osc_string, Class::intermediate, final_last, Action::put, State::osc_string},
-    {State::osc_string, Class::delete_, Class::delete_, Action::none, State::osc_string},
+    {State::osc_string, Class::rubout, Class::rubout, Action::none, State::osc_string},
     {State::osc_string, Class::other, Class::other, Action::put, State::osc_string},
 
     {State::ignored_string, Class::control, Class::other, Action::none, State::ignored_string},

@@ -44,8 +44,8 @@ enum class ByteClass : std::uint8_t {
     csi,             ///< [
     osc,             ///< ]
     string,          ///< X, ^, _
-    delete_,
-    other,  ///< from U+00A0 on
+    rubout,          ///< DEL
+    other,           ///< from U+00A0 on
 };
 inline constexpr int byte_class_count = 16;
 

@@ -25,6 +25,9 @@ struct Region {
     bool operator==(const Region&) const = default;
 };
 
+/// The nearest size that a screen can have.
+Size within_limits(Size size);
+
 /// The character positions of one screen, and what can be done to them; knows no cursor and no modes. Rows
 /// are a ring of headers over a block of cells, so that scrolling moves no cell. A row has cells up to the
 /// last one written; what is behind is blank. Places are the caller's to keep within the size, counts need

@@ -59,6 +59,7 @@ void Scrollback::clear() {
     runs_.clear();
     pieces_.clear();
     first_ = last_found_ = 0;
+    laid_out_.reset();
     begin_row_ = end_row_;
     open_ = false;
 }
@@ -82,6 +83,7 @@ void Scrollback::push(std::span<const Cell> cells, bool wrapped, std::uint64_t s
         pieces_.extend(ordinal, 1);
         *pieces_.at(ordinal) = {text_.end(), runs_.end(), end_row_, stamp, 0, 0, 0, false, false};
     }
+    laid_out_.reset();
     Piece& piece = last();
     append(piece, cells);
     piece.continued = open_ = wrapped;
@@ -190,6 +192,7 @@ std::optional<std::vector<Cell>> Scrollback::pop() {
     if (empty()) {
         return std::nullopt;
     }
+    laid_out_.reset();
     const Piece& piece = last();
     std::vector<Cell> cells;
     unpack(piece, {0, 0}, {piece.cells, piece.bytes}, cells);
@@ -205,8 +208,9 @@ std::optional<std::vector<Cell>> Scrollback::pop() {
 
 Scrollback::RowState Scrollback::row(RowId id, std::vector<Cell>& cells) const {
     assert(id >= begin_row_ && id < end_row_);
-    const Piece& piece = *pieces_.at(find_piece(id));
-    const Spot begin = find_row(piece, id - piece.first_row);
+    const Ordinal ordinal = find_piece(id);
+    const Piece& piece = *pieces_.at(ordinal);
+    const Spot begin = find_row(ordinal, id - piece.first_row);
     const Spot end = next_row(piece, begin);
     unpack(piece, begin, end, cells);
     return {end.cell < piece.cells || piece.continued, piece.stamp};

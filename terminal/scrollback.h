@@ -111,7 +111,8 @@ class Scrollback {
     [[nodiscard]] const char* text(const Piece& piece) const;
     [[nodiscard]] std::span<const Run> runs(const Piece& piece) const;
     [[nodiscard]] Spot next_row(const Piece& piece, Spot from) const;
-    [[nodiscard]] Spot find_row(const Piece& piece, RowId index) const;
+    [[nodiscard]] Spot find_row(Ordinal ordinal, RowId index) const;
+    void lay_out(const Piece& piece, std::vector<Spot>& begins) const;
     [[nodiscard]] RowId count_rows(const Piece& piece) const;
     [[nodiscard]] int last_row_cells(const Piece& piece) const;
     void unpack(const Piece& piece, Spot begin, Spot end, std::vector<Cell>& cells) const;
@@ -128,7 +129,10 @@ class Scrollback {
     RecordStore<char, 65'536> text_;
     RecordStore<Run, 16'384> runs_;
     RecordStore<Piece, 1'024> pieces_;
-    mutable Ordinal last_found_ = 0;  // rows are asked for one after the other
+    // Rows are asked for one after the other: the piece found last, and where the rows of one piece begin.
+    mutable Ordinal last_found_ = 0;
+    mutable std::optional<Ordinal> laid_out_;
+    mutable std::vector<Spot> row_begins_;
 };
 
 }  // namespace terminal

@@ -24,7 +24,7 @@ int cells_of(char32_t value) {
 }  // namespace
 
 const char* Scrollback::text(const Piece& piece) const {
-    return piece.bytes == 0 ? nullptr : text_.at(piece.text);
+    return piece.bytes == 0 ? "" : text_.at(piece.text);
 }
 
 std::span<const Scrollback::Run> Scrollback::runs(const Piece& piece) const {
@@ -73,35 +73,46 @@ Scrollback::Spot Scrollback::next_row(const Piece& piece, Spot from) const {
     return spot;
 }
 
-Scrollback::Spot Scrollback::find_row(const Piece& piece, RowId index) const {
+void Scrollback::lay_out(const Piece& piece, std::vector<Spot>& begins) const {
+    begins.assign(1, {0, 0});
+    for (Spot end = next_row(piece, {0, 0}); end.cell < piece.cells; end = next_row(piece, end)) {
+        begins.push_back(end);
+    }
+}
+
+Scrollback::Spot Scrollback::find_row(Ordinal ordinal, RowId index) const {
+    const Piece& piece = *pieces_.at(ordinal);
     if (piece.is_ascii()) {
         const int cell = static_cast<int>(index) * columns_;
         return {cell, cell};
     }
-    Spot spot{0, 0};
-    for (RowId i = 0; i < index; ++i) {
-        spot = next_row(piece, spot);
+    if (laid_out_ != ordinal) {
+        lay_out(piece, row_begins_);
+        laid_out_ = ordinal;
     }
-    return spot;
+    return row_begins_[static_cast<std::size_t>(index)];
 }
 
 RowId Scrollback::count_rows(const Piece& piece) const {
     if (!piece.wide) {
         return std::max(1, (piece.cells + columns_ - 1) / columns_);
     }
-    RowId rows = 0;
-    for (Spot spot{0, 0}; spot.cell < piece.cells; ++rows) {
-        spot = next_row(piece, spot);
+    RowId rows = 1;
+    for (Spot end = next_row(piece, {0, 0}); end.cell < piece.cells; end = next_row(piece, end)) {
+        ++rows;
     }
-    return std::max<RowId>(1, rows);
+    return rows;
 }
 
 int Scrollback::last_row_cells(const Piece& piece) const {
-    return piece.cells - find_row(piece, count_rows(piece) - 1).cell;
+    std::vector<Spot> begins;
+    lay_out(piece, begins);
+    return piece.cells - begins.back().cell;
 }
 
 void Scrollback::reflow(int columns) {
     columns_ = columns;
+    laid_out_.reset();
     if (empty()) {
         begin_row_ = end_row_;
         return;
@@ -120,7 +131,7 @@ void Scrollback::reflow(int columns) {
 Mark Scrollback::mark(Position position) const {
     const Ordinal found = find_piece(position.row);
     const Piece& piece = *pieces_.at(found);
-    const Spot begin = find_row(piece, position.row - piece.first_row);
+    const Spot begin = find_row(found, position.row - piece.first_row);
     const Spot end = next_row(piece, begin);
     const bool ends_line = end.cell == piece.cells && !piece.continued;
     const int length = end.cell - begin.cell;

@@ -109,7 +109,9 @@ class SearchLine {
         const std::size_t begin = out.size();
         terminal_.append_text(cell, out);
         if (letter_case_ == LetterCase::ignored) {
-            out.replace(begin, std::string::npos, fold(std::string_view(out).substr(begin)));
+            const std::string folded = fold(std::string_view(out).substr(begin));
+            out.resize(begin);
+            out += folded;
         }
     }
 

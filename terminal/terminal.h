@@ -63,7 +63,7 @@ class Terminal {
     /// and line feeds return the carriage.
     void write_local(std::string_view text);
     /// Wrapped lines flow anew, in the screen and lazily in the scrollback. `anchors` are moved with their
-    /// text.
+    /// text. Sizes are limited (limits.h).
     void resize(Size size, std::span<Position> anchors = {});
     /// Empties screen and scrollback, as `clear` with the scrollback does; the cursor goes home.
     void clear_all();
