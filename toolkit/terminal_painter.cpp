@@ -123,7 +123,7 @@ void TerminalPainter::draw_row(const terminal::Row& row, const RowMarks& marks, 
             draw_lines(run, origin);
         }
     }
-    draw_cursor(marks, origin, columns);
+    draw_cursor(row, marks, origin, columns);
     draw_preedit(marks, origin, columns);
 }
 
@@ -267,10 +267,12 @@ void TerminalPainter::draw_underline(const Look& look, int x, int y, int width) 
     }
 }
 
-void TerminalPainter::draw_cursor(const RowMarks& marks, QPoint origin, int columns) {
+void TerminalPainter::draw_cursor(const terminal::Row& row, const RowMarks& marks, QPoint origin,
+                                  int columns) {
     const int column = std::min(marks.cursor_column, columns - 1);
     const int line = 2 * font_.line_width();
-    const QRect cell(origin.x() + column * font_.cell_width(), origin.y(), font_.cell_width(),
+    const int cells = cell_at(row, column).is_wide() ? 2 : 1;
+    const QRect cell(origin.x() + column * font_.cell_width(), origin.y(), cells * font_.cell_width(),
                      font_.cell_height());
     const QColor colour = QColor::fromRgb(to_qrgb(terminal_.cursor_colour()));
     switch (marks.cursor) {

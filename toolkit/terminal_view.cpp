@@ -66,12 +66,15 @@ QSize TerminalView::sizeHint() const {
 
 // Geometry.
 
-void TerminalView::resizeEvent(QResizeEvent* /*event*/) { fit_to_size(); }
+void TerminalView::resizeEvent(QResizeEvent* /*event*/) {
+    laid_out_ = true;
+    fit_to_size();
+}
 
 void TerminalView::fit_to_size() {
     const terminal::Size size{std::max(smallest.columns, (width() - 2 * margin) / font_->cell_width()),
                               std::max(smallest.rows, (height() - 2 * margin) / font_->cell_height())};
-    if (size != terminal().size()) {
+    if (laid_out_ && size != terminal().size()) {
         std::vector<Position> anchors(selection_.anchors().begin(), selection_.anchors().end());
         anchors.insert(anchors.end(), {match_.begin, match_.end, Position{top_row(), 0}});
         session_.resize(size, size.columns * font_->cell_width(), size.rows * font_->cell_height(), anchors);

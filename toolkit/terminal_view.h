@@ -159,6 +159,7 @@ class TerminalView final : public QWidget {
     QTimer frame_timer_;
     QElapsedTimer since_frame_;
 
+    bool laid_out_ = false;  ///< has a size of its own; till then the terminal keeps the standard one
     bool follows_output_ = true;
     terminal::RowId view_top_ = 0;  ///< when not following
 

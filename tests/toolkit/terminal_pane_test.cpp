@@ -212,6 +212,14 @@ TEST_F(TerminalPaneTest, ScrollBarFollowsAndScrolls) {
     EXPECT_EQ(view().position_at({0, 0}).row, view().terminal().first_row());
 }
 
+TEST_F(TerminalPaneTest, PaneNotYetShownHasTheStandardSize) {
+    QWidget hidden;
+    TerminalPane unseen(&hidden, "unseen");
+    unseen.set_font(xv_find("fixed"));
+    EXPECT_EQ(unseen.columns(), 80);
+    EXPECT_EQ(unseen.rows(), 24);
+}
+
 TEST_F(TerminalPaneTest, ProgramIsToldTheNewSize) {
     start("trap 'stty size; exit' WINCH; echo ready; sleep 60 & wait");
     ASSERT_TRUE(wait_for_text("ready"));
