@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "toolkit/menu.h"
 #include "toolkit/notify.h"
 #include "toolkit/panel.h"
 
-#include <span>
 #include <string_view>
 
 class QPushButton;
@@ -17,14 +15,4 @@ class Button {
 
   private:
     QPushButton* widget_;
-};
-
-/// A button that shows a menu while it is pressed, or by Space or Down.
-class MenuButton {
-  public:
-    MenuButton(Container& parent, std::string_view label, Menu menu);
-
-  private:
-    QPushButton* widget_;
-    Menu menu_;
 };

@@ -8,7 +8,7 @@
 Menu::Menu(std::string_view title, std::span<const MenuItem> items) : menu_(std::make_unique<QMenu>()) {
     menu_->setToolTipsVisible(true);
     if (!title.empty()) {
-        menu_->setTitle(without_mnemonic(title));
+        menu_->setAccessibleName(to_qstring(title));
         menu_->addSection(without_mnemonic(title));
     }
     for (const MenuItem& item : items) {

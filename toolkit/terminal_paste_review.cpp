@@ -17,7 +17,7 @@
 namespace {
 
 // Enough to see what it is; laying out a huge text would hold up everything else.
-constexpr std::size_t shown_bytes = 32 * 1024;
+constexpr std::size_t shown_bytes = 32'768;
 
 /// What stands for a control character: "^C" as the terminal would echo it, and an arrow for a line end.
 QString picture(char16_t control) {

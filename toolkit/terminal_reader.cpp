@@ -14,7 +14,7 @@ using terminal::RowId;
 namespace {
 
 // Longer changes are not spelt out to assistive tools: nobody listens to a flood.
-constexpr qsizetype told_limit = 64 * 1024;
+constexpr qsizetype told_limit = 65'536;
 
 bool is_blank(const Cell& cell) { return cell.glyph == 0 || cell.glyph == U' '; }
 
@@ -145,7 +145,7 @@ void TerminalReader::drop_blank_lines(Text& text) {
 // Offsets.
 
 std::deque<TerminalReader::StoredLine>::const_iterator TerminalReader::line_of(const Text& text,
-                                                                               std::int64_t place) const {
+                                                                               std::int64_t place) {
     const auto next =
         std::upper_bound(text.lines.begin(), text.lines.end(), place,
                          [](std::int64_t at, const StoredLine& line) { return at < line.start; });

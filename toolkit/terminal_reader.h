@@ -68,7 +68,7 @@ class TerminalReader {
     void read_lines(Text& text);
     void drop_blank_lines(Text& text);
     [[nodiscard]] StoredLine read_line(terminal::RowId first) const;
-    [[nodiscard]] std::deque<StoredLine>::const_iterator line_of(const Text& text, std::int64_t place) const;
+    [[nodiscard]] static std::deque<StoredLine>::const_iterator line_of(const Text& text, std::int64_t place);
     void tell_text(TerminalView& view, Text& text);
     void tell_caret_and_selection(TerminalView& view);
     [[nodiscard]] static QString text_from(const Text& text, std::int64_t place);

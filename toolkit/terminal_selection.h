@@ -3,6 +3,7 @@
 
 #include "terminal/terminal.h"
 
+#include <array>
 #include <cstdint>
 #include <span>
 #include <string>
@@ -53,5 +54,5 @@ class TerminalSelection {
     terminal::Range start_;  ///< the character boundary, word or line where the selection began
     terminal::Range range_;
     std::vector<Witness> witnesses_;
-    terminal::Position anchors_[4];
+    std::array<terminal::Position, 4> anchors_;
 };

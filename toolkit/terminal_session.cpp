@@ -13,7 +13,8 @@
 namespace {
 
 // One turn of the event loop takes at most this much output, so that keys and painting get their turn.
-constexpr std::size_t slice_bytes = 256 * 1024;
+constexpr std::size_t slice_bytes = 262'144;
+constexpr std::size_t read_bytes = 16'384;
 constexpr int slice_milliseconds = 3;
 constexpr int update_limit_milliseconds = 150;
 constexpr int hung_up_interval_milliseconds = 100;
@@ -24,7 +25,7 @@ constexpr int quiet_milliseconds = 100;
 constexpr int readiness_limit_milliseconds = 1500;
 constexpr int password_limit_milliseconds = 60'000;
 // Output can ask for answers faster than a program that does not listen takes them.
-constexpr std::size_t unread_replies_limit = 1024 * 1024;
+constexpr std::size_t unread_replies_limit = 1'048'576;
 
 // Takes back what a program that ended untidily may have left: margins and modes (DECSTR), mouse and
 // focus reports, brackets around pastes, an open update.
@@ -192,7 +193,7 @@ void TerminalSession::note_update_state() {
 void TerminalSession::read_slice() {
     QElapsedTimer clock;
     clock.start();
-    std::array<char, 16 * 1024> buffer;
+    std::array<char, read_bytes> buffer;
     std::size_t total = 0;
     auto state = terminal::Pty::ReadState::data;
     while (total < slice_bytes && !clock.hasExpired(slice_milliseconds)) {
@@ -232,7 +233,7 @@ void TerminalSession::check_for_end() {
 
 void TerminalSession::finish(int status) {
     // The last words of the program are still in the pty; jobs it left behind must not keep us here.
-    std::array<char, 16 * 1024> buffer;
+    std::array<char, read_bytes> buffer;
     std::size_t total = 0;
     auto result = pty_->read(buffer);
     while (result.state == terminal::Pty::ReadState::data && total < slice_bytes) {

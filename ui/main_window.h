@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "toolkit/buttons.h"
 #include "toolkit/fields.h"
 #include "toolkit/frame.h"
+#include "toolkit/menu_button.h"
 #include "toolkit/panel.h"
 #include "toolkit/terminal_pane.h"
 #include "ui/menus.h"

@@ -3,6 +3,7 @@
 #include "toolkit/choices.h"
 #include "toolkit/fields.h"
 #include "toolkit/frame.h"
+#include "toolkit/menu_button.h"
 #include "toolkit/selection.h"
 #include "toolkit/text_pane.h"
 
@@ -40,7 +41,11 @@ struct Sample : CommandFrame {
 
 class Controls : public testing::Test {
   protected:
-    void SetUp() override { notified = 0; }
+    void SetUp() override {
+        notified = 0;
+        sample.open();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(sample.widget()));
+    }
 
     template <typename Widget>
     Widget* find(const QString& name) {
@@ -110,13 +115,21 @@ TEST_F(Controls, CheckBoxesAreBits) {
 TEST_F(Controls, AMenuShowsItsTitleAndCallsItsItems) {
     find<QAbstractButton>("Push & go")->click();
     EXPECT_EQ(notified, 1);
-    QMenu* menu = find<QPushButton>("Menu")->menu();
+    QAccessible::queryAccessibleInterface(find<QPushButton>("Menu"))->actionInterface()->doAction("Press");
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    ASSERT_NE(menu, nullptr);
     ASSERT_EQ(menu->actions().size(), 3);
     EXPECT_TRUE(menu->actions()[0]->isSeparator());
     EXPECT_EQ(menu->actions()[0]->text(), "Title");
     EXPECT_EQ(menu->actions()[2]->text(), "Second && third");
-    menu->actions()[2]->trigger();
+    QTest::keyClick(menu, Qt::Key_Down);
+    QTest::keyClick(menu, Qt::Key_Down);
+    QTest::keyClick(menu, Qt::Key_Return);
     EXPECT_EQ(notified, 2);
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+    QTest::keyClick(find<QPushButton>("Menu"), Qt::Key_Space);
+    EXPECT_EQ(QApplication::activePopupWidget(), menu);
+    menu->close();
 }
 
 TEST_F(Controls, TextGoesInAtTheInsertionPoint) {

@@ -1,0 +1,112 @@
+// SPDX-License-Identifier: MIT
+#include "toolkit/menu_button.h"
+
+#include "toolkit/text_conversion.h"
+
+#include <QAccessibleWidget>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QMouseEvent>
+#include <QPushButton>
+#include <QStyleOptionButton>
+
+/// QPushButton's own menu runs an event loop of its own, in which an assistive program that opened it would
+/// wait for its answer until the menu is closed.
+class MenuPushButton : public QPushButton {
+  public:
+    MenuPushButton(const QString& label, QMenu& menu, QWidget* parent) : QPushButton(parent), menu_(menu) {
+        setText(label);  // not sooner: it makes the accessible interface, which is chosen by the type so far
+        menu_.setParent(this, menu_.windowFlags());
+        connect(&menu_, &QMenu::aboutToHide, this, [this] { setDown(false); });
+    }
+
+    [[nodiscard]] QMenu& menu() const { return menu_; }
+    void show_menu() {
+        setDown(true);
+        menu_.setAttribute(Qt::WA_NoMouseReplay);  // a press on the button closes the open menu and no more
+        menu_.popup(mapToGlobal(rect().bottomLeft()));
+    }
+
+    [[nodiscard]] QSize sizeHint() const override {
+        QStyleOptionButton option;
+        initStyleOption(&option);
+        const int indicator = style()->pixelMetric(QStyle::PM_MenuButtonIndicator, &option, this);
+        return QPushButton::sizeHint() + QSize(indicator, 0);
+    }
+
+  protected:
+    void initStyleOption(QStyleOptionButton* option) const override {
+        QPushButton::initStyleOption(option);
+        option->features |= QStyleOptionButton::HasMenu;
+    }
+    void mousePressEvent(QMouseEvent* event) override {
+        if (event->button() == Qt::LeftButton) {
+            show_menu();
+        }
+    }
+    void keyPressEvent(QKeyEvent* event) override {
+        switch (event->key()) {
+            case Qt::Key_Space:
+            case Qt::Key_Return:
+            case Qt::Key_Enter:
+            case Qt::Key_Down:
+                show_menu();
+                break;
+            default:
+                QPushButton::keyPressEvent(event);
+        }
+    }
+
+  private:
+    QMenu& menu_;
+};
+
+namespace {
+
+/// A button whose one child is its menu, open or not: Qt tells nobody of the menus that buttons open.
+class AccessibleMenuButton : public QAccessibleWidget {
+  public:
+    explicit AccessibleMenuButton(MenuPushButton& button)
+        : QAccessibleWidget(&button, QAccessible::ButtonMenu), button_(button) {}
+
+    [[nodiscard]] QAccessible::State state() const override {
+        QAccessible::State state = QAccessibleWidget::state();
+        state.hasPopup = true;
+        return state;
+    }
+    [[nodiscard]] int childCount() const override { return 1; }
+    [[nodiscard]] QAccessibleInterface* child(int index) const override {
+        return index == 0 ? QAccessible::queryAccessibleInterface(&button_.menu()) : nullptr;
+    }
+    [[nodiscard]] int indexOfChild(const QAccessibleInterface* child) const override {
+        return child->object() == &button_.menu() ? 0 : -1;
+    }
+    [[nodiscard]] QStringList actionNames() const override {
+        return QStringList{pressAction(), showMenuAction()} + QAccessibleWidget::actionNames();
+    }
+    void doAction(const QString& name) override {
+        if (name == pressAction() || name == showMenuAction()) {
+            button_.show_menu();
+        } else {
+            QAccessibleWidget::doAction(name);
+        }
+    }
+
+  private:
+    MenuPushButton& button_;
+};
+
+QAccessibleInterface* make_interface(const QString& /*class_name*/, QObject* object) {
+    auto* button = dynamic_cast<MenuPushButton*>(object);
+    return button == nullptr ? nullptr : new AccessibleMenuButton(*button);
+}
+
+}  // namespace
+
+MenuButton::MenuButton(Container& parent, std::string_view label, Menu menu) : menu_(std::move(menu)) {
+    QAccessible::installFactory(make_interface);  // a second installation is ignored
+    widget_ = new MenuPushButton(without_mnemonic(label), *menu_.widget(), parent.widget());
+    widget_->setAccessibleName(to_qstring(label));
+    widget_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    parent.add({}, widget_);
+}
