@@ -256,7 +256,7 @@ void Pty::write(std::string_view bytes) {
 }
 
 void Pty::flush() {
-    constexpr std::size_t compaction = 64 * 1024;
+    constexpr std::size_t compaction = 65'536;
     while (pending() > 0) {
         const ssize_t count = ::write(master_, queue_.data() + sent_, pending());
         if (count < 0 && errno == EINTR) {

@@ -75,7 +75,8 @@ class Terminal {
     [[nodiscard]] Cursor cursor() const;
 
     /// Rows that can be shown are `first_row()` up to `end_row()`; the screen begins at `screen_top()`. While
-    /// the alternate screen is shown, the scrollback is not reachable and `first_row() == screen_top()`.
+    /// the alternate screen is shown, the scrollback is not reachable and `first_row() == screen_top()`; its
+    /// rows have numbers of their own, so that a place on one screen is none on the other.
     [[nodiscard]] RowId first_row() const;
     [[nodiscard]] RowId screen_top() const;
     [[nodiscard]] RowId end_row() const;

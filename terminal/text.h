@@ -16,7 +16,8 @@ namespace terminal {
 /// lines.
 std::string text_between(const Terminal& terminal, Range range);
 
-/// The rows of the logical line that `row` belongs to, from the first row's start to the last one's end.
+/// The rows of the logical line that `row` belongs to, from the first row's start to the last one's end
+/// at the screen's right edge.
 Range logical_line(const Terminal& terminal, RowId row);
 
 /// The word around a place, across a wrap: letters, digits, and what paths and addresses are made of. Where

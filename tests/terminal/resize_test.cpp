@@ -133,21 +133,23 @@ TEST(Resize, TabStopsAndMarginsFitTheNewSize) {
     EXPECT_EQ(at.scrollback(), "                x|");
 }
 
-// Any walk through sizes leaves the text as it was.
+// Any walk through sizes leaves the text as it was, and the cursor at its place in it.
 TEST(Resize, RandomWalkKeepsAllText) {
     std::mt19937 random(7);
     const auto below = [&random](int limit) {
         return static_cast<int>(random() % static_cast<unsigned>(limit));
     };
     Screened at({30, 8}, 100'000);
-    for (int i = 0; i < 200; ++i) {
+    for (int i = 0; i < 300; ++i) {
+        at.terminal.write(below(3) == 0 ? "" : "\r\n");
         for (int word = below(20); word >= 0; --word) {
             at.terminal.write(below(4) == 0 ? "漢字" : below(5) == 0 ? "\x1b[31mré\u0301d\x1b[0m" : "word ");
         }
-        at.terminal.write("\r\n");
-        const std::string before = at.all_text();
+        const std::string text = at.all_text();
+        const std::string line = line_to_cursor_text(at.terminal);
         at.terminal.resize({2 + below(60), 1 + below(20)});
-        ASSERT_EQ(at.all_text(), before) << "after line " << i;
+        ASSERT_EQ(at.all_text(), text) << "after line " << i;
+        ASSERT_EQ(line_to_cursor_text(at.terminal), line) << "after line " << i;
     }
 }
 
