@@ -163,8 +163,10 @@ void draw_arc(QPainter& painter, const QRect& cell, char32_t character, int line
     const bool to_right = character == 0x256d || character == 0x2570;
     const bool to_bottom = character == 0x256d || character == 0x256e;
     // The middle of a straight line's thickness, so that arcs and lines join.
-    const qreal middle_x = cell.x() + cell.width() / 2 - line / 2 + line / 2.0;
-    const qreal middle_y = cell.y() + cell.height() / 2 - line / 2 + line / 2.0;
+    const int line_left = cell.x() + cell.width() / 2 - line / 2;
+    const int line_top = cell.y() + cell.height() / 2 - line / 2;
+    const qreal middle_x = line_left + line / 2.0;
+    const qreal middle_y = line_top + line / 2.0;
     const qreal edge_x = to_right ? cell.x() + cell.width() : cell.x();
     const qreal edge_y = to_bottom ? cell.y() + cell.height() : cell.y();
     const qreal radius = std::min(cell.width(), cell.height()) / 2.0;
