@@ -223,8 +223,13 @@ void TerminalView::repaint_all_if_colours_changed() {
     }
 }
 
-/// What is still to be seen after scrolling is moved, not painted anew.
+/// What is still to be seen after scrolling is moved, not painted anew: where a row is a whole number of the
+/// screen's own pixels.
 void TerminalView::shift_pictures(RowId top) {
+    const qreal row_pixels = font_->cell_height() * devicePixelRatioF();
+    if (row_pixels != std::floor(row_pixels)) {
+        return;
+    }
     const auto rows = static_cast<RowId>(pictures_.size());
     const RowId shift = rows == 0 ? 0 : top - pictures_.front().row;
     if (shift == 0 || std::abs(shift) >= rows) {

@@ -19,7 +19,9 @@ class TerminalPainterTest : public TerminalFixture {
         QTest::qWait(50);
         image = view().grab().toImage();
     }
-    [[nodiscard]] QRgb pixel(QPoint place) const { return image.pixel(place) | 0xff000000; }
+    [[nodiscard]] QRgb pixel(QPoint place) const {
+        return image.pixel(place * image.devicePixelRatio()) | 0xff000000;
+    }
     [[nodiscard]] QRect area(int column, int line) const {
         return view().cell_area({view().position_at({0, 0}).row + line, column});
     }

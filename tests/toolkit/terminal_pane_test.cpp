@@ -221,7 +221,7 @@ TEST_F(TerminalPaneTest, PaneNotYetShownHasTheStandardSize) {
 }
 
 TEST_F(TerminalPaneTest, ProgramIsToldTheNewSize) {
-    start("trap 'stty size; exit' WINCH; echo ready; sleep 60 & wait");
+    start("trap 'stty size' WINCH; echo ready; sleep 60 & while kill -0 $!; do wait; done");
     ASSERT_TRUE(wait_for_text("ready"));
     window.resize(500, 300);
     ASSERT_TRUE(wait([this] { return window.width() == 500 && window.height() == 300; }));
