@@ -35,7 +35,14 @@ QButtonGroup* make_items(Container& parent, std::string_view label,
     layout->addStretch(1);
     parent.add(label, group);
     if (notify != nullptr) {
-        QObject::connect(buttons, &QButtonGroup::idClicked, group, [notify] { notify(); });
+        // Not only clicks: assistive programs toggle. Of two toggles in an exclusive group the one that
+        // checks counts.
+        QObject::connect(buttons, &QButtonGroup::idToggled, group,
+                         [notify, exclusive](int /*id*/, bool checked) {
+                             if (checked || exclusive == Exclusive::no) {
+                                 notify();
+                             }
+                         });
     }
     return buttons;
 }
@@ -51,6 +58,7 @@ Choice::Choice(Container& parent, std::string_view label, std::initializer_list<
 int Choice::value() const { return buttons_->checkedId(); }
 
 void Choice::set_value(int value) {
+    const QSignalBlocker quiet(buttons_);
     if (QAbstractButton* button = buttons_->button(value)) {
         button->setChecked(true);
     }
@@ -69,6 +77,7 @@ unsigned CheckBoxes::value() const {
 }
 
 void CheckBoxes::set_value(unsigned value) {
+    const QSignalBlocker quiet(buttons_);
     for (QAbstractButton* button : buttons_->buttons()) {
         button->setChecked(((value >> static_cast<unsigned>(buttons_->id(button))) & 1U) != 0);
     }

@@ -62,27 +62,9 @@ class Accessible {
     [[nodiscard]] std::string tree() const;
 
   private:
-    friend class FocusWatch;
     explicit Accessible(std::shared_ptr<void> object) : object_(std::move(object)) {}
     [[nodiscard]] bool has_state(int state) const;
     [[nodiscard]] bool fits(const Sought& sought) const;
 
     std::shared_ptr<void> object_;  ///< an AtspiAccessible; its header stays in the source file
-};
-
-/// Hears, as a screen reader does, where the keyboard focus goes: the only way to the items of a menu that
-/// hangs on a button.
-class FocusWatch {
-  public:
-    FocusWatch();
-    ~FocusWatch();
-    FocusWatch(const FocusWatch&) = delete;
-    FocusWatch& operator=(const FocusWatch&) = delete;
-
-    /// Waits until an object of this role has got the focus since the last call; empty at the deadline.
-    [[nodiscard]] Accessible wait_for(std::string_view role);
-
-  private:
-    struct Listener;
-    std::unique_ptr<Listener> listener_;
 };

@@ -62,7 +62,7 @@ Process::~Process() {
     }
 }
 
-std::optional<int> Process::status() {
+std::optional<int> Process::status() const {
     int status = 0;
     if (!status_ && waitpid(pid_, &status, WNOHANG) == pid_) {
         constexpr int ended_by_signal = 128;
@@ -71,7 +71,7 @@ std::optional<int> Process::status() {
     return status_;
 }
 
-std::optional<int> Process::wait_for_end(std::chrono::milliseconds deadline) {
+std::optional<int> Process::wait_for_end(std::chrono::milliseconds deadline) const {
     (void)wait_until([this] { return status().has_value(); }, deadline);
     return status_;
 }

@@ -30,12 +30,12 @@ class Process {
     [[nodiscard]] pid_t pid() const { return pid_; }
     /// The status as the shell tells it: the exit status, or 128 and the number of the signal; nothing while
     /// the process runs.
-    [[nodiscard]] std::optional<int> status();
+    [[nodiscard]] std::optional<int> status() const;
     /// Waits for the end of the process; nothing when it still runs at the deadline.
-    [[nodiscard]] std::optional<int> wait_for_end(std::chrono::milliseconds deadline);
+    [[nodiscard]] std::optional<int> wait_for_end(std::chrono::milliseconds deadline) const;
     void signal(int number) const;
 
   private:
     pid_t pid_ = -1;
-    std::optional<int> status_;
+    mutable std::optional<int> status_;  ///< once it has been asked for
 };

@@ -65,13 +65,13 @@ Accessible Program::application() const { return Accessible::application(process
 
 namespace {
 
-/// Asks until the answer is not empty.
+/// Asks until the answer is not empty, or nobody is there to answer.
 template <typename Question>
-Accessible awaited(Question question) {
+Accessible awaited(const Process& process, Question question) {
     Accessible answer;
     (void)wait_until([&] {
         answer = question();
-        return static_cast<bool>(answer);
+        return static_cast<bool>(answer) || process.status();
     });
     return answer;
 }
@@ -88,7 +88,7 @@ Accessible showing_window(const Accessible& application, std::string_view title)
 }  // namespace
 
 Accessible Program::window(std::string_view title) const {
-    return awaited([&] { return showing_window(application(), title); });
+    return awaited(process_, [&] { return showing_window(application(), title); });
 }
 
 bool Program::shows(std::string_view title) const {
@@ -96,7 +96,7 @@ bool Program::shows(std::string_view title) const {
 }
 
 Accessible Program::main_window() const {
-    return awaited([&] {
+    return awaited(process_, [&] {
         for (const Accessible& window : application().children()) {
             if (window.find({"terminal", "terminal"})) {
                 return window;
@@ -110,21 +110,25 @@ Accessible Program::terminal() const { return main_window().find({"terminal", "t
 
 Accessible Program::open(XDisplay& display, std::string_view menu, std::string_view item,
                          std::string_view title) const {
-    FocusWatch focus;
-    display.click(main_window().find({"push button", menu}).place());
-    display.press_key("Down");
-    const Accessible entry = focus.wait_for("menu item").parent().find({"menu item", item});
+    const Accessible button = main_window().find({"push button", menu});
+    display.click(button.place());
+    const Accessible entry = awaited(process_, [&] {
+        Accessible found = button.find({"menu item", item});
+        return found.showing() ? found : Accessible();
+    });
     if (!entry) {
-        display.press_key("Escape");
         return {};
     }
     display.click(entry.place());
     return window(title);
 }
 
-bool Program::focus_terminal() const {
+bool Program::focus_terminal(XDisplay& display) const {
     const Accessible pane = terminal();
-    return pane.take_focus() && wait_until([&] { return pane.focused(); });
+    if (!pane.focused()) {
+        display.click(pane.place());
+    }
+    return wait_until([&] { return pane.focused(); });
 }
 
 std::optional<int> Program::stop() {

@@ -33,7 +33,7 @@ class Program {
   public:
     explicit Program(const ProgramSetup& setup);
 
-    [[nodiscard]] Process& process() { return process_; }
+    [[nodiscard]] const Process& process() const { return process_; }
     /// What it wrote to its standard output and error.
     [[nodiscard]] std::string output() const;
 
@@ -48,8 +48,8 @@ class Program {
     /// Opens a window from a menu of the main window, as the pointer does.
     [[nodiscard]] Accessible open(XDisplay& display, std::string_view menu, std::string_view item,
                                   std::string_view title) const;
-    /// Gives the terminal pane the keyboard.
-    [[nodiscard]] bool focus_terminal() const;
+    /// Gives the terminal pane the keyboard, with a click where it has not got it.
+    [[nodiscard]] bool focus_terminal(XDisplay& display) const;
 
     /// Ends it with SIGTERM; the status as `Process` tells it, nothing when it had to be killed.
     [[nodiscard]] std::optional<int> stop();

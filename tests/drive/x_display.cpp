@@ -147,6 +147,18 @@ Rectangle XDisplay::place(WindowId window) const {
     return {x, y, static_cast<int>(width), static_cast<int>(height)};
 }
 
+Rectangle XDisplay::place_with_frame(WindowId window) const {
+    Rectangle outer = place(window);
+    const auto frame = connection_->values(window, "_NET_FRAME_EXTENTS", XA_CARDINAL);
+    if (frame.size() == 4) {  // left, right, top, bottom (EWMH)
+        outer.x -= static_cast<int>(frame[0]);
+        outer.y -= static_cast<int>(frame[2]);
+        outer.width += static_cast<int>(frame[0] + frame[1]);
+        outer.height += static_cast<int>(frame[2] + frame[3]);
+    }
+    return outer;
+}
+
 bool XDisplay::iconified(WindowId window) const {
     const auto state = connection_->values(window, "WM_STATE", connection_->atom("WM_STATE"));
     return !state.empty() && state.front() == IconicState;

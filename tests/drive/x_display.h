@@ -33,6 +33,8 @@ class XDisplay {
     [[nodiscard]] std::string title(WindowId window) const;
     /// The window without the window manager's frame.
     [[nodiscard]] Rectangle place(WindowId window) const;
+    /// With that frame.
+    [[nodiscard]] Rectangle place_with_frame(WindowId window) const;
     [[nodiscard]] bool iconified(WindowId window) const;
     void resize(WindowId window, int width, int height);
     /// Asks the window manager to close the window, as its close button does.

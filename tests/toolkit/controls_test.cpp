@@ -99,8 +99,11 @@ TEST_F(Controls, AChoiceHasOneValueAndNotifiesItsUserOnly) {
     EXPECT_EQ(sample.choice.value(), 2);
     EXPECT_EQ(notified, 0);
     find<QAbstractButton>("Two")->click();
+    find<QAbstractButton>("Two")->click();
     EXPECT_EQ(sample.choice.value(), 1);
     EXPECT_EQ(notified, 1);
+    find<QAbstractButton>("One")->toggle();  // as assistive programs do
+    EXPECT_EQ(notified, 2);
 }
 
 TEST_F(Controls, CheckBoxesAreBits) {

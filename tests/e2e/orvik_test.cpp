@@ -1,0 +1,111 @@
+// SPDX-License-Identifier: MIT
+#include "tests/e2e/orvik_test.h"
+
+#include <array>
+
+namespace {
+
+/// From which menu a window is opened, and by which item.
+struct MenuEntry {
+    std::string_view title;
+    std::string_view menu;
+    std::string_view item;
+};
+
+constexpr std::array menu_entries{
+    MenuEntry{"Default Settings", "Setup", "Default Settings"},
+    MenuEntry{"Environment Setup Window", "Setup", "Environment"},
+    MenuEntry{"Define Label", "Setup", "Label"},
+    MenuEntry{"Process Information", "Setup", "Process"},
+    MenuEntry{"Status Display", "Setup", "Status Display"},
+    MenuEntry{"Message Board", "Browse", "Message Board"},
+};
+
+}  // namespace
+
+std::string sanitizer_report(const std::string& output) {
+    for (const char* const sign : {"ERROR: AddressSanitizer", "ERROR: LeakSanitizer", "runtime error:"}) {
+        if (output.find(sign) != std::string::npos) {
+            return output;
+        }
+    }
+    return {};
+}
+
+XDisplay& OrvikTest::display() {
+    static XDisplay the_display;
+    return the_display;
+}
+
+OrvikTest::OrvikTest() : setup_{.program = ORVIK_PROGRAM, .data = ORVIK_DATA, .home = home_.path()} {}
+
+void OrvikTest::TearDown() {
+    if (program_) {
+        EXPECT_EQ(program_->stop(), 0);
+        EXPECT_EQ(sanitizer_report(program_->output()), "");
+    }
+}
+
+void OrvikTest::start() {
+    program_.emplace(setup_);
+    main_ = program_->main_window();
+    ASSERT_TRUE(main_) << program_->application().tree() << program_->output();
+    terminal_ = main_.find({"terminal", "terminal"});
+}
+
+void OrvikTest::start_with_shell(const std::string& path) {
+    setup_.shell = path;
+    home_.write(".bash_profile", "PS1='ready> '\n");
+    home_.write(".profile", "PS1='ready> '\n");
+    home_.write(".tcshrc", "set prompt='ready> '\n");
+    home_.write(".zshrc", "PS1='ready> '\n");
+    start();
+    ASSERT_TRUE(wait_until([this] { return terminal_shows("ready>"); })) << terminal_.text();
+}
+
+void OrvikTest::start_with_recording_shell(const std::string& name) {
+    std::filesystem::create_symlink(RECORDING_SHELL, home_ / name);
+    setup_.shell = home_ / name;
+    start();
+    ASSERT_TRUE(wait_until([this] { return std::filesystem::exists(home_ / "typed"); }));
+}
+
+void OrvikTest::type(std::string_view text) {
+    ASSERT_TRUE(program_->focus_terminal(display()));
+    display().type(text);
+}
+
+bool OrvikTest::terminal_shows(std::string_view text) const {
+    constexpr int screenful = 8000;
+    return terminal_.last_text(screenful).find(text) != std::string::npos;
+}
+
+Accessible OrvikTest::open_window(std::string_view title) const {
+    for (const MenuEntry& entry : menu_entries) {
+        if (entry.title == title) {
+            return program_->open(display(), entry.menu, entry.item, title);
+        }
+    }
+    ADD_FAILURE() << "no menu has an item for " << title;
+    return {};
+}
+
+std::string OrvikTest::field(const Accessible& window, std::string_view label) {
+    const Accessible text = window.find({"text", label});
+    return (text ? text : window.find({"spin button", label})).text();
+}
+
+std::string OrvikTest::right_footer() const { return main_.find({"label", "", "right footer"}).name(); }
+
+std::string OrvikTest::status_path(int number) const {
+    return home_ / (".orvik-status" + std::to_string(number));
+}
+
+WindowId OrvikTest::x_window() const {
+    std::optional<WindowId> window;
+    (void)wait_until([&] {
+        window = display().window(program_->process().pid(), main_.name());
+        return window.has_value();
+    });
+    return window.value_or(0);
+}
