@@ -1,0 +1,159 @@
+// SPDX-License-Identifier: MIT
+// Starts the program, works with it as its user would, and takes pictures of what is seen.
+// usage: tour PROGRAM FOLDER [OPTION]...
+#include "tests/drive/program.h"
+#include "tests/support/scratch_directory.h"
+#include "tests/support/wait_until.h"
+
+#include <array>
+#include <cstdio>
+#include <cstdlib>
+#include <thread>
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char* make_repository = R"(set -e
+git init -q -b main src && cd src
+git config user.name Dev && git config user.email dev@example.org && git config commit.gpgsign false
+mkdir include docs && printf '# Greeter\n' >README.md && printf 'all:\n\tc++ -o greet greet.cpp\n' >Makefile
+printf '#!/bin/sh\n' >build.sh && chmod +x build.sh && ln -s README.md docs/index.md
+git add . && git commit -qm 'Begin'
+printf '#include <iostream>\n\n// Greets whoever is named.\nint main(int argc, char** argv) {\n' >greet.cpp
+printf '    const char* name = argc > 1 ? argv[1] : "world";\n    std::cout << "Hello, " << name << "\\n";\n}\n' >>greet.cpp
+git add . && git commit -qm 'Greet the world'
+git checkout -qb names && printf 'Names may be given.\n' >>README.md && git commit -qam 'Say that names may be given'
+git checkout -q main && printf 'clean:\n\trm -f greet\n' >>Makefile && git commit -qam 'Clean up'
+git merge -q --no-edit names
+)";
+
+struct Stop {
+    const char* menu;
+    const char* item;
+    const char* title;
+    const char* picture;
+};
+
+constexpr std::array stops{
+    Stop{"Setup", "Default Settings", "Default Settings", "default-settings"},
+    Stop{"Setup", "Environment", "Environment Setup Window", "environment"},
+    Stop{"Setup", "Label", "Define Label", "label"},
+    Stop{"Setup", "Process", "Process Information", "process"},
+    Stop{"Setup", "Status Display", "Status Display", "status-display"},
+    Stop{"Browse", "Message Board", "Message Board", "message-board"},
+};
+
+[[noreturn]] void give_up(const std::string& what) {
+    std::fprintf(stderr, "tour: %s\n", what.c_str());
+    std::exit(1);
+}
+
+class Tour {
+  public:
+    Tour(Program& program, fs::path folder) : program_(program), folder_(std::move(folder)) {}
+
+    void wait_for_text(const std::string& text) {
+        constexpr int screenful = 8000;
+        const Accessible pane = program_.terminal();
+        if (!wait_until([&] { return pane.last_text(screenful).find(text) != std::string::npos; })) {
+            give_up("the terminal does not show \"" + text + "\"");
+        }
+    }
+    void type(const std::string& text) {
+        if (!program_.focus_terminal(display_)) {
+            give_up("the terminal does not take the keyboard");
+        }
+        display_.type(text);
+    }
+    void wait_for_cwd(const std::string& directory) {
+        const Accessible field = program_.main_window().find({"text", "Cwd:"});
+        if (!wait_until([&] { return field.text() == directory; })) {
+            give_up("\"Cwd:\" does not follow to " + directory);
+        }
+    }
+    void show_popup(const Stop& stop) {
+        if (!program_.open(display_, stop.menu, stop.item, stop.title)) {
+            give_up(std::string("\"") + stop.title + "\" does not open");
+        }
+        take_window(stop.title, stop.picture);
+        display_.press_key("Escape");
+        if (!wait_until([&] { return !program_.shows(stop.title); })) {
+            give_up(std::string("Escape does not close \"") + stop.title + "\"");
+        }
+    }
+    void take_window(const std::string& title, const std::string& picture) {
+        const auto window = display_.window(program_.process().pid(), title);
+        if (!window) {
+            give_up("no window is titled \"" + title + "\"");
+        }
+        const Rectangle place = display_.place_with_frame(*window);
+        take(picture, "-crop " + std::to_string(place.width) + "x" + std::to_string(place.height) + "+" +
+                          std::to_string(place.x) + "+" + std::to_string(place.y) + " +repage ");
+    }
+    void take_main_window(const std::string& picture) { take_window(program_.main_window().name(), picture); }
+    void take_desktop(const std::string& picture) { take(picture, ""); }
+
+  private:
+    void take(const std::string& picture, const std::string& crop) {
+        std::this_thread::sleep_for(std::chrono::milliseconds{300});  // painting is not announced
+        const fs::path file = folder_ / (picture + ".png");
+        if (std::system(("import -window root " + crop + "'" + file.string() + "'").c_str()) != 0) {
+            give_up("no picture could be taken: " + file.string());
+        }
+        std::printf("tour: %s\n", file.c_str());
+    }
+
+    Program& program_;
+    fs::path folder_;
+    XDisplay display_;
+};
+
+void play(Tour& tour, const fs::path& home) {
+    tour.wait_for_text("~ $");
+    tour.type("clear; cd src\n");
+    tour.wait_for_cwd(home / "src");
+    tour.type("ls -l --color\n");
+    tour.wait_for_text("greet.cpp");
+    tour.type("git --no-pager log --graph --oneline --color\n");
+    tour.wait_for_text("Begin");
+    tour.take_main_window("main-window");
+    tour.type("vi greet.cpp\n");
+    tour.wait_for_text("Greets whoever");
+    tour.take_main_window("editor");
+    tour.type(":q\n");
+    tour.wait_for_text("Begin");
+    for (const Stop& stop : stops) {
+        tour.show_popup(stop);
+    }
+    tour.take_desktop("desktop");
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    if (argc < 3) {
+        give_up("usage: tour PROGRAM FOLDER [OPTION]...");
+    }
+    const ScratchDirectory home;
+    home.write(".bash_profile", "PS1='\\[\\e[1;34m\\]\\w\\[\\e[0m\\] $ '\n");
+    home.write("make-repository", make_repository);
+    if (std::system(
+            ("cd '" + home.path().string() + "' && sh make-repository && rm make-repository").c_str()) != 0) {
+        give_up("the example repository could not be made");
+    }
+    fs::create_directories(argv[2]);
+    Program program({.program = argv[1],
+                     .data = ORVIK_DATA,
+                     .home = home.path(),
+                     .options = std::vector<std::string>(argv + 3, argv + argc)});
+    if (!program.main_window()) {
+        give_up("the program does not start: " + program.output());
+    }
+    Tour tour(program, argv[2]);
+    play(tour, home.path());
+    if (program.stop() != 0) {
+        give_up("the program does not end as it should: " + program.output());
+    }
+    return 0;
+}
