@@ -2,6 +2,7 @@
 #include "app/status_file.h"
 
 #include "app/text.h"
+#include "terminal/descriptor.h"
 
 #include <algorithm>
 #include <array>
@@ -50,23 +51,6 @@ void take_line(std::string_view line, ShellStatus& status) {
     }
 }
 
-/// A descriptor that is closed at the end.
-class Descriptor {
-  public:
-    explicit Descriptor(int number) : number_(number) {}
-    ~Descriptor() {
-        if (number_ >= 0) {
-            close(number_);
-        }
-    }
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-    [[nodiscard]] int number() const { return number_; }
-
-  private:
-    int number_;
-};
-
 }  // namespace
 
 ShellStatus parse_status(std::string_view contents) {
@@ -81,16 +65,16 @@ ShellStatus parse_status(std::string_view contents) {
 }
 
 std::optional<std::string> read_status_file(const std::string& path) {
-    const Descriptor file(open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+    const terminal::Descriptor file(open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
     struct stat info {};
-    if (file.number() < 0 || fstat(file.number(), &info) != 0 || !S_ISREG(info.st_mode)) {
+    if (file.get() < 0 || fstat(file.get(), &info) != 0 || !S_ISREG(info.st_mode)) {
         return std::nullopt;
     }
     std::string contents(largest_file, '\0');
     std::size_t filled = 0;
     ssize_t taken = 0;
     do {
-        taken = read(file.number(), contents.data() + filled, contents.size() - filled);
+        taken = read(file.get(), contents.data() + filled, contents.size() - filled);
         filled += taken > 0 ? static_cast<std::size_t>(taken) : 0;
     } while (taken > 0);
     contents.resize(filled);
@@ -100,8 +84,9 @@ std::optional<std::string> read_status_file(const std::string& path) {
 std::string create_status_file(const std::string& home) {
     for (int number = 0; number < status_files; ++number) {
         std::string path = fmt::sprintf("%s/.orvik-status%d", home, number);
-        const Descriptor made(open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600));
-        if (made.number() >= 0) {
+        const terminal::Descriptor made(
+            open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600));
+        if (made.get() >= 0) {
             return path;
         }
         if (errno != EEXIST) {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/pty.h"
 
+#include "terminal/descriptor.h"
+
 #include <algorithm>
 #include <array>
 #include <cerrno>
@@ -21,24 +23,6 @@ namespace terminal {
 namespace {
 
 constexpr int cannot_execute = 127;  // as a shell says it
-
-/// Owns a descriptor until it is released.
-class Descriptor {
-  public:
-    explicit Descriptor(int number) : number_(number) {}
-    ~Descriptor() {
-        if (number_ >= 0) {
-            close(number_);
-        }
-    }
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-    [[nodiscard]] int get() const { return number_; }
-    int release() { return std::exchange(number_, -1); }
-
-  private:
-    int number_;
-};
 
 winsize window_size(Size size, int pixel_width, int pixel_height) {
     const auto limited = [](int value) {

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <utility>
+
+#include <unistd.h>
+
+namespace terminal {
+
+/// Owns a file descriptor and closes it at the end, unless it is released; negative for none.
+class Descriptor {
+  public:
+    explicit Descriptor(int number) : number_(number) {}
+    ~Descriptor() {
+        if (number_ >= 0) {
+            close(number_);
+        }
+    }
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+    [[nodiscard]] int get() const { return number_; }
+    [[nodiscard]] int release() { return std::exchange(number_, -1); }
+
+  private:
+    int number_;
+};
+
+}  // namespace terminal
