@@ -90,6 +90,16 @@ TEST_F(Status, FooterShowsWhatIsEnabled) {
     expect_footer("Host: " + host_name() + "   ");
 }
 
+TEST_F(Status, FollowsAShellThatWasStartedAgain) {
+    start_with_shell("/bin/bash");
+    type("exit\n");
+    ASSERT_TRUE(wait_until([this] { return terminal_shows("press Return to start a new one]"); }));
+    type("\n");
+    expect_cwd(home_.path());
+    type("cd /usr\n");
+    expect_cwd("/usr");
+}
+
 TEST_F(Status, OffMeansNoRefresh) {
     start_with_shell("/bin/bash");
     type("cd /usr\n");
