@@ -24,7 +24,7 @@ TEST_PACKAGES=(
     "${RUN_PACKAGES[@]}" "${DISPLAY_PACKAGES[@]}"
     libgtest-dev libbenchmark-dev
     bash tcsh ksh zsh
-    procps
+    procps xclip
 )
 
 # Prints one line about what is being done.
