@@ -60,14 +60,16 @@ void OrvikTest::start_with_shell(const std::string& path) {
     home_.write(".tcshrc", "set prompt='ready> '\n");
     home_.write(".zshrc", "PS1='ready> '\n");
     start();
-    ASSERT_TRUE(wait_until([this] { return terminal_shows("ready>"); })) << terminal_.text();
+    ASSERT_TRUE(wait_until([this] { return terminal_shows("ready>") && terminal_.focused(); }))
+        << terminal_.text();
 }
 
 void OrvikTest::start_with_recording_shell(const std::string& name) {
     std::filesystem::create_symlink(RECORDING_SHELL, home_ / name);
     setup_.shell = home_ / name;
     start();
-    ASSERT_TRUE(wait_until([this] { return std::filesystem::exists(home_ / "typed"); }));
+    ASSERT_TRUE(
+        wait_until([this] { return std::filesystem::exists(home_ / "typed") && terminal_.focused(); }));
 }
 
 void OrvikTest::type(std::string_view text) {
@@ -99,13 +101,4 @@ std::string OrvikTest::right_footer() const { return main_.find({"label", "", "r
 
 std::string OrvikTest::status_path(int number) const {
     return home_ / (".orvik-status" + std::to_string(number));
-}
-
-WindowId OrvikTest::x_window() const {
-    std::optional<WindowId> window;
-    (void)wait_until([&] {
-        window = display().window(program_->process().pid(), main_.name());
-        return window.has_value();
-    });
-    return window.value_or(0);
 }
