@@ -155,13 +155,7 @@ bool Accessible::set_text(std::string_view text) const {
 
 bool Accessible::press() const {
     const auto action = owned(object_ ? atspi_accessible_get_action_iface(accessible(object_)) : nullptr);
-    const int count = action ? atspi_action_get_n_actions(action.get(), Ignored()) : 0;
-    for (int i = 0; i < count; ++i) {
-        if (taken(atspi_action_get_action_name(action.get(), i, Ignored())) == "Press") {
-            return atspi_action_do_action(action.get(), i, Ignored()) != FALSE;
-        }
-    }
-    return false;
+    return action && atspi_action_do_action(action.get(), 0, Ignored()) != FALSE;
 }
 
 bool Accessible::take_focus() const {

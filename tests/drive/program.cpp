@@ -123,20 +123,12 @@ Accessible Program::open(XDisplay& display, std::string_view menu, std::string_v
     return window(title);
 }
 
-WindowId Program::x_window(const XDisplay& display) const {
-    std::optional<WindowId> window;
-    const std::string title = main_window().name();
-    (void)wait_until([&] {
-        window = display.window(process_.pid(), title);
-        return window || process_.status();
-    });
-    return window.value_or(0);
-}
-
 bool Program::focus_terminal(XDisplay& display) const {
     const Accessible pane = terminal();
-    display.activate(x_window(display));
-    return pane.take_focus() && wait_until([&] { return pane.focused(); });
+    if (!pane.focused()) {
+        display.click(pane.place());
+    }
+    return wait_until([&] { return pane.focused(); });
 }
 
 std::optional<int> Program::stop() {

@@ -73,20 +73,6 @@ struct XDisplay::Connection {
         XFlush(display);
     }
 
-    /// Sends the window manager a request about a window (EWMH); a 2 among the data says that it is the
-    /// user's own.
-    void ask_manager(Window window, const char* request, long first, long second) const {
-        XEvent event{};
-        event.xclient.type = ClientMessage;
-        event.xclient.window = window;
-        event.xclient.message_type = atom(request);
-        event.xclient.format = 32;
-        event.xclient.data.l[0] = first;
-        event.xclient.data.l[1] = second;
-        XSendEvent(display, root(), False, SubstructureRedirectMask | SubstructureNotifyMask, &event);
-        XFlush(display);
-    }
-
   private:
     struct Property {
         unsigned char* data = nullptr;
@@ -183,6 +169,14 @@ void XDisplay::resize(WindowId window, int width, int height) {
     XFlush(connection_->display);
 }
 
-void XDisplay::activate(WindowId window) { connection_->ask_manager(window, "_NET_ACTIVE_WINDOW", 2, 0); }
-
-void XDisplay::close(WindowId window) { connection_->ask_manager(window, "_NET_CLOSE_WINDOW", 0, 2); }
+void XDisplay::close(WindowId window) {
+    XEvent event{};
+    event.xclient.type = ClientMessage;
+    event.xclient.window = window;
+    event.xclient.message_type = connection_->atom("_NET_CLOSE_WINDOW");
+    event.xclient.format = 32;
+    event.xclient.data.l[1] = 2;  // the request comes from a pager: the user's own wish (EWMH)
+    XSendEvent(connection_->display, connection_->root(), False,
+               SubstructureRedirectMask | SubstructureNotifyMask, &event);
+    XFlush(connection_->display);
+}

@@ -36,8 +36,6 @@ class XDisplay {
     /// With that frame.
     [[nodiscard]] Rectangle place_with_frame(WindowId window) const;
     [[nodiscard]] bool iconified(WindowId window) const;
-    /// Brings the window to the front with the keyboard focus.
-    void activate(WindowId window);
     void resize(WindowId window, int width, int height);
     /// Asks the window manager to close the window, as its close button does.
     void close(WindowId window);

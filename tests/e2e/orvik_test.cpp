@@ -102,3 +102,12 @@ std::string OrvikTest::right_footer() const { return main_.find({"label", "", "r
 std::string OrvikTest::status_path(int number) const {
     return home_ / (".orvik-status" + std::to_string(number));
 }
+
+WindowId OrvikTest::x_window() const {
+    std::optional<WindowId> window;
+    (void)wait_until([&] {
+        window = display().window(program_->process().pid(), main_.name());
+        return window.has_value();
+    });
+    return window.value_or(0);
+}

@@ -49,10 +49,11 @@ class OrvikTest : public testing::Test {
     [[nodiscard]] static std::string field(const Accessible& window, std::string_view label);
     [[nodiscard]] std::string cwd() const { return field(main_, "Cwd:"); }
     [[nodiscard]] std::string right_footer() const;
+    /// What the right footer shows for these values of host, user and process.
     [[nodiscard]] std::string own_pid() const { return std::to_string(program_->process().pid()); }
     [[nodiscard]] std::string status_path(int number = 0) const;
     /// The main window as the window manager knows it.
-    [[nodiscard]] WindowId x_window() const { return program_->x_window(display()); }
+    [[nodiscard]] WindowId x_window() const;
 
     ScratchDirectory home_;
     ProgramSetup setup_;
