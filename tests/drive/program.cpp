@@ -120,7 +120,9 @@ Accessible Program::open(XDisplay& display, std::string_view menu, std::string_v
         return {};
     }
     display.click(entry.place());
-    return window(title);
+    const Accessible opened = window(title);
+    (void)wait_until([&] { return opened.active() || !opened.showing(); });  // keys go to it from now on
+    return opened;
 }
 
 bool Program::focus_terminal(XDisplay& display) const {
