@@ -59,6 +59,11 @@ std::map<std::string, std::string> environment_of(const ProgramSetup& setup) {
 Program::Program(const ProgramSetup& setup)
     : output_(output_of(setup)), process_(command_of(setup, output_)) {}
 
+Program::~Program() {
+    std::error_code ignored;
+    std::filesystem::remove(output_, ignored);
+}
+
 std::string Program::output() const { return read_file(output_); }
 
 Accessible Program::application() const { return Accessible::application(process_.pid()); }

@@ -32,6 +32,9 @@ struct ProgramSetup {
 class Program {
   public:
     explicit Program(const ProgramSetup& setup);
+    ~Program();
+    Program(const Program&) = delete;
+    Program& operator=(const Program&) = delete;
 
     [[nodiscard]] const Process& process() const { return process_; }
     /// What it wrote to its standard output and error.
