@@ -1,16 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "app/status_file.h"
 
+#include "app/files.h"
 #include "app/text.h"
 #include "terminal/descriptor.h"
 
 #include <algorithm>
 #include <array>
+#include <cerrno>
+#include <utility>
 
 #include <fcntl.h>
 #include <fmt/printf.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 namespace {
 
@@ -65,20 +66,11 @@ ShellStatus parse_status(std::string_view contents) {
 }
 
 std::optional<std::string> read_status_file(const std::string& path) {
-    const terminal::Descriptor file(open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
-    struct stat info {};
-    if (file.get() < 0 || fstat(file.get(), &info) != 0 || !S_ISREG(info.st_mode)) {
+    FileContents file = read_file(path, largest_file);
+    if (file.error != 0 && file.error != EFBIG) {
         return std::nullopt;
     }
-    std::string contents(largest_file, '\0');
-    std::size_t filled = 0;
-    ssize_t taken = 0;
-    do {
-        taken = read(file.get(), contents.data() + filled, contents.size() - filled);
-        filled += taken > 0 ? static_cast<std::size_t>(taken) : 0;
-    } while (taken > 0);
-    contents.resize(filled);
-    return contents;
+    return std::move(file.text);
 }
 
 std::string create_status_file(const std::string& home) {

@@ -87,6 +87,7 @@ TEST(StatusFileReading, TakesRegularFilesOnly) {
     ASSERT_EQ(mkfifo(fifo.c_str(), 0600), 0);
     std::ofstream(home.path() / "file") << "C:/tmp\n";
     EXPECT_EQ(read_status_file(home.path() / "file"), "C:/tmp\n");
+    EXPECT_EQ(read_status_file(home.write("huge", std::string(70'000, 'x'))), std::string(65'536, 'x'));
     EXPECT_EQ(read_status_file(fifo), std::nullopt);
     EXPECT_EQ(read_status_file(home.path()), std::nullopt);
     EXPECT_EQ(read_status_file(home.path() / "missing"), std::nullopt);

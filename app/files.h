@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include <sys/types.h>
+
+// Reading and replacing the user's files. Paths are bytes, not UTF-8 by promise; one that holds a NUL is
+// refused with EINVAL, for cut there it would name another file.
+
+/// What a file holds, and 0; or an errno value that says why it could not be read.
+struct FileContents {
+    std::string text;
+    int error = 0;
+};
+
+/// Reads a whole regular file, through symbolic links. Never waits: a fifo or a device gives EINVAL, a
+/// directory EISDIR. A file of more than `limit` bytes gives EFBIG and its first `limit` bytes.
+[[nodiscard]] FileContents read_file(const std::string& path, std::size_t limit);
+
+/// What to do with a symbolic link in the place of a file.
+enum class Links { follow, replace };
+
+struct ReplaceOptions {
+    Links links = Links::follow;
+    mode_t new_mode = 0666;            ///< of a file that was not there before; the umask is taken off
+    std::optional<mode_t> exact_mode;  ///< of an old and of a new file alike, whatever the umask
+};
+
+/// Replaces a file, or makes it, so that at any time the old or the new contents stand there whole. Returns
+/// 0, or the errno value of what failed; then nothing has changed.
+///
+/// The contents go to a temporary file in the same directory, which takes the file's name at the end. So the
+/// directory must be writable, and other hard links to the file keep the old contents. The file itself must
+/// be writable too (else EACCES), and regular (else EISDIR, or EINVAL). Its permission bits are kept, its
+/// owner and group where the system allows it; where the group is lost, nobody gains a right by that. Access
+/// control lists and set-id bits are not carried over.
+///
+/// Links::follow replaces what a chain of symbolic links leads to, or makes it; a loop gives ELOOP.
+/// Links::replace puts the file in the place of a link at `path` itself.
+[[nodiscard]] int replace_file(const std::string& path, std::string_view contents,
+                               const ReplaceOptions& options = {});
