@@ -7,33 +7,40 @@
 #include <QAbstractButton>
 #include <QButtonGroup>
 #include <QCheckBox>
-#include <QHBoxLayout>
+#include <QGridLayout>
 #include <QRadioButton>
 #include <QWidget>
 
 namespace {
 
+constexpr int most_items_on_a_line = 5;
+
 enum class Exclusive : bool { no, yes };
 
 template <typename Item>
-QButtonGroup* make_items(Container& parent, std::string_view label,
-                         std::initializer_list<std::string_view> items, Exclusive exclusive, Notify notify) {
+QButtonGroup* make_items(Container& parent, Label label, std::initializer_list<std::string_view> items,
+                         Exclusive exclusive, Notify notify) {
     auto* group = new QWidget(parent.widget());
     set_accessible_role(*group, QAccessible::Grouping);
-    group->setAccessibleName(to_qstring(label));
-    auto* layout = new QHBoxLayout(group);
+    group->setAccessibleName(to_qstring(label.accessible_name));
+    auto* layout = new QGridLayout(group);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(14);
+    layout->setHorizontalSpacing(14);
+    layout->setVerticalSpacing(4);
     auto* buttons = new QButtonGroup(group);
     buttons->setExclusive(exclusive == Exclusive::yes);
+    const int count = static_cast<int>(items.size());
+    const int columns = count > most_items_on_a_line ? (count + 1) / 2 : count;
+    int index = 0;
     for (const std::string_view item : items) {
         auto* button = new Item(without_mnemonic(item), group);
         button->setAccessibleName(to_qstring(item));
-        buttons->addButton(button, static_cast<int>(buttons->buttons().size()));
-        layout->addWidget(button);
+        buttons->addButton(button, index);
+        layout->addWidget(button, index / columns, index % columns);
+        ++index;
     }
-    layout->addStretch(1);
-    parent.add(label, group);
+    layout->setColumnStretch(columns, 1);
+    parent.add(label.text, group, Place::line);
     if (notify != nullptr) {
         // Not only clicks: assistive programs toggle. Of two toggles in an exclusive group the one that
         // checks counts.
@@ -49,8 +56,7 @@ QButtonGroup* make_items(Container& parent, std::string_view label,
 
 }  // namespace
 
-Choice::Choice(Container& parent, std::string_view label, std::initializer_list<std::string_view> items,
-               Notify notify)
+Choice::Choice(Container& parent, Label label, std::initializer_list<std::string_view> items, Notify notify)
     : buttons_(make_items<QRadioButton>(parent, label, items, Exclusive::yes, notify)) {
     set_value(0);
 }
@@ -59,13 +65,12 @@ int Choice::value() const { return buttons_->checkedId(); }
 
 void Choice::set_value(int value) {
     const QSignalBlocker quiet(buttons_);
-    if (QAbstractButton* button = buttons_->button(value)) {
-        button->setChecked(true);
-    }
+    QAbstractButton* button = buttons_->button(value);
+    (button != nullptr ? button : buttons_->button(0))->setChecked(true);
 }
 
-CheckBoxes::CheckBoxes(Container& parent, std::string_view label,
-                       std::initializer_list<std::string_view> items, Notify notify)
+CheckBoxes::CheckBoxes(Container& parent, Label label, std::initializer_list<std::string_view> items,
+                       Notify notify)
     : buttons_(make_items<QCheckBox>(parent, label, items, Exclusive::no, notify)) {}
 
 unsigned CheckBoxes::value() const {
@@ -82,3 +87,13 @@ void CheckBoxes::set_value(unsigned value) {
         button->setChecked(((value >> static_cast<unsigned>(buttons_->id(button))) & 1U) != 0);
     }
 }
+
+CheckBox::CheckBox(Container& parent, Label label)
+    : widget_(new QCheckBox(without_mnemonic(label.text), parent.widget())) {
+    widget_->setAccessibleName(to_qstring(label.accessible_name));
+    parent.add({}, widget_, Place::field);
+}
+
+bool CheckBox::value() const { return widget_->isChecked(); }
+
+void CheckBox::set_value(bool value) { widget_->setChecked(value); }

@@ -8,15 +8,16 @@
 #include <string_view>
 
 class QButtonGroup;
+class QCheckBox;
 
 /// Exactly one of several items; the value is the item's index.
 class Choice {
   public:
     /// `notify` is called when the user chooses, after the value has changed.
-    Choice(Container& parent, std::string_view label, std::initializer_list<std::string_view> items,
+    Choice(Container& parent, Label label, std::initializer_list<std::string_view> items,
            Notify notify = nullptr);
     [[nodiscard]] int value() const;
-    /// An index beyond the items is ignored.
+    /// An index without an item stands for the first item.
     void set_value(int value);
 
   private:
@@ -26,7 +27,7 @@ class Choice {
 /// Any of several items; the value is a bit mask, bit 0 for the first item.
 class CheckBoxes {
   public:
-    CheckBoxes(Container& parent, std::string_view label, std::initializer_list<std::string_view> items,
+    CheckBoxes(Container& parent, Label label, std::initializer_list<std::string_view> items,
                Notify notify = nullptr);
     [[nodiscard]] unsigned value() const;
     /// Bits without an item are ignored.
@@ -34,4 +35,15 @@ class CheckBoxes {
 
   private:
     QButtonGroup* buttons_;
+};
+
+/// A single box with its label behind it; off until it is set.
+class CheckBox {
+  public:
+    CheckBox(Container& parent, Label label);
+    [[nodiscard]] bool value() const;
+    void set_value(bool value);
+
+  private:
+    QCheckBox* widget_;
 };

@@ -3,18 +3,46 @@
 
 #include "toolkit/text_conversion.h"
 
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QSpinBox>
 
 #include <limits>
 
-TextField::TextField(Container& parent, std::string_view label, Notify notify)
-    : widget_(new QLineEdit(parent.widget())) {
-    widget_->setAccessibleName(to_qstring(label));
-    parent.add(label, widget_);
-    if (notify != nullptr) {
-        QObject::connect(widget_, &QLineEdit::returnPressed, widget_, notify);
+namespace {
+
+constexpr int usual_length = 24;  ///< characters
+
+/// A line edit that keeps Return to itself when it acts on it; else the window takes the key.
+class LineEdit : public QLineEdit {
+  public:
+    LineEdit(Notify notify, QWidget* parent) : QLineEdit(parent), notify_(notify) {}
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override {
+        QLineEdit::keyPressEvent(event);
+        const bool is_return = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+        if (is_return && notify_ != nullptr) {
+            event->accept();
+            notify_();
+        }
     }
+
+  private:
+    Notify notify_;
+};
+
+int width_of(const QWidget& widget, int characters) {
+    return widget.fontMetrics().averageCharWidth() * characters;
+}
+
+}  // namespace
+
+TextField::TextField(Container& parent, Label label, Notify notify, Place place)
+    : widget_(new LineEdit(notify, parent.widget())) {
+    widget_->setAccessibleName(to_qstring(label.accessible_name));
+    set_display_length(usual_length);
+    parent.add(label.text, widget_, place);
 }
 
 std::string TextField::text() const { return from_qstring(widget_->text()); }
@@ -29,20 +57,21 @@ void TextField::set_text(std::string_view text) {
 void TextField::show_beginning() { widget_->setCursorPosition(0); }
 
 void TextField::set_display_length(int characters) {
-    widget_->setMinimumWidth(widget_->fontMetrics().averageCharWidth() * characters);
+    widget_->setMinimumWidth(width_of(*widget_, characters));
 }
 
-NumberField::NumberField(Container& parent, std::string_view label, int initial, Notify notify)
+void TextField::set_tool_tip(std::string_view text) { widget_->setToolTip(to_qstring(text)); }
+
+NumberField::NumberField(Container& parent, Label label, int initial, Notify notify)
     : widget_(new QSpinBox(parent.widget())) {
-    widget_->setAccessibleName(to_qstring(label));
+    widget_->setAccessibleName(to_qstring(label.accessible_name));
     widget_->setRange(std::numeric_limits<int>::min(), std::numeric_limits<int>::max());
     widget_->setValue(initial);
-    const int room =
-        widget_->fontMetrics().horizontalAdvance(QStringLiteral("00000000")) + widget_->sizeHint().height();
+    constexpr int digits = 8;
+    const int room = width_of(*widget_, digits + 1) + widget_->sizeHint().height();
     widget_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-    widget_->setMinimumWidth(room);
-    widget_->setMaximumWidth(room);
-    parent.add(label, widget_);
+    widget_->setFixedWidth(room);
+    parent.add(label.text, widget_, Place::field);
     if (notify != nullptr) {
         QObject::connect(widget_, &QSpinBox::editingFinished, widget_, notify);
     }

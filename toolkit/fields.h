@@ -13,8 +13,9 @@ class QSpinBox;
 /// One line of text with a label. Line feeds cannot be entered; bytes that are not UTF-8 are kept.
 class TextField {
   public:
-    /// `notify` is called on Return.
-    TextField(Container& parent, std::string_view label, Notify notify = nullptr);
+    /// `notify` is called on Return. Without one, Return presses the window's default button or, where there
+    /// is none, goes to the next control.
+    TextField(Container& parent, Label label, Notify notify = nullptr, Place place = Place::field);
     [[nodiscard]] std::string text() const;
     /// Sets the text; `notify` is not called. An equal text leaves cursor and selection as they are.
     void set_text(std::string_view text);
@@ -22,6 +23,8 @@ class TextField {
     void show_beginning();
     /// For fields of known content: asks for room for so many characters.
     void set_display_length(int characters);
+    /// What the field is for, shown under the pointer.
+    void set_tool_tip(std::string_view text);
 
   private:
     QLineEdit* widget_;
@@ -30,7 +33,7 @@ class TextField {
 /// A whole number, entered or stepped through.
 class NumberField {
   public:
-    NumberField(Container& parent, std::string_view label, int initial = 0, Notify notify = nullptr);
+    NumberField(Container& parent, Label label, int initial = 0, Notify notify = nullptr);
     [[nodiscard]] int value() const;
     void set_value(int value);
 

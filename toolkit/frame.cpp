@@ -9,15 +9,17 @@
 #include <QCloseEvent>
 #include <QGuiApplication>
 #include <QKeyEvent>
+#include <QLineEdit>
+#include <QPushButton>
 #include <QScreen>
+#include <QSpinBox>
 
 #include <algorithm>
 #include <cassert>
+#include <optional>
 
 namespace {
 
-constexpr int popup_right = 740;
-constexpr int popup_down = 100;
 constexpr int title_bar_buttons = 170;  ///< room beside the title in common title bars, in pixels
 
 Frame* base_frame = nullptr;
@@ -56,7 +58,32 @@ class FrameWidget : public QWidget {
     Notify close_notify = nullptr;
     bool iconified_at_first = false;
 
+    /// Gives the first control the keyboard.
+    void focus_first_control() { focusNextChild(); }
+
+    /// Gives a window that has not been placed yet the size that its controls and its title want.
+    void settle_size() {
+        if (!placed_) {
+            setMinimumWidth(fontMetrics().horizontalAdvance(windowTitle()) + title_bar_buttons);
+            if (!testAttribute(Qt::WA_Resized)) {
+                adjustSize();
+            }
+        }
+    }
+    /// Where the user has put the window; nothing while it stands where it was placed.
+    [[nodiscard]] std::optional<QPoint> users_place() const { return users_place_; }
+    void place(QPoint at) {
+        move(at);
+        placed_ = at;
+    }
+
   protected:
+    void hideEvent(QHideEvent* event) override {
+        if (!event->spontaneous() && placed_ && pos() != placed_) {
+            users_place_ = pos();
+        }
+        QWidget::hideEvent(event);
+    }
     void closeEvent(QCloseEvent* event) override {
         event->accept();
         if (close_notify != nullptr) {
@@ -64,12 +91,33 @@ class FrameWidget : public QWidget {
         }
     }
     void keyPressEvent(QKeyEvent* event) override {
+        const bool is_return = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
         if (event->key() == Qt::Key_Escape && parentWidget() != nullptr) {
             close();
-            return;
+        } else if (is_return && is_field(focusWidget())) {
+            finish_field();
+        } else {
+            QWidget::keyPressEvent(event);
         }
-        QWidget::keyPressEvent(event);
     }
+
+  private:
+    static bool is_field(const QWidget* control) {
+        return qobject_cast<const QLineEdit*>(control) != nullptr ||
+               qobject_cast<const QSpinBox*>(control) != nullptr;
+    }
+    void finish_field() {
+        for (QPushButton* button : findChildren<QPushButton*>()) {
+            if (button->isDefault()) {
+                button->click();
+                return;
+            }
+        }
+        focusNextChild();
+    }
+
+    std::optional<QPoint> placed_;
+    std::optional<QPoint> users_place_;
 };
 
 Frame::Frame(std::string_view label)
@@ -124,6 +172,9 @@ void Frame::show() {
     widget_->show();
     widget_->raise();
     widget_->activateWindow();
+    if (widget_->focusWidget() == nullptr) {
+        widget_->focus_first_control();
+    }
 }
 
 void Frame::hide() { widget_->hide(); }
@@ -134,24 +185,26 @@ void Frame::start_iconified() { widget_->iconified_at_first = true; }
 
 void Frame::resize(int width, int height) { widget_->resize(width, height); }
 
+void Frame::set_width(int width) { widget_->resize(width, widget_->sizeHint().height()); }
+
 void Frame::place_beside_base(int right, int down) {
     const QWidget* base_widget = base().widget();
-    const QPoint wanted = base_widget->pos() + QPoint(right, down);
-    const QScreen* screen = base_widget->screen();
+    const std::optional<QPoint> users_place = widget_->users_place();
+    const QPoint wanted = users_place.value_or(base_widget->pos() + QPoint(right, down));
+    const QScreen* users_screen = users_place ? QGuiApplication::screenAt(*users_place) : nullptr;
+    const QScreen* screen = users_screen != nullptr ? users_screen : base_widget->screen();
     const QRect room = screen->availableGeometry();
-    widget_->setMinimumWidth(widget_->fontMetrics().horizontalAdvance(widget_->windowTitle()) +
-                             title_bar_buttons);
-    widget_->adjustSize();
+    widget_->settle_size();
     // The window manager's frame round the new window is not known before it is shown: the main window's
     // serves.
     const QSize size = widget_->size() + base_widget->frameSize() - base_widget->size();
-    widget_->move(moved_inside(wanted.x(), size.width(), room.left(), room.right()),
-                  moved_inside(wanted.y(), size.height(), room.top(), room.bottom()));
+    widget_->place({moved_inside(wanted.x(), size.width(), room.left(), room.right()),
+                    moved_inside(wanted.y(), size.height(), room.top(), room.bottom())});
 }
 
 void Frame::on_close(Notify notify) { widget_->close_notify = notify; }
 
-void Frame::add(std::string_view /*label*/, QWidget* area) {
+void Frame::add(std::string_view /*label*/, QWidget* area, Place /*place*/) {
     widget_->areas->addWidget(area);
     // Assistive programs read the areas first.
     widget_->left_footer->raise();
@@ -172,9 +225,9 @@ BusyState::~BusyState() {
     }
 }
 
-void CommandFrame::open() {
+void Frame::open(int right, int down) {
     if (!shown()) {
-        place_beside_base(popup_right, popup_down);
+        place_beside_base(right, down);
     }
     show();
 }

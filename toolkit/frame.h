@@ -11,6 +11,8 @@ class FrameWidget;
 
 /// A window: areas from top to bottom (panels, text panes, the terminal pane), and a line with a left and a
 /// right footer. The first frame made is the main window; the others belong to it and close with Escape.
+/// Return in a control that does not act on it presses the default button; where there is none it goes to the
+/// next control.
 class Frame : public Container {
   public:
     explicit Frame(std::string_view label);
@@ -38,17 +40,20 @@ class Frame : public Container {
     void start_iconified();
     /// Size in pixels, without the window manager's frame.
     void resize(int width, int height);
-    /// Places the window at an offset in pixels from the main window's origin, moved back where that would be
-    /// outside the screen.
-    void place_beside_base(int right, int down);
+    void set_width(int width);
+    /// Shows a pop-up. One that is not shown yet is placed at an offset in pixels from the main window's
+    /// origin, or where the user has put it before; moved back where that would be outside the screen.
+    void open(int right = 740, int down = 100);
     /// Called when the user closes the window.
     void on_close(Notify notify);
 
-    void add(std::string_view label, QWidget* area) override;
+    void add(std::string_view label, QWidget* area, Place place) override;
     [[nodiscard]] QWidget* widget() const override;
 
   private:
     friend class BusyState;
+    void place_beside_base(int right, int down);
+
     FrameWidget* widget_;
     int busy_ = 0;
 };
@@ -68,9 +73,8 @@ class BusyState {
 /// A pop-up with one panel of controls.
 class CommandFrame : public Frame {
   public:
-    explicit CommandFrame(std::string_view label) : Frame(label) {}
-    /// Shows the pop-up; if it is not shown yet, at its place right of the main window.
-    void open();
+    explicit CommandFrame(std::string_view label, int fields_per_line = 1)
+        : Frame(label), panel(*this, fields_per_line) {}
 
-    Panel panel{*this};
+    Panel panel;
 };

@@ -108,5 +108,5 @@ MenuButton::MenuButton(Container& parent, std::string_view label, Menu menu) : m
     widget_ = new MenuPushButton(without_mnemonic(label), *menu_.widget(), parent.widget());
     widget_->setAccessibleName(to_qstring(label));
     widget_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-    parent.add({}, widget_);
+    parent.add({}, widget_, Place::line);
 }

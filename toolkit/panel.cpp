@@ -10,6 +10,8 @@
 namespace {
 
 constexpr int spacing = 6;
+constexpr int column_spacing = 8;
+constexpr int group_spacing = 10;
 constexpr int margin = 10;
 
 QLabel* make_label(std::string_view text, QWidget* control, QWidget* parent) {
@@ -20,43 +22,71 @@ QLabel* make_label(std::string_view text, QWidget* control, QWidget* parent) {
     return label;
 }
 
+bool wants_height(const QWidget* widget) {
+    return (widget->sizePolicy().verticalPolicy() & QSizePolicy::ExpandFlag) != 0;
+}
+
+/// A panel's widget is as high as its controls are, and takes height that is left only if one of them does.
+void follow_height(QWidget* panel, const QWidget* control) {
+    if (wants_height(control)) {
+        panel->setSizePolicy(panel->sizePolicy().horizontalPolicy(), QSizePolicy::Expanding);
+    }
+}
+
 }  // namespace
 
-Panel::Panel(Container& parent) : widget_(new QWidget(parent.widget())), layout_(new QGridLayout(widget_)) {
-    layout_->setContentsMargins(margin, margin, margin, margin);
-    layout_->setHorizontalSpacing(spacing + 2);
+Panel::Panel(Container& parent, int fields_per_line)
+    : widget_(new QWidget(parent.widget())),
+      layout_(new QGridLayout(widget_)),
+      fields_per_line_(fields_per_line) {
+    const int own_margin = parent.widget()->isWindow() ? margin : 0;  // a panel in a panel has its margins
+    layout_->setContentsMargins(own_margin, own_margin, own_margin, own_margin);
+    layout_->setHorizontalSpacing(column_spacing);
     layout_->setVerticalSpacing(spacing);
-    layout_->setColumnStretch(1, 1);
+    for (int field = 0; field < fields_per_line; ++field) {
+        layout_->setColumnStretch(2 * field + 1, 1);
+    }
     widget_->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
-    parent.add({}, widget_);
+    parent.add({}, widget_, Place::line);
 }
 
-void Panel::add(std::string_view label, QWidget* control) {
-    const int row = layout_->rowCount();
-    if ((control->sizePolicy().verticalPolicy() & QSizePolicy::ExpandFlag) != 0) {
-        widget_->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
+void Panel::add(std::string_view label, QWidget* control, Place place) {
+    follow_height(widget_, control);
+    const bool next_field = place == Place::field && !label.empty() && field_ < fields_per_line_;
+    if (!next_field && field_ > 0) {
+        field_ = 0;
+        ++line_;
     }
+    const int columns = 2 * fields_per_line_;
     if (label.empty()) {
-        layout_->addWidget(control, row, 0, 1, 2);
+        const int column = place == Place::field ? 1 : 0;
+        layout_->addWidget(control, line_++, column, 1, columns - column);
         return;
     }
-    layout_->addWidget(make_label(label, control, widget_), row, 0, Qt::AlignRight | Qt::AlignVCenter);
+    const int column = 2 * field_;
+    layout_->addWidget(make_label(label, control, widget_), line_, column, Qt::AlignRight | Qt::AlignVCenter);
     const bool fixed_width = control->sizePolicy().horizontalPolicy() == QSizePolicy::Fixed;
-    layout_->addWidget(control, row, 1, fixed_width ? Qt::AlignLeft | Qt::AlignVCenter : Qt::Alignment());
+    const int span = place == Place::field ? 1 : columns - 1;
+    layout_->addWidget(control, line_, column + 1, 1, span,
+                       fixed_width ? Qt::AlignLeft | Qt::AlignVCenter : Qt::Alignment());
+    field_ = place == Place::field ? field_ + 1 : fields_per_line_;
 }
 
-Row::Row(Container& parent, std::string_view label)
+Row::Row(Container& parent, Place place)
     : widget_(new QWidget(parent.widget())), layout_(new QHBoxLayout(widget_)) {
     layout_->setContentsMargins(0, 0, 0, 0);
     layout_->setSpacing(spacing);
-    parent.add(label, widget_);
+    parent.add({}, widget_, place);
 }
 
-void Row::add(std::string_view label, QWidget* control) {
+void Row::add(std::string_view label, QWidget* control, Place /*place*/) {
     if (!label.empty()) {
+        if (layout_->count() > 0) {
+            layout_->addSpacing(group_spacing);
+        }
         layout_->addWidget(make_label(label, control, widget_));
     }
     layout_->addWidget(control);
 }
 
-void Row::add_stretch() { layout_->addStretch(1); }
+Stretch::Stretch(Row& row) { row.layout_->addStretch(1); }

@@ -9,3 +9,5 @@ bool selection_inquire();
 /// The contents of the primary selection as text (UTF-8); nothing when nobody holds it or its holder gives no
 /// text.
 std::optional<std::string> selection_ask();
+/// Puts text into the clipboard.
+void copy_to_clipboard(const std::string& text);

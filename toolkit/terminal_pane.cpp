@@ -103,7 +103,7 @@ void PaneWidget::show_menu(QPoint place) {
 
 TerminalPane::TerminalPane(Container& parent, std::string_view accessible_name)
     : TerminalPane(parent.widget(), accessible_name) {
-    parent.add({}, pane_);
+    parent.add({}, pane_, Place::line);
 }
 
 TerminalPane::TerminalPane(QWidget* parent, std::string_view accessible_name)

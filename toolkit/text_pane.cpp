@@ -2,29 +2,40 @@
 #include "toolkit/text_pane.h"
 
 #include "toolkit/text_conversion.h"
+#include "toolkit/text_size.h"
 
 #include <QPlainTextEdit>
-#include <QScrollBar>
 
 #include <algorithm>
 
-TextPane::TextPane(Container& parent, std::string_view accessible_name)
+TextPane::TextPane(Container& parent, std::string_view accessible_name, Access access)
     : widget_(new QPlainTextEdit(parent.widget())) {
     widget_->setAccessibleName(to_qstring(accessible_name));
     widget_->setTabChangesFocus(true);
-    parent.add({}, widget_);
+    if (access == Access::read_only) {
+        widget_->setReadOnly(true);
+        widget_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    }
+    parent.add({}, widget_, Place::line);
 }
 
 std::string TextPane::text() const { return from_qstring(widget_->toPlainText()); }
 
-void TextPane::set_font(const Font& font) { widget_->setFont(font.qt()); }
+void TextPane::set_text(std::string_view text) { widget_->setPlainText(to_qstring(text)); }
+
+bool TextPane::modified() const { return widget_->document()->isModified(); }
+
+void TextPane::set_unmodified() { widget_->document()->setModified(false); }
+
+void TextPane::set_font(const Font& font) {
+    widget_->setFont(font.qt());
+    set_display_size(columns_, lines_);
+}
 
 void TextPane::set_display_size(int columns, int lines) {
-    const QFontMetrics metrics(widget_->font());
-    const int frame = 2 * widget_->frameWidth() + static_cast<int>(2 * widget_->document()->documentMargin());
-    widget_->setMinimumSize(
-        metrics.averageCharWidth() * columns + frame + widget_->verticalScrollBar()->sizeHint().width(),
-        metrics.lineSpacing() * lines + frame);
+    columns_ = columns;
+    lines_ = lines;
+    widget_->setMinimumSize(text_size(*widget_, columns, lines));
 }
 
 void textsw_set_insertion_point(TextPane& pane, int position) {

@@ -4,16 +4,24 @@
 #include "toolkit/font.h"
 #include "toolkit/panel.h"
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
 class QPlainTextEdit;
 
-/// Several lines of plain text that the user can edit.
+/// Several lines of plain text.
 class TextPane {
   public:
-    TextPane(Container& parent, std::string_view accessible_name);
+    enum class Access : std::uint8_t { edit, read_only };
+
+    TextPane(Container& parent, std::string_view accessible_name, Access access = Access::edit);
     [[nodiscard]] std::string text() const;
+    /// Replaces everything; the new text counts as unmodified.
+    void set_text(std::string_view text);
+    /// Whether the text has been changed since it was last set, reset or called unmodified.
+    [[nodiscard]] bool modified() const;
+    void set_unmodified();
     void set_font(const Font& font);
     /// Asks for room for so many characters and lines.
     void set_display_size(int columns, int lines);
@@ -22,6 +30,8 @@ class TextPane {
 
   private:
     QPlainTextEdit* widget_;
+    int columns_ = 0;
+    int lines_ = 0;
 };
 
 /// The insertion point behind the last character.
