@@ -2,8 +2,14 @@
 #include "app/fonts.h"
 
 #include "toolkit/resources.h"
+#include "ui/about_window.h"
+#include "ui/command_history_manager.h"
+#include "ui/file_list_browser.h"
 #include "ui/main_window.h"
 #include "ui/message_board.h"
+#include "ui/notebook.h"
+#include "ui/send_email.h"
+#include "ui/text_editor_setup.h"
 
 #include <array>
 #include <string>
@@ -37,6 +43,8 @@ constexpr std::array scales{
 void set_pane_fonts(const Font& font) {
     main_window().termpane.set_font(font);
     message_board().text.set_font(font);
+    notebook().text.set_font(font);
+    send_email().text.set_font(font);
 }
 
 }  // namespace
@@ -70,6 +78,12 @@ void apply_font_resources() {
         }
     }
     // The name decides the panes' font, whatever the size resource says.
-    default_font = xv_find(defaults_get_string("orvik.fontName", "Orvik.FontName", "fixed"));
+    const std::string name = defaults_get_string("orvik.fontName", "Orvik.FontName", "fixed");
+    default_font = xv_find(name);
+    text_editor_setup().font_name.set_text(name);
     set_pane_fonts(default_font);
+    about_window().text.set_font(fixed_font);
+    for (ScrollingList* list : {&command_history_manager().list, &file_list_browser().list}) {
+        list->set_font(fixed_font);
+    }
 }

@@ -3,16 +3,52 @@
 
 // The notify procedures of app/, bound to controls by the windows and menus in ui/.
 
-// "Setup" and "Browse" menus: each opens the window it names.
+// "Help" menu: each shows its own text.
+void To_get_started();
+void About_window();
+void User_guide();
+void HelpMenuButtons();
+
+// "Setup" menu: each opens the window it names.
+void SetupMenuBookmarks();
+void SetupMenuClearCase();
+void SetupMenuCommandList();
+void SetupMenuCommandHistory();
 void Default_settings_popup();
 void Environment_setup_window();
 void Open_icon_label();
 void Process_display_window();
+void SetupMenuRemoteHosts();
 void SetupMenuStatusDisplay();
+void Text_editor_setup();
+void SetupMenuUserButtons();
+
+// "Browse" menu: each opens the window it names.
+void Start_file_tree();
+void BrowseMenuFullSize();
+void Start_file_manager();
+void BrowserMenuCommandHistory();
 void Browse_mess_board();
+void BrowseMenuNoteBook();
+
+// "Edit" menu.
+void Edit_menu_setup();
+
+// "About".
+void AboutCopy();
 
 // "Define Label".
 void DefineLabelApply();
+
+// "Message Board".
+void MessageBoardSave();
+void MessageBoardClear();
+
+// "Notebook".
+void NotebookSave();
+void NotebookLoad();
+void NotebookPrint();
+void NotebookClear();
 
 // "Status Display".
 void StatusDisplayEnable();

@@ -11,15 +11,25 @@
 #include "app/status_file.h"
 #include "app/termpane.h"
 #include "app/title.h"
+#include "app/user_defaults.h"
 #include "browsers/expand_path.h"
+#include "settings/setup_file.h"
 #include "toolkit/application.h"
 #include "toolkit/resources.h"
+#include "ui/command_list_manager.h"
+#include "ui/command_list_setup.h"
+#include "ui/default_settings.h"
 #include "ui/define_label.h"
+#include "ui/email_addresses.h"
 #include "ui/environment_setup.h"
+#include "ui/file_tree_browser.h"
+#include "ui/lookup_directories_main.h"
 #include "ui/main_window.h"
 #include "ui/message_board.h"
 #include "ui/process_information.h"
+#include "ui/remote_hosts.h"
 #include "ui/status_display.h"
+#include "ui/text_editor_setup.h"
 #include "ui/windows.h"
 
 #include <cstdio>
@@ -70,11 +80,37 @@ void make_windows() {
     main_window().termpane.start(login_shell());
 }
 
+std::string environment_text(const char* name) {
+    const char* value = std::getenv(name);
+    return value == nullptr ? "" : value;
+}
+
 void set_initial_values() {
     process_information().process_id.set_value(pid);
+    remote_hosts().my_host.set_text(host_own);
     set_application_icon(orvik_home + "/icons/orvik.svg");
+    constexpr int medium = 1;
+    text_editor_setup().font_size.set_value(medium);
     environment_setup().startup_directory.set_text(startup_dir);
+    lookup_directories_main().dir.set_text(startup_dir);
+    constexpr int editing_enabled = 1;
+    default_settings().command_line_editing.set_value(editing_enabled);
+    email_addresses().list.clear_selection();
+    constexpr int small = 1;
+    file_tree_browser().font_size.set_value(small);
     status_display().enable.set_value(status_host | status_pid | status_user);
+    text_editor_setup().user_editor.set_text(
+        windowed_editor(environment_text("VISUAL"), environment_text("EDITOR")));
+    default_settings().prompt_ending_delimiter.set_text(usual_prompt_delimiter(shell_name, geteuid() == 0));
+}
+
+/// The command list's window is as wide as its setup says, the list as wide as the window or a little less.
+void size_command_list() {
+    constexpr int margin = 40;
+    const CommandListSetup& setup = command_list_setup();
+    command_list_manager().set_width(setup.window_width.value());
+    command_list_manager().list.set_margin(
+        setup.follow_window_size.value() == CommandListSetup::follow ? 0 : margin);
 }
 
 void read_resources() {
@@ -144,7 +180,9 @@ void start_up(std::vector<std::string> arguments) {
     status_display().status_file.set_text(create_status_file(home_dir));
     read_resources();
     const CommandLineOptions options = read_options(arguments);
+    (void)load_setup_at_startup();
     put_options_into_fields(options);
+    size_command_list();
     type_environment_file();
     if (options.work && !options.host) {
         type_with_path("cd", options.workdir);

@@ -8,6 +8,7 @@
 #include "app/status_file.h"
 #include "app/text.h"
 #include "toolkit/timer.h"
+#include "ui/clearcase_setup.h"
 #include "ui/default_settings.h"
 #include "ui/environment_setup.h"
 #include "ui/main_window.h"
@@ -47,8 +48,10 @@ void DisplayStatusTimer() {
 
 std::vector<PromptHook> type_prompt_hooks() {
     std::vector<PromptHook> typed;
-    for (PromptHook& hook :
-         prompt_hooks(shell_name, ClearCaseUsage::off, status_display().status_file.text())) {
+    for (PromptHook& hook : prompt_hooks(
+             shell_name,
+             clearcase_setup().enable_clearcase_usage.value() ? ClearCaseUsage::on : ClearCaseUsage::off,
+             status_display().status_file.text())) {
         environment_setup().precmd.set_text(hook.text);
         environment_setup().precmd.show_beginning();
         if (status_display().display.value() == display_on && type_or_report(hook.text)) {

@@ -168,6 +168,7 @@ bool HelpPane::show_page(std::string_view path) {
         return false;
     }
     widget_->browser().setSource(QUrl::fromLocalFile(page.absoluteFilePath()));
+    widget_->browser().setFocus();
     return true;
 }
 

@@ -12,8 +12,8 @@ class HelpPaneWidget;
 class HelpPane {
   public:
     HelpPane(Container& parent, std::string_view accessible_name);
-    /// Shows a page (HTML, the subset that QTextDocument draws); false, and nothing changes, when it cannot
-    /// be read.
+    /// Shows a page (HTML, the subset that QTextDocument draws), ready to be scrolled by keys; false, and
+    /// nothing changes, when it cannot be read.
     [[nodiscard]] bool show_page(std::string_view path);
     /// Asks for room for so many characters and lines.
     void set_display_size(int columns, int lines);

@@ -15,12 +15,17 @@ struct MainWindow : Frame {
     static constexpr int normal_width = 735;
     static constexpr int normal_height = 550;
 
-    MainWindow() : Frame("Orvik Command Tool") { resize(normal_width, normal_height); }
+    MainWindow() : Frame("Orvik Command Tool") {
+        cwd.set_display_length(12);
+        resize(normal_width, normal_height);
+    }
 
     Panel control_panel{*this};
     Row top_row{control_panel};
+    MenuButton help_menu{top_row, "Help", Menu("Help", help_menu_items)};
     MenuButton setup_menu{top_row, "Setup", Menu("Setup", setup_menu_items)};
     MenuButton browse_menu{top_row, "Browse", Menu("Browse", browse_menu_items)};
+    MenuButton edit_menu{top_row, "Edit", Menu("Edit", edit_menu_items)};
     TextField cwd{top_row, "Cwd:"};
     TerminalPane termpane{*this, "terminal"};
 };

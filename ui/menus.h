@@ -2,20 +2,42 @@
 #pragma once
 
 #include "app/notify.h"
+#include "settings/notify.h"
 #include "toolkit/menu.h"
 
 #include <array>
 
 // The main window's fixed menus.
 
+inline constexpr std::array help_menu_items{
+    MenuItem{"To Get Started", To_get_started},
+    MenuItem{"About", About_window},
+    MenuItem{"User Guide", User_guide},
+    MenuItem{"Buttons", HelpMenuButtons},
+};
+
 inline constexpr std::array setup_menu_items{
+    MenuItem{"Save Setup", Save_current_setup},
+    MenuItem{"Bookmarks", SetupMenuBookmarks},
+    MenuItem{"ClearCase", SetupMenuClearCase},
+    MenuItem{"Command List", SetupMenuCommandList},
+    MenuItem{"Command History", SetupMenuCommandHistory},
     MenuItem{"Default Settings", Default_settings_popup},
     MenuItem{"Environment", Environment_setup_window},
     MenuItem{"Label", Open_icon_label},
     MenuItem{"Process", Process_display_window},
+    MenuItem{"Remote Hosts", SetupMenuRemoteHosts},
     MenuItem{"Status Display", SetupMenuStatusDisplay},
+    MenuItem{"Text Editor", Text_editor_setup},
+    MenuItem{"User Buttons", SetupMenuUserButtons},
 };
 
 inline constexpr std::array browse_menu_items{
-    MenuItem{"Message Board", Browse_mess_board},
+    MenuItem{"File Tree", Start_file_tree},       MenuItem{"File Tree Full Size", BrowseMenuFullSize},
+    MenuItem{"File List", Start_file_manager},    MenuItem{"Command History", BrowserMenuCommandHistory},
+    MenuItem{"Message Board", Browse_mess_board}, MenuItem{"Notebook", BrowseMenuNoteBook},
+};
+
+inline constexpr std::array edit_menu_items{
+    MenuItem{"Setup", Edit_menu_setup},
 };

@@ -36,12 +36,18 @@ struct Stop {
 };
 
 constexpr std::array stops{
+    Stop{"Help", "To Get Started", "Help", "help-to-get-started"},
+    Stop{"Help", "User Guide", "Help", "help-user-guide"},
+    Stop{"Help", "Buttons", "Help", "help-buttons"},
+    Stop{"Help", "About", "About", "about"},
     Stop{"Setup", "Default Settings", "Default Settings", "default-settings"},
+    Stop{"Setup", "Command History", "Command History Setup", "command-history-setup"},
     Stop{"Setup", "Environment", "Environment Setup Window", "environment"},
-    Stop{"Setup", "Label", "Define Label", "label"},
-    Stop{"Setup", "Process", "Process Information", "process"},
+    Stop{"Setup", "Text Editor", "Text Editor Setup", "text-editor"},
+    Stop{"Setup", "User Buttons", "User Buttons", "user-buttons"},
     Stop{"Setup", "Status Display", "Status Display", "status-display"},
     Stop{"Browse", "Message Board", "Message Board", "message-board"},
+    Stop{"Browse", "Notebook", "Notebook", "notebook"},
 };
 
 [[noreturn]] void give_up(const std::string& what) {

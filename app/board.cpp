@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+// The buttons of "Message Board".
+#include "app/messages.h"
+#include "app/notify.h"
+#include "app/pane_file.h"
+#include "ui/environment_setup.h"
+#include "ui/message_board.h"
+
+namespace {
+
+PaneFile board_file;
+
+}  // namespace
+
+void MessageBoardSave() {
+    board_file.save(message_board(), message_board().text,
+                    PaneFile::path(environment_setup().messageboard_directory.text(),
+                                   message_board().file_name.text(), "messageboard.txt"));
+}
+
+void MessageBoardClear() {
+    message_board().set_left_footer("");
+    clear_window(message_board().text);
+}

@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: MIT
+#include "app/pane_file.h"
+
+#include "app/files.h"
+#include "browsers/expand_path.h"
+#include "toolkit/frame.h"
+#include "toolkit/notice.h"
+#include "toolkit/text_pane.h"
+
+#include <cstring>
+
+#include <fmt/format.h>
+#include <unistd.h>
+
+namespace {
+
+/// What a text pane still shows and edits without a wait.
+constexpr std::size_t longest_text = std::size_t{16} * 1024 * 1024;
+
+bool agreed(Frame& frame, const std::string& question) {
+    return notice_prompt(frame, question, {"Yes", "Cancel"}) == 0;
+}
+
+}  // namespace
+
+std::string PaneFile::path(std::string_view directory, std::string_view name, std::string_view usual_name) {
+    std::string file = expand_path(name);
+    if (file.empty()) {
+        file = usual_name;
+    }
+    if (file.starts_with('/')) {
+        return file;
+    }
+    const std::string folder = expand_path(directory);
+    return fmt::format("{}/{}", folder.empty() ? "/tmp" : folder, file);
+}
+
+void PaneFile::save(Frame& frame, TextPane& pane, const std::string& path) {
+    frame.set_left_footer("");
+    if (path != known_ && access(path.c_str(), F_OK) == 0 &&
+        !agreed(frame, fmt::format("{} exists. Replace it ?", path))) {
+        return;
+    }
+    const BusyState busy(frame);
+    if (const int error = replace_file(path, pane.text()); error != 0) {
+        frame.set_left_footer(fmt::format("Could not save {}: {}", path, std::strerror(error)));
+        return;
+    }
+    known_ = path;
+    pane.set_unmodified();
+    frame.set_left_footer(fmt::format("Saved to {}", path));
+}
+
+void PaneFile::load(Frame& frame, TextPane& pane, const std::string& path) {
+    frame.set_left_footer("");
+    if (!may_discard(frame, pane)) {
+        return;
+    }
+    const BusyState busy(frame);
+    const FileContents contents = read_file(path, longest_text);
+    if (contents.error != 0) {
+        frame.set_left_footer(fmt::format("Could not load {}: {}", path, std::strerror(contents.error)));
+        return;
+    }
+    known_ = path;
+    pane.set_text(contents.text);
+    frame.set_left_footer(fmt::format("Loaded {}", path));
+}
+
+bool may_discard(Frame& frame, const TextPane& pane) {
+    return !pane.modified() || agreed(frame, "The text is not saved. Discard it ?");
+}

@@ -1,0 +1,95 @@
+// SPDX-License-Identifier: MIT
+#include "settings/setup_file.h"
+
+#include "app/files.h"
+#include "app/messages.h"
+#include "app/process.h"
+#include "settings/notify.h"
+#include "settings/setup_format.h"
+#include "settings/setup_table.h"
+#include "ui/file_list_browser.h"
+#include "ui/main_window.h"
+
+#include <cstring>
+
+#include <fmt/format.h>
+#include <fmt/printf.h>
+
+namespace {
+
+/// More is not read of a file; what follows the last line has no meaning.
+constexpr std::size_t most_bytes = setup_lines * (longest_setup_line + 1);
+
+std::string loaded_file;
+
+std::string startup_setup_file() { return fmt::sprintf("%s/Orvik.setup", startup_dir); }
+
+}  // namespace
+
+int save_setup(const std::string& path) {
+    const std::array values = setup_values();
+    if (const std::optional<std::size_t> line = unwritable_setup_line(values)) {
+        report(fmt::format("{} not written: line {} would be too long or hold a line end\n", path, *line));
+        return 0;
+    }
+    if (const int error = replace_file(path, format_setup(values)); error != 0) {
+        report(fmt::format("{} not written: {}\n", path, std::strerror(error)));
+        return 0;
+    }
+    return 1;
+}
+
+int load_setup(const std::string& path) {
+    const FileContents contents = read_file(path, most_bytes);
+    if (contents.error != 0 && contents.error != EFBIG) {
+        return 0;
+    }
+    const std::optional<SetupLines> lines = parse_setup(contents.text);
+    if (!lines) {
+        return -1;
+    }
+    set_setup_values(*lines);
+    loaded_file = path;
+    return 1;
+}
+
+int load_setup_at_startup() {
+    int result = load_setup(startup_setup_file());
+    if (result != 1) {
+        result = load_setup(fmt::sprintf("%s/Orvik.setup", home_dir));
+    }
+    if (result == 0) {
+        report("Setup file not found\n");
+    } else if (result == -1) {
+        report("Not a valid setup file\n");
+    }
+    return result;
+}
+
+std::string loaded_setup_file() { return loaded_file; }
+
+void Save_current_setup() {
+    const std::string path = startup_setup_file();
+    const bool saved = save_setup(path) == 1;
+    main_window().set_left_footer(saved ? fmt::format("Setup saved to {}", path)
+                                        : "Could not save Orvik.setup");
+}
+
+void FileListLoadSetup() {
+    FileListBrowser& browser = file_list_browser();
+    const std::string name = browser.file_name.text();
+    const std::string directory = browser.directory.text();
+    browser.set_left_footer("");
+    if (name.empty()) {
+        browser.set_left_footer("File name not specified");
+        return;
+    }
+    if (directory.empty()) {
+        browser.set_left_footer("Directory name not specified");
+        return;
+    }
+    const int result = load_setup(fmt::sprintf("%s/%s", directory, name));
+    browser.set_left_footer(result == 1   ? fmt::format("Setup loaded from {}/{}", directory, name)
+                            : result == 0 ? "Setup file not found"
+                                          : "Not a valid setup file");
+}

@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "toolkit/fields.h"
+#include "toolkit/frame.h"
+
+#include <memory>
+
+/// "Concatenate Files": several files written one after the other into one.
+struct ConcatenateFiles : CommandFrame {
+    ConcatenateFiles() : CommandFrame("Concatenate Files") { output_file_name.set_display_length(32); }
+
+    NumberField number_of_lines{panel, "Number of lines Included  ( 0 = All ) :"};
+    TextField output_file_name{panel, "Output File Name:"};
+};
+
+inline std::unique_ptr<ConcatenateFiles> Orvik_popup40;
+inline ConcatenateFiles& concatenate_files_window() { return *Orvik_popup40; }

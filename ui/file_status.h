@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "toolkit/choices.h"
+#include "toolkit/fields.h"
+#include "toolkit/frame.h"
+#include "toolkit/message_item.h"
+
+#include <memory>
+
+/// "File Status": who may do what with a file.
+struct FileStatus : CommandFrame {
+    FileStatus() : CommandFrame("File Status") { file_name.set_display_length(40); }
+
+    MessageItem file_name_line{panel, "File Name", "File name       : "};
+    MessageItem file_type_line{panel, "File Type", "File type         : "};
+    MessageItem file_owner_line{panel, "File Owner", "File owner      : "};
+    MessageItem file_group_line{panel, "File Group", "File group      : "};
+    MessageItem file_size_line{panel, "File Size", "File size         : "};
+
+    Row permissions{panel};
+    Panel toggles{permissions};
+    Panel times{permissions};
+    CheckBoxes owner{toggles, "Owner:", {"Read", "Write", "Execute"}};
+    MessageItem last_accessed_line{times, "Last Accessed", "Last accessed  : "};
+    CheckBoxes group{toggles, "Group:", {"Read", "Write", "Execute"}};
+    MessageItem last_modified_line{times, "Last Modified", "Last modified  : "};
+    CheckBoxes world{toggles, "World:", {"Read", "Write", "Execute"}};
+    MessageItem status_changed_line{times, "Status Changed", "Status changed : "};
+
+    Choice file_system{panel, "File System", {"Normal", "Clearcase Vob"}};
+    TextField file_name{panel, "File Name:"};
+};
+
+inline std::unique_ptr<FileStatus> Orvik_popup28;
+inline FileStatus& file_status() { return *Orvik_popup28; }

@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "toolkit/choices.h"
+#include "toolkit/fields.h"
+#include "toolkit/frame.h"
+
+#include <memory>
+
+/// "Select Files": selecting files in the tree by name.
+struct SelectFiles : CommandFrame {
+    SelectFiles() : CommandFrame("Select Files") {}
+
+    Choice match{panel, "Match", {"All", "Beginning", "End"}};
+    Choice case_sensitive{panel, "Case Sensitive", {"No", "Yes"}};
+    Choice recursive{panel, "Recursive", {"No", "Yes"}};
+    Choice target_files{panel, "Target Files", {"All", "Regular", "Directories"}};
+    TextField search_string{panel, "Search String:"};
+};
+
+inline std::unique_ptr<SelectFiles> Orvik_popup30;
+inline SelectFiles& select_files_window() { return *Orvik_popup30; }

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "toolkit/choices.h"
+#include "toolkit/fields.h"
+#include "toolkit/frame.h"
+
+#include <memory>
+
+/// "User Buttons": the labels and commands of the buttons above the terminal.
+struct UserButtons : CommandFrame {
+    static constexpr int show_buttons = 1;
+
+    UserButtons() : CommandFrame("User Buttons") {
+        button_window.set_value(show_buttons);
+        for (TextField* label : {&label_1, &label_2, &label_3, &label_4, &label_5, &label_6}) {
+            label->set_display_length(12);
+        }
+        command_1.set_display_length(48);
+    }
+
+    Choice button_window{panel, "Button Window", {"Hide", "Show"}};
+
+    Row columns{panel};
+    Panel labels{columns};
+    TextField label_1{labels, "Label1:"};
+    TextField label_2{labels, "Label2:"};
+    TextField label_3{labels, "Label3:"};
+    TextField label_4{labels, "Label4:"};
+    TextField label_5{labels, "Label5:"};
+    TextField label_6{labels, "Label6:"};
+
+    Panel commands{columns};
+    TextField command_1{commands, "Command1:"};
+    TextField command_2{commands, "Command2:"};
+    TextField command_3{commands, "Command3:"};
+    TextField command_4{commands, "Command4:"};
+    TextField command_5{commands, "Command5:"};
+    TextField command_6{commands, "Command6:"};
+};
+
+inline std::unique_ptr<UserButtons> Orvik_popup6;
+inline UserButtons& user_buttons() { return *Orvik_popup6; }
