@@ -19,6 +19,7 @@ namespace {
 /// The line discipline keeps 4,095 bytes of a line and silently drops the rest (termios(3), canonical mode).
 constexpr std::size_t longest_canonical_line = 4095;
 constexpr std::size_t longest_selection = 999;
+constexpr std::size_t longest_answered_selection = 1000;  ///< a longer one is called too long
 
 constexpr std::array terminal_variables{std::string_view("TERM="), std::string_view("COLORTERM="),
                                         std::string_view("LINES="), std::string_view("COLUMNS=")};
@@ -37,6 +38,17 @@ std::vector<std::string> shell_environment() {
     return variables;
 }
 
+/// Why a text is not typed; empty when it may be.
+std::string type_refusal(std::string_view text) {
+    if (has_control_characters(text)) {
+        return "Command holds control characters";
+    }
+    if (text.size() + 1 > longest_canonical_line && main_window().termpane.reads_lines()) {
+        return "Command is too long for the shell";
+    }
+    return {};
+}
+
 }  // namespace
 
 terminal::Program login_shell() {
@@ -47,15 +59,43 @@ terminal::Program login_shell() {
 }
 
 std::string type_line(std::string_view text) {
-    if (has_control_characters(text)) {
-        return "Command holds control characters";
+    std::string refusal = type_refusal(text);
+    if (refusal.empty()) {
+        ttysw_input(main_window().termpane, std::string(text) + "\n");
     }
-    TerminalPane& pane = main_window().termpane;
-    if (text.size() + 1 > longest_canonical_line && pane.reads_lines()) {
-        return "Command is too long for the shell";
+    return refusal;
+}
+
+std::string type_text(std::string_view text) {
+    std::string refusal = type_refusal(text);
+    if (refusal.empty()) {
+        ttysw_input(main_window().termpane, text);
     }
-    ttysw_input(pane, std::string(text) + "\n");
-    return {};
+    return refusal;
+}
+
+void type_control(char letter) {
+    constexpr char control_bits = 0x1F;
+    const char character = static_cast<char>(letter & control_bits);
+    ttysw_input(main_window().termpane, {&character, 1});
+}
+
+std::optional<std::string> selected_line(Frame& frame, std::string_view none) {
+    if (selection_ask().value_or(std::string()).size() > longest_answered_selection) {
+        frame.set_left_footer("Selection too long");
+        return std::nullopt;
+    }
+    std::string line = remove_nl(get_seln());
+    std::replace(line.begin(), line.end(), '\t', ' ');
+    if (line.empty()) {
+        frame.set_left_footer(none);
+        return std::nullopt;
+    }
+    if (has_control_characters(line)) {
+        frame.set_left_footer("Selection holds control characters");
+        return std::nullopt;
+    }
+    return line;
 }
 
 bool type_or_report(const std::string& text) {

@@ -3,8 +3,11 @@
 
 #include "terminal/pty.h"
 
+#include <optional>
 #include <string>
 #include <string_view>
+
+class Frame;
 
 // The one door to the user's shell: whatever the tool types goes through here.
 
@@ -17,6 +20,15 @@ terminal::Program login_shell();
 [[nodiscard]] std::string type_line(std::string_view text);
 /// The same; a refusal goes to the Message Board. Whether the text was typed.
 bool type_or_report(const std::string& text);
+
+/// Types a text that its user is to complete; refusals as above.
+[[nodiscard]] std::string type_text(std::string_view text);
+/// Types one control character: "U" for ^U.
+void type_control(char letter);
+
+/// The first line of the primary selection, fit to be typed: tabs become blanks. Where it is not, nothing,
+/// and the frame's left footer says why: `none` when there is no selection.
+std::optional<std::string> selected_line(Frame& frame, std::string_view none);
 
 /// The primary selection as text; empty when there is none or it is longer than 999 characters.
 std::string get_seln();

@@ -178,4 +178,17 @@ std::string line_to_cursor_text(const Terminal& terminal) {
     return out;
 }
 
+std::string line_behind_cursor_text(const Terminal& terminal) {
+    const Position begin = line_to_cursor(terminal).end;
+    const Range line = logical_line(terminal, begin.row);
+    std::string out = text_between(terminal, {begin, line.end});
+    // A prompt at the right edge (zsh's RPROMPT) leaves one column free; a gap parts it from the command.
+    const std::size_t used = without_trailing_blanks(terminal.row(line.end.row)).size();
+    const std::size_t gap = out.rfind("  ");
+    if (gap != std::string::npos && static_cast<int>(used) >= terminal.size().columns - 1) {
+        out.erase(out.find_last_not_of(' ', gap) + 1);
+    }
+    return out;
+}
+
 }  // namespace terminal

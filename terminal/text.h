@@ -29,6 +29,9 @@ Range word_at(const Terminal& terminal, Position place);
 Range line_to_cursor(const Terminal& terminal);
 /// Text of that range, with its blanks.
 std::string line_to_cursor_text(const Terminal& terminal);
+/// Text from the insertion point to the end of its logical line, without the blanks at the end and without a
+/// prompt that the shell shows at the right edge.
+std::string line_behind_cursor_text(const Terminal& terminal);
 
 enum class SearchDirection : std::uint8_t { backward, forward };
 enum class LetterCase : std::uint8_t { ignored, significant };

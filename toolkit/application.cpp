@@ -151,7 +151,6 @@ void apply_geometry_option(Frame& main_window) {
 }
 
 void xv_main_loop(Frame& main_window) {
-    main_window.on_close(notify_stop);
     main_window.show();
     QApplication::exec();
 }

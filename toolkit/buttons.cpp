@@ -1,9 +1,32 @@
 // SPDX-License-Identifier: MIT
 #include "toolkit/buttons.h"
 
+#include "toolkit/button_picture.h"
 #include "toolkit/text_conversion.h"
 
+#include <QIcon>
 #include <QPushButton>
+#include <QToolButton>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int picture_size = 20;  ///< pixels
+
+std::string picture_directory;
+
+std::string picture_name(std::string_view accessible_name) {
+    std::string name(accessible_name);
+    std::replace(name.begin(), name.end(), ' ', '_');
+    return name;
+}
+
+}  // namespace
+
+QIcon button_picture(std::string_view name) {
+    return QIcon(to_qstring(picture_directory) + '/' + to_qstring(name) + QStringLiteral(".svg"));
+}
 
 Button::Button(Container& parent, Label label, Notify notify)
     : widget_(new QPushButton(without_mnemonic(label.text), parent.widget())) {
@@ -15,3 +38,27 @@ Button::Button(Container& parent, Label label, Notify notify)
 }
 
 void Button::set_default() { widget_->setDefault(true); }
+
+void Button::set_label(std::string_view label) {
+    widget_->setText(without_mnemonic(label));
+    widget_->setAccessibleName(to_qstring(label));
+}
+
+void Button::share_width() { widget_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed); }
+
+ImageButton::ImageButton(Container& parent, std::string_view accessible_name, std::string_view picture,
+                         Notify notify) {
+    auto* button = new QToolButton(parent.widget());
+    button->setAccessibleName(to_qstring(accessible_name));
+    button->setToolTip(to_qstring(accessible_name));
+    button->setIcon(button_picture(picture));
+    button->setIconSize({picture_size, picture_size});
+    button->setFocusPolicy(Qt::StrongFocus);
+    parent.add({}, button, Place::line);
+    QObject::connect(button, &QToolButton::clicked, button, [notify] { notify(); });
+}
+
+ImageButton::ImageButton(Container& parent, std::string_view accessible_name, Notify notify)
+    : ImageButton(parent, accessible_name, picture_name(accessible_name), notify) {}
+
+void ImageButton::set_picture_directory(std::string_view path) { picture_directory = path; }

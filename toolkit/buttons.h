@@ -13,7 +13,23 @@ class Button {
     /// Makes it the window's default button, drawn as such: Return in a field that does not act on it itself
     /// presses it.
     void set_default();
+    /// Another label, which is the accessible name too.
+    void set_label(std::string_view label);
+    /// Takes as much width as the other buttons of its row that do so, however long its label is.
+    void share_width();
 
   private:
     QPushButton* widget_;
+};
+
+/// A push button with a picture; its name is its tool tip too.
+class ImageButton {
+  public:
+    /// The picture is a file of that name, without ".svg", in the picture directory.
+    ImageButton(Container& parent, std::string_view accessible_name, std::string_view picture, Notify notify);
+    /// The picture's name is the button's with "_" for blanks.
+    ImageButton(Container& parent, std::string_view accessible_name, Notify notify);
+
+    /// Where the pictures of all image buttons made later are.
+    static void set_picture_directory(std::string_view path);
 };

@@ -85,7 +85,7 @@ class FrameWidget : public QWidget {
         QWidget::hideEvent(event);
     }
     void closeEvent(QCloseEvent* event) override {
-        event->accept();
+        event->setAccepted(close_notify == nullptr);
         if (close_notify != nullptr) {
             close_notify();
         }

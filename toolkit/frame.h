@@ -44,7 +44,7 @@ class Frame : public Container {
     /// Shows a pop-up. One that is not shown yet is placed at an offset in pixels from the main window's
     /// origin, or where the user has put it before; moved back where that would be outside the screen.
     void open(int right = 740, int down = 100);
-    /// Called when the user closes the window.
+    /// Called instead of closing the window when its user asks for that.
     void on_close(Notify notify);
 
     void add(std::string_view label, QWidget* area, Place place) override;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "toolkit/menu_button.h"
 
+#include "toolkit/button_picture.h"
 #include "toolkit/text_conversion.h"
 
 #include <QAccessibleWidget>
@@ -21,7 +22,14 @@ class MenuPushButton : public QPushButton {
     }
 
     [[nodiscard]] QMenu& menu() const { return menu_; }
+    void set_about_to_open(Notify notify) { about_to_open_ = notify; }
     void show_menu() {
+        if (about_to_open_ != nullptr) {
+            about_to_open_();
+        }
+        if (menu_.isEmpty()) {
+            return;
+        }
         setDown(true);
         menu_.setAttribute(Qt::WA_NoMouseReplay);  // a press on the button closes the open menu and no more
         menu_.popup(mapToGlobal(rect().bottomLeft()));
@@ -59,6 +67,7 @@ class MenuPushButton : public QPushButton {
 
   private:
     QMenu& menu_;
+    Notify about_to_open_ = nullptr;
 };
 
 namespace {
@@ -103,10 +112,29 @@ QAccessibleInterface* make_interface(const QString& /*class_name*/, QObject* obj
 
 }  // namespace
 
-MenuButton::MenuButton(Container& parent, std::string_view label, Menu menu) : menu_(std::move(menu)) {
+MenuButton::MenuButton(Container& parent, Label label, Menu menu) : menu_(std::move(menu)) {
     QAccessible::installFactory(make_interface);  // a second installation is ignored
-    widget_ = new MenuPushButton(without_mnemonic(label), *menu_.widget(), parent.widget());
-    widget_->setAccessibleName(to_qstring(label));
+    widget_ = new MenuPushButton(without_mnemonic(label.text), *menu_.widget(), parent.widget());
+    widget_->setAccessibleName(to_qstring(label.accessible_name));
     widget_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     parent.add({}, widget_, Place::line);
+}
+
+MenuButton::MenuButton(Container& parent, std::string_view accessible_name, std::string_view picture,
+                       Notify about_to_open)
+    : MenuButton(parent, Label{"", accessible_name}, Menu({}, {})) {
+    widget_->setIcon(button_picture(picture));
+    widget_->setToolTip(to_qstring(accessible_name));
+    widget_->set_about_to_open(about_to_open);
+}
+
+void MenuButton::set_items(const std::vector<std::string>& items, MenuNotify chosen) {
+    constexpr int widest = 640;  // pixels
+    QMenu* menu = menu_.widget();
+    menu->clear();
+    for (const std::string& item : items) {
+        const QString shown = menu->fontMetrics().elidedText(visible_text(item), Qt::ElideRight, widest);
+        QAction* action = menu->addAction(QString(shown).replace(u'&', QStringLiteral("&&")));
+        QObject::connect(action, &QAction::triggered, menu, [chosen, item] { chosen(item); });
+    }
 }

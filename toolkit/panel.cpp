@@ -74,9 +74,21 @@ void Panel::add(std::string_view label, QWidget* control, Place place) {
 
 Row::Row(Container& parent, Place place)
     : widget_(new QWidget(parent.widget())), layout_(new QHBoxLayout(widget_)) {
-    layout_->setContentsMargins(0, 0, 0, 0);
+    if (parent.widget()->isWindow()) {
+        layout_->setContentsMargins(margin, 0, margin, 0);
+        widget_->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+    } else {
+        layout_->setContentsMargins(0, 0, 0, 0);
+    }
     layout_->setSpacing(spacing);
     parent.add({}, widget_, place);
+}
+
+void Row::set_height(int pixels) {
+    widget_->setFixedHeight(pixels);
+    for (QWidget* control : widget_->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+        control->setVisible(control->sizeHint().height() <= pixels);
+    }
 }
 
 void Row::add(std::string_view label, QWidget* control, Place /*place*/) {

@@ -56,11 +56,14 @@ class Panel : public Container {
     int field_ = 0;
 };
 
-/// Controls beside each other on one line of a panel. A control that can use width takes what is left.
+/// Controls beside each other on one line of a panel or a frame. A control that can use width takes what is
+/// left.
 class Row : public Container {
   public:
     explicit Row(Container& parent, Place place = Place::line);
     void add(std::string_view label, QWidget* control, Place place) override;
+    /// In pixels; controls for which that is too little are hidden.
+    void set_height(int pixels);
     [[nodiscard]] QWidget* widget() const override { return widget_; }
 
   private:

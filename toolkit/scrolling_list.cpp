@@ -1,27 +1,67 @@
 // SPDX-License-Identifier: MIT
 #include "toolkit/scrolling_list.h"
 
+#include "toolkit/list_view.h"
 #include "toolkit/text_conversion.h"
 #include "toolkit/text_size.h"
 
 #include <QBoxLayout>
-#include <QListView>
-#include <QScrollBar>
-#include <QStringListModel>
 
-ScrollingList::ScrollingList(Container& parent, std::string_view accessible_name) {
+#include <algorithm>
+#include <unordered_set>
+
+ScrollingList::ScrollingList(Container& parent, std::string_view accessible_name, ListNotify notify) {
     auto* room = new QWidget(parent.widget());
     auto* layout = new QHBoxLayout(room);
     layout->setContentsMargins(0, 0, 0, 0);
-    widget_ = new QListView(room);
+    model_ = new ListModel(room);
+    widget_ = new ListView(*model_, notify, room);
     widget_->setAccessibleName(to_qstring(accessible_name));
-    widget_->setUniformItemSizes(true);
-    widget_->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    widget_->setModel(new QStringListModel(widget_));
     layout->addWidget(widget_);
     room->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     parent.add({}, room, Place::line);
 }
+
+int ScrollingList::rows() const { return static_cast<int>(model_->rows().size()); }
+
+const std::string& ScrollingList::row(int index) const {
+    return model_->rows()[static_cast<std::size_t>(index)];
+}
+
+const std::vector<std::string>& ScrollingList::all_rows() const { return model_->rows(); }
+
+void ScrollingList::set_insert_duplicates(Duplicates duplicates) { duplicates_ = duplicates; }
+
+void ScrollingList::append(std::string row) {
+    const auto& rows = model_->rows();
+    if (duplicates_ == Duplicates::allowed || std::find(rows.begin(), rows.end(), row) == rows.end()) {
+        model_->append({std::move(row)});
+    }
+}
+
+void ScrollingList::append(std::vector<std::string> rows) {
+    if (duplicates_ == Duplicates::refused) {
+        std::unordered_set<std::string> known(model_->rows().begin(), model_->rows().end());
+        std::erase_if(rows, [&](const std::string& row) { return !known.insert(row).second; });
+    }
+    model_->append(std::move(rows));
+}
+
+void ScrollingList::set_rows(std::vector<std::string> rows) { model_->replace(std::move(rows)); }
+
+std::optional<int> ScrollingList::selected() const {
+    const QModelIndexList selected = widget_->selectionModel()->selectedIndexes();
+    return selected.isEmpty() ? std::nullopt : std::optional(selected.front().row());
+}
+
+void ScrollingList::select(int row) {
+    if (const QModelIndex index = model_->index(row); index.isValid()) {
+        widget_->setCurrentIndex(index);
+        widget_->scrollTo(index);
+    }
+}
+
+void ScrollingList::clear_selection() { widget_->clearSelection(); }
 
 void ScrollingList::set_font(const Font& font) {
     widget_->setFont(font.qt());
@@ -37,5 +77,3 @@ void ScrollingList::set_display_size(int columns, int rows) {
 void ScrollingList::set_margin(int pixels) {
     widget_->parentWidget()->layout()->setContentsMargins(0, 0, pixels, 0);
 }
-
-void ScrollingList::clear_selection() { widget_->clearSelection(); }

@@ -4,24 +4,69 @@
 #include "toolkit/font.h"
 #include "toolkit/panel.h"
 
+#include <cstdint>
+#include <optional>
+#include <string>
 #include <string_view>
+#include <vector>
 
-class QListView;
+#include <sys/time.h>
+
+class ListModel;
+class ListView;
+
+/// What a user did with a row of a list.
+struct ListEvent {
+    enum class Kind : std::uint8_t {
+        press,     ///< the left mouse button went down on the row
+        select,    ///< the keyboard came to the row
+        activate,  ///< Return was pressed on the row
+    };
+    Kind kind = Kind::press;
+    int row = 0;
+    int x = 0;  ///< of a press, in the list, in pixels
+    int y = 0;
+    timeval time{};  ///< of a press
+};
+
+/// What a list calls when its user has acted on a row, which is selected by then.
+using ListNotify = void (*)(const ListEvent& event);
+
+enum class Duplicates : bool { refused, allowed };
 
 /// Rows of text, one of which can be selected. Rows are drawn as they come into view, so that thousands cost
-/// no more than those that are seen.
+/// no more than those that are seen. What the program does itself notifies nobody.
 class ScrollingList {
   public:
-    ScrollingList(Container& parent, std::string_view accessible_name);
+    ScrollingList(Container& parent, std::string_view accessible_name, ListNotify notify = nullptr);
+
+    [[nodiscard]] int rows() const;
+    [[nodiscard]] const std::string& row(int index) const;
+    [[nodiscard]] const std::vector<std::string>& all_rows() const;
+    /// Whether a row equal to one that is there may be added. What is there stays.
+    void set_insert_duplicates(Duplicates duplicates);
+    /// Adds rows at the end, but for those that are refused.
+    void append(std::string row);
+    void append(std::vector<std::string> rows);
+    /// Replaces all rows, whether equal or not; none is selected then.
+    void set_rows(std::vector<std::string> rows);
+
+    /// Nothing where no row is selected.
+    [[nodiscard]] std::optional<int> selected() const;
+    /// Selects a row and scrolls it into view. A row that is not there is ignored.
+    void select(int row);
+    void clear_selection();
+
     void set_font(const Font& font);
     /// Asks for room for so many characters and rows.
     void set_display_size(int columns, int rows);
     /// The list stays so many pixels narrower than the room it has.
     void set_margin(int pixels);
-    void clear_selection();
 
   private:
-    QListView* widget_;
+    ListModel* model_;
+    ListView* widget_;
+    Duplicates duplicates_ = Duplicates::allowed;
     int columns_ = 0;
     int rows_ = 0;
 };

@@ -128,8 +128,10 @@ void TerminalPane::clear() { pane_->session().clear(); }
 
 void TerminalPane::ring_bell() { pane_->view().ring(); }
 
-std::string TerminalPane::line_to_cursor_text() const {
-    return terminal::line_to_cursor_text(pane_->session().terminal());
+TerminalPane::CurrentLine TerminalPane::current_line() {
+    pane_->session().await_echo();
+    const terminal::Terminal& terminal = pane_->session().terminal();
+    return {terminal::line_to_cursor_text(terminal), terminal::line_behind_cursor_text(terminal)};
 }
 
 int TerminalPane::columns() const { return pane_->session().terminal().size().columns; }

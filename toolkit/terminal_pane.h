@@ -50,8 +50,13 @@ class TerminalPane {
     void clear();
     void ring_bell();
 
-    /// Text from the start of the cursor's line (behind the last line feed) to the insertion point.
-    [[nodiscard]] std::string line_to_cursor_text() const;
+    /// The logical line that the insertion point is on, as far as it has been shown.
+    struct CurrentLine {
+        std::string before;  ///< from its start (behind the last line feed) to the insertion point
+        std::string behind;  ///< what follows, without blanks at the end
+    };
+    /// What the program echoes of keys just typed is read first; that may take it a moment.
+    [[nodiscard]] CurrentLine current_line();
     [[nodiscard]] int columns() const;
     [[nodiscard]] int rows() const;
     /// A full-screen program is at work: keys belong to it.

@@ -8,6 +8,7 @@
 #include <cstring>
 
 #include <fmt/format.h>
+#include <poll.h>
 #include <sys/wait.h>
 
 namespace {
@@ -18,6 +19,9 @@ constexpr std::size_t read_bytes = 16'384;
 constexpr int slice_milliseconds = 3;
 constexpr int update_limit_milliseconds = 150;
 constexpr int hung_up_interval_milliseconds = 100;
+// How long an echo may take, and how long nothing more follows once it has come.
+constexpr int echo_limit_milliseconds = 25;
+constexpr int echo_quiet_milliseconds = 2;
 // A program that reads lines and has no line editor is taken to be ready when it has written its prompt and
 // gone quiet, or at the latest after the limit.
 constexpr int readiness_interval_milliseconds = 10;
@@ -103,6 +107,7 @@ void TerminalSession::type(std::string_view bytes) {
     if (pty_) {
         pty_->write(bytes);
         writable_->setEnabled(pty_->pending() > 0);
+        echo_due_ = true;
     }
 }
 
@@ -136,6 +141,21 @@ void TerminalSession::watch_readiness() {
     type(std::exchange(held_back_, {}));
     if (events_.ready) {
         events_.ready();
+    }
+}
+
+void TerminalSession::await_echo() {
+    const bool asks_for_password = pty_ && pty_->reads_lines() && !pty_->echoes();
+    int wait = echo_due_ && !asks_for_password ? echo_limit_milliseconds : 0;
+    QElapsedTimer clock;
+    clock.start();
+    while (pty_ && clock.elapsed() <= echo_limit_milliseconds) {
+        pollfd output{.fd = pty_->descriptor(), .events = POLLIN, .revents = 0};
+        if (poll(&output, 1, wait) <= 0 || (output.revents & POLLIN) == 0) {
+            return;
+        }
+        read_slice();
+        wait = echo_quiet_milliseconds;
     }
 }
 
@@ -208,6 +228,7 @@ void TerminalSession::read_slice() {
     }
     if (total > 0) {
         since_output_.start();
+        echo_due_ = false;
         if (events_.changed) {
             events_.changed();
         }

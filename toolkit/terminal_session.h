@@ -45,6 +45,9 @@ class TerminalSession final : private terminal::Client {
     /// The same for the tool's own commands: while the program is still busy with its start-up files they are
     /// held back, so that no question asked there takes them for the answer.
     void submit(std::string_view bytes);
+    /// Reads what the program has written, and what it is about to echo of the last key typed. Waits at most
+    /// some milliseconds, and only when nothing has been read since that key.
+    void await_echo();
     /// Shows a text that the program does not see.
     void show(std::string_view text);
 
@@ -92,6 +95,7 @@ class TerminalSession final : private terminal::Client {
     QTimer readiness_;
     QElapsedTimer since_start_;
     QElapsedTimer since_output_;  ///< valid once a starting program has written something
+    bool echo_due_ = false;       ///< something was typed and nothing has been read since
     int pixel_width_ = 0;
     int pixel_height_ = 0;
     QElapsedTimer update_open_;  ///< since when mode 2026 is on

@@ -232,7 +232,7 @@ TEST_F(TerminalPaneTest, ProgramIsToldTheNewSize) {
 TEST_F(TerminalPaneTest, StateOfTheShellIsKnown) {
     start("printf 'one\\nprompt> '; read a; stty -icanon; echo raw; exec cat");
     ASSERT_TRUE(wait_for_text("prompt> "));
-    EXPECT_EQ(pane.line_to_cursor_text(), "prompt> ");
+    EXPECT_EQ(pane.current_line().before, "prompt> ");
     EXPECT_TRUE(pane.reads_lines());
     press(Qt::Key_Return);
     ASSERT_TRUE(wait_for_text("raw"));

@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "toolkit/scrolling_list.h"
+
+#include <QAbstractListModel>
+#include <QListView>
+
+/// The rows of a list.
+class ListModel final : public QAbstractListModel {
+  public:
+    using QAbstractListModel::QAbstractListModel;
+
+    [[nodiscard]] const std::vector<std::string>& rows() const { return rows_; }
+    void append(std::vector<std::string> rows);
+    void replace(std::vector<std::string> rows);
+
+    [[nodiscard]] int rowCount(const QModelIndex& parent) const override;
+    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+
+  private:
+    std::vector<std::string> rows_;
+};
+
+/// Shows the rows and tells what its user does with them.
+class ListView final : public QListView {
+  public:
+    ListView(ListModel& model, ListNotify notify, QWidget* parent);
+
+  protected:
+    void mousePressEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+  private:
+    void tell(const ListEvent& event) const;
+
+    ListNotify notify_;
+};
