@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "app/quit.h"
 #include "app/startup.h"
-#include "app/status.h"
 #include "toolkit/application.h"
 #include "ui/main_window.h"
 #include "ui/windows.h"
@@ -8,7 +8,7 @@
 int main(int argc, char** argv) {
     start_up(std::vector<std::string>(argv, argv + argc));
     xv_main_loop(main_window());
-    end_status_display();
+    clean_up();
     destroy_windows();
     xv_destroy();
     return 0;

@@ -34,6 +34,32 @@ void BrowseMenuNoteBook();
 // "Edit" menu.
 void Edit_menu_setup();
 
+// Main window: the selection and the shell.
+void Directory_up_button();
+void Directory_down_button();
+void Execute_FG_button();
+void Execute_BG_button();
+void OrvikWindowCopyButton();
+void CopyToMessageBoard();
+void BaseWindowSetAlias();
+
+// Main window: its size, and the terminal's text.
+void Set_wide_screen();
+void Set_normal_width();
+void Set_small_font();
+void Set_large_font();
+
+// Main window: "Command:".
+void Command_text_line();
+void BaseWindowScrollUp();
+void BaseWindowScrollDown();
+void BaseWindowLastCommand();
+void BaseWindowClearCommand();
+void BaseWindowMoveButton();
+
+// Main window: "Quit".
+void Quit_button();
+
 // "About".
 void AboutCopy();
 

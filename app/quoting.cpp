@@ -95,6 +95,14 @@ std::optional<std::string> shell_word(std::string_view name, ShellFamily shell) 
     return possible ? std::optional(octal_word(path)) : std::nullopt;
 }
 
+std::optional<std::string> double_quoted_word(std::string_view name, ShellFamily shell) {
+    constexpr std::string_view live_in_double_quotes = "\"$`\\!";
+    const bool inert = !name.empty() && !name.starts_with('-') &&
+                       name.find_first_of(live_in_double_quotes) == std::string_view::npos &&
+                       !has_control_characters(name) && is_plain_utf8(name);
+    return inert ? fmt::format("\"{}\"", name) : shell_word(name, shell);
+}
+
 std::string inside_single_quotes(std::string_view text) {
     std::string result;
     for (const char c : text) {

@@ -17,6 +17,10 @@ ShellFamily shell_family(std::string_view shell_name);
 /// shells, one that is no UTF-8 text in those and in csh.
 std::optional<std::string> shell_word(std::string_view name, ShellFamily shell);
 
+/// The same in double quotes, for commands that are given so; as `shell_word` where they would not keep the
+/// shell from acting on the name.
+std::optional<std::string> double_quoted_word(std::string_view name, ShellFamily shell);
+
 /// `text` as part of a longer text in single quotes: what closes them is written so that it does not.
 std::string inside_single_quotes(std::string_view text);
 

@@ -3,6 +3,7 @@
 
 #include "app/fonts.h"
 #include "app/messages.h"
+#include "app/notify.h"
 #include "app/options.h"
 #include "app/process.h"
 #include "app/quoting.h"
@@ -71,6 +72,7 @@ void connect_to_display(std::vector<std::string>& arguments) {
 }
 
 void make_windows() {
+    ImageButton::set_picture_directory(orvik_home + "/icons");
     create_windows();
     apply_geometry_option(main_window());
     // A shell that takes its time is read once it is there; one that the user has restarted knows no hook
@@ -175,6 +177,7 @@ void start_up(std::vector<std::string> arguments) {
     make_windows();
     find_fonts();
     interpose_terminal_keys();
+    main_window().on_close(Quit_button);
     show_title();
     set_initial_values();
     status_display().status_file.set_text(create_status_file(home_dir));

@@ -70,6 +70,17 @@ void end_status_display() {
     }
 }
 
+void BaseWindowSetAlias() {
+    main_window().set_left_footer("");
+    if (status_display().status_file.text().empty()) {
+        main_window().set_left_footer("Orvik status file not defined");
+        return;
+    }
+    SetupTimer(refresh_after_command);
+    (void)type_prompt_hooks();
+    SetupTimer(refresh_after_command);
+}
+
 void StatusDisplayEnable() { SetupTimer(100); }
 
 void StatusDisplayOnOff() { status_display().set_left_footer(""); }

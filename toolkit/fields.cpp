@@ -54,6 +54,8 @@ void TextField::set_text(std::string_view text) {
     }
 }
 
+void TextField::set_focus() { widget_->setFocus(); }
+
 void TextField::show_beginning() { widget_->setCursorPosition(0); }
 
 void TextField::set_display_length(int characters) {

@@ -19,6 +19,7 @@ class TextField {
     [[nodiscard]] std::string text() const;
     /// Sets the text; `notify` is not called. An equal text leaves cursor and selection as they are.
     void set_text(std::string_view text);
+    void set_focus();
     /// Scrolls to the first character: a text that does not fit shows its end otherwise.
     void show_beginning();
     /// For fields of known content: asks for room for so many characters.

@@ -185,6 +185,10 @@ void Frame::start_iconified() { widget_->iconified_at_first = true; }
 
 void Frame::resize(int width, int height) { widget_->resize(width, height); }
 
+int Frame::width() const { return widget_->width(); }
+
+int Frame::height() const { return widget_->height(); }
+
 void Frame::set_width(int width) { widget_->resize(width, widget_->sizeHint().height()); }
 
 void Frame::place_beside_base(int right, int down) {

@@ -41,6 +41,8 @@ class Frame : public Container {
     /// Size in pixels, without the window manager's frame.
     void resize(int width, int height);
     void set_width(int width);
+    [[nodiscard]] int width() const;
+    [[nodiscard]] int height() const;
     /// Shows a pop-up. One that is not shown yet is placed at an offset in pixels from the main window's
     /// origin, or where the user has put it before; moved back where that would be outside the screen.
     void open(int right = 740, int down = 100);

@@ -72,7 +72,11 @@ void Panel::add(std::string_view label, QWidget* control, Place place) {
     field_ = place == Place::field ? field_ + 1 : fields_per_line_;
 }
 
-Row::Row(Container& parent, Place place)
+Row::Row(Container& parent, Place place) : Row(parent, {}, place) {}
+
+Row::Row(Container& parent, std::string_view label) : Row(parent, label, Place::line) {}
+
+Row::Row(Container& parent, std::string_view label, Place place)
     : widget_(new QWidget(parent.widget())), layout_(new QHBoxLayout(widget_)) {
     if (parent.widget()->isWindow()) {
         layout_->setContentsMargins(margin, 0, margin, 0);
@@ -81,7 +85,7 @@ Row::Row(Container& parent, Place place)
         layout_->setContentsMargins(0, 0, 0, 0);
     }
     layout_->setSpacing(spacing);
-    parent.add({}, widget_, place);
+    parent.add(label, widget_, place);
 }
 
 void Row::set_height(int pixels) {

@@ -61,12 +61,15 @@ class Panel : public Container {
 class Row : public Container {
   public:
     explicit Row(Container& parent, Place place = Place::line);
+    /// With a label before the whole row.
+    Row(Container& parent, std::string_view label);
     void add(std::string_view label, QWidget* control, Place place) override;
     /// In pixels; controls for which that is too little are hidden.
     void set_height(int pixels);
     [[nodiscard]] QWidget* widget() const override { return widget_; }
 
   private:
+    Row(Container& parent, std::string_view label, Place place);
     friend class Stretch;
     QWidget* widget_;
     QHBoxLayout* layout_;

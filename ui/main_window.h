@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/notify.h"
+#include "settings/notify.h"
+#include "toolkit/buttons.h"
 #include "toolkit/fields.h"
 #include "toolkit/frame.h"
 #include "toolkit/menu_button.h"
@@ -17,16 +20,41 @@ struct MainWindow : Frame {
 
     MainWindow() : Frame("Orvik Command Tool") {
         cwd.set_display_length(12);
+        command.set_display_length(12);
         resize(normal_width, normal_height);
     }
 
     Panel control_panel{*this};
-    Row top_row{control_panel};
-    MenuButton help_menu{top_row, "Help", Menu("Help", help_menu_items)};
-    MenuButton setup_menu{top_row, "Setup", Menu("Setup", setup_menu_items)};
-    MenuButton browse_menu{top_row, "Browse", Menu("Browse", browse_menu_items)};
-    MenuButton edit_menu{top_row, "Edit", Menu("Edit", edit_menu_items)};
-    TextField cwd{top_row, "Cwd:"};
+    Row menus{control_panel};
+    MenuButton help_menu{menus, "Help", Menu("Help", help_menu_items)};
+    MenuButton setup_menu{menus, "Setup", Menu("Setup", setup_menu_items)};
+    MenuButton browse_menu{menus, "Browse", Menu("Browse", browse_menu_items)};
+    MenuButton edit_menu{menus, "Edit", Menu("Edit", edit_menu_items)};
+    Stretch before_quit{menus};
+    Button quit{menus, "Quit", Quit_button};
+
+    TextField cwd{control_panel, "Cwd:"};
+
+    Row actions{control_panel, Place::field};
+    ImageButton directory_up{actions, "directory up", Directory_up_button};
+    ImageButton directory_down{actions, "directory down", Directory_down_button};
+    ImageButton execute_foreground{actions, "execute foreground", Execute_FG_button};
+    ImageButton execute_background{actions, "execute background", Execute_BG_button};
+    ImageButton copy{actions, "copy", OrvikWindowCopyButton};
+    ImageButton copy_to_notebook{actions, "copy to notebook", CopyToMessageBoard};
+    ImageButton set_alias{actions, "set alias", BaseWindowSetAlias};
+    ImageButton wide{actions, "wide", Set_wide_screen};
+    ImageButton normal{actions, "normal", Set_normal_width};
+    ImageButton tall{actions, "tall", Set_small_font};
+    ImageButton clear_terminal{actions, "clear terminal", Set_large_font};
+    Stretch behind_actions{actions};
+
+    Row command_row{control_panel, "Command:"};
+    TextField command{command_row, {"", "Command:"}, Command_text_line};
+    ImageButton last_command{command_row, "last command", BaseWindowLastCommand};
+    ImageButton clear_command{command_row, "clear command", BaseWindowClearCommand};
+    ImageButton move{command_row, "move", BaseWindowMoveButton};
+
     TerminalPane termpane{*this, "terminal"};
 };
 

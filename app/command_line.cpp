@@ -1,0 +1,111 @@
+// SPDX-License-Identifier: MIT
+// "Command:" and the buttons beside it; commands cut out of the terminal's line.
+#include "app/command_line.h"
+
+#include "app/current_command.h"
+#include "app/notify.h"
+#include "app/shell.h"
+#include "app/status.h"
+#include "ui/command_window.h"
+#include "ui/default_settings.h"
+#include "ui/main_window.h"
+
+#include <array>
+
+namespace {
+
+struct ProblemText {
+    CommandProblem problem;
+    std::string_view for_return_key;
+    std::string_view for_move_button;
+};
+
+constexpr std::array problem_texts{
+    ProblemText{CommandProblem::no_prompt_saved, "No prompt saved", "No prompter saved"},
+    ProblemText{CommandProblem::no_delimiter_set, "No delimiter specified", "No delimiter specified"},
+    ProblemText{CommandProblem::empty_line, "Command not saved", "Command not saved"},
+    ProblemText{CommandProblem::prompt_not_found, "No prompt found", "No prompt found"},
+    ProblemText{CommandProblem::delimiter_not_found, "No delimiter found", "No delimiter found"},
+    ProblemText{CommandProblem::nothing_typed, "No command found", "No command"},
+};
+
+std::string_view text_of(CommandProblem problem, CommandAsker asker) {
+    for (const ProblemText& known : problem_texts) {
+        if (known.problem == problem) {
+            return asker == CommandAsker::return_key ? known.for_return_key : known.for_move_button;
+        }
+    }
+    return {};
+}
+
+std::optional<std::string> command_on(const TerminalPane::CurrentLine& line, CommandAsker asker) {
+    const DefaultSettings& settings = default_settings();
+    const std::string prompt = settings.prompt.text();
+    const std::string delimiter = settings.prompt_ending_delimiter.text();
+    CurrentCommand found = find_command(line.before + line.behind,
+                                        {.look_for_delimiter = settings.look_for_ending_delimiter.value(),
+                                         .prompt = prompt,
+                                         .delimiter = delimiter});
+    if (found.problem != CommandProblem::none) {
+        main_window().set_left_footer(text_of(found.problem, asker));
+        return std::nullopt;
+    }
+    return std::move(found.text);
+}
+
+}  // namespace
+
+std::optional<std::string> typed_command(CommandAsker asker) {
+    return command_on(main_window().termpane.current_line(), asker);
+}
+
+void move_typed_command(CommandAsker asker) {
+    main_window().set_left_footer("");
+    const TerminalPane::CurrentLine line = main_window().termpane.current_line();
+    const std::optional<std::string> command = command_on(line, asker);
+    if (!command) {
+        return;
+    }
+    if (default_settings().open_long_command_window.value()) {
+        command_window().command.set_text(*command);
+        command_window().open(0, 600);
+    } else {
+        main_window().command.set_text(*command);
+        main_window().command.set_focus();
+    }
+    if (!line.behind.empty()) {
+        type_control('E');  // line editors erase only what is before the insertion point
+    }
+    type_control('U');
+}
+
+void recall_last_command() {
+    const std::string last = default_settings().last_command.text();
+    main_window().set_left_footer(last.empty() ? "No command saved" : "");
+    if (!last.empty()) {
+        main_window().command.set_text(last);
+    }
+}
+
+void Command_text_line() {
+    const std::string command = main_window().command.text();
+    const std::string refusal = type_line(command);
+    main_window().set_left_footer(refusal);
+    if (!refusal.empty()) {
+        return;
+    }
+    SetupTimer(refresh_after_command);
+    if (default_settings().clear_command_line.value()) {
+        main_window().command.set_text("");
+    }
+    default_settings().last_command.set_text(command);
+}
+
+void BaseWindowClearCommand() {
+    main_window().set_left_footer("");
+    main_window().command.set_text("");
+}
+
+void BaseWindowLastCommand() { recall_last_command(); }
+
+void BaseWindowMoveButton() { move_typed_command(CommandAsker::move_button); }

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#include "app/quit.h"
+
+#include "app/messages.h"
+#include "app/notify.h"
+#include "app/process.h"
+#include "app/status.h"
+#include "toolkit/application.h"
+#include "toolkit/notice.h"
+#include "ui/main_window.h"
+#include "ui/message_board.h"
+#include "ui/notebook.h"
+#include "ui/send_email.h"
+
+#include <fmt/printf.h>
+#include <unistd.h>
+
+void clean_up() {
+    end_status_display();
+    for (TextPane* pane : {&message_board().text, &notebook().text, &send_email().text}) {
+        clear_window(*pane);
+    }
+    constexpr int last_stale_file = 20;
+    for (int number = 0; number <= last_stale_file; ++number) {
+        unlink(fmt::sprintf("%s/.orvik-status%d", home_dir, number).c_str());
+    }
+    unlink(fmt::sprintf("%s/.orvik-message", home_dir).c_str());
+}
+
+void Quit_button() {
+    if (notice_prompt(main_window(), "Do you really want to quit ?", {"Yes", "Cancel"}) == 0) {
+        notify_stop();
+    }
+}
