@@ -135,17 +135,19 @@ TEST_P(LiveShell, SeesExactlyTheNameThatWasTyped) {
     if (!fs::exists(GetParam().path)) {
         GTEST_SKIP() << GetParam().path << " is not installed";
     }
-    int refused = 0;
-    for (const std::string& name : names) {
-        const auto word = shell_word(name, shell_family(GetParam().path));
-        if (!word) {
-            ++refused;
-            continue;
+    for (const auto quoting : {shell_word, double_quoted_word}) {
+        int refused = 0;
+        for (const std::string& name : names) {
+            const auto word = quoting(name, shell_family(GetParam().path));
+            if (!word) {
+                ++refused;
+                continue;
+            }
+            EXPECT_FALSE(has_control_characters(*word)) << *word;
+            EXPECT_EQ(arguments_for(*word), as_operand(name) + '\0') << *word;
         }
-        EXPECT_FALSE(has_control_characters(*word)) << *word;
-        EXPECT_EQ(arguments_for(*word), as_operand(name) + '\0') << *word;
+        EXPECT_EQ(refused, GetParam().refused);
     }
-    EXPECT_EQ(refused, GetParam().refused);
 }
 
 INSTANTIATE_TEST_SUITE_P(All, LiveShell,
@@ -160,6 +162,13 @@ TEST(ShellWord, LeavesOrdinaryNamesAsTheyAre) {
     for (const std::string name : {"/home/u/.orvik-status0", "a.b-c_d+e,f:g@h%i=j", "caf\xC3\xA9"}) {
         EXPECT_EQ(shell_word(name, ShellFamily::other), name);
     }
+}
+
+TEST(DoubleQuotedWord, IsUsedWhereDoubleQuotesAreEnough) {
+    EXPECT_EQ(double_quoted_word("a b", ShellFamily::bash), "\"a b\"");
+    EXPECT_EQ(double_quoted_word("plain", ShellFamily::csh), "\"plain\"");
+    EXPECT_EQ(double_quoted_word("$HOME", ShellFamily::bash), "'$HOME'");
+    EXPECT_EQ(double_quoted_word("", ShellFamily::bash), std::nullopt);
 }
 
 TEST(ShellWord, RefusesWhatAShellCannotBeGiven) {

@@ -84,12 +84,16 @@ TEST(Text, LineToCursor) {
         const char* name;
         const char* input;
         const char* text;
+        const char* behind = "";
     };
     const Case cases[] = {
         {"plain", "out\r\n$ ls", "$ ls"},
         {"blanks before the cursor", "$ \x1b[2C", "$   "},
         {"written blanks", "$ ls  ", "$ ls  "},
-        {"cursor within the text", "$ ls -l\x1b[3D", "$ ls"},
+        {"cursor within the text", "$ ls -l\x1b[3D", "$ ls", " -l"},
+        {"cursor on an earlier row", "$ 0123456789abc  \x1b[A", "$ 01234", "56789abc"},
+        {"prompt at the right edge", "$ ls  me>\r\x1b[4C", "$ ls"},
+        {"the same behind more text", "$ ls  me>\r\x1b[3C", "$ l", "s"},
         {"wrapped", "$ 0123456789abc", "$ 0123456789abc"},
         {"wrapped into the scrollback", "$ 0123456789abcdefghijABCDEFGHIJ0123456789abcdefghij",
          "$ 0123456789abcdefghijABCDEFGHIJ0123456789abcdefghij"},
@@ -101,6 +105,7 @@ TEST(Text, LineToCursor) {
         Screened at;
         at.terminal.write(row.input);
         EXPECT_EQ(line_to_cursor_text(at.terminal), row.text) << row.name;
+        EXPECT_EQ(line_behind_cursor_text(at.terminal), row.behind) << row.name;
     }
     Screened at;
     at.terminal.write("x\r\n0123456789");
