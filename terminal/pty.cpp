@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/pty.h"
 
+#include "terminal/child_process.h"
 #include "terminal/descriptor.h"
 
 #include <algorithm>
 #include <array>
 #include <cerrno>
 #include <climits>
-#include <csignal>
 #include <cstdlib>
 #include <cstring>
 #include <utility>
@@ -84,8 +84,7 @@ struct Image {
     std::vector<char*> environment;
 };
 
-// From here to `run` only what POSIX calls async-signal-safe may be called: another thread may have held any
-// lock when the process was forked.
+// From here to `run` the rules of terminal/child_process.h hold.
 
 void say(const char* text) {
     const std::size_t size = std::strlen(text);
@@ -106,34 +105,14 @@ void say_failure(const char* name, int error) {
     say("\n");
 }
 
-void reset_signals() {
-    struct sigaction standard {};
-    standard.sa_handler = SIG_DFL;
-    for (int number = 1; number < NSIG; ++number) {
-        sigaction(number, &standard, nullptr);
-    }
-    sigset_t none;
-    sigemptyset(&none);
-    sigprocmask(SIG_SETMASK, &none, nullptr);
-}
-
-void close_descriptors_from(unsigned first, int limit) {
-    if (syscall(SYS_close_range, first, ~0U, 0U) == 0) {
-        return;
-    }
-    for (int number = static_cast<int>(first); number < limit; ++number) {
-        close(number);
-    }
-}
-
-[[noreturn]] void run(const Image& image, int terminal, int descriptor_limit) {
+[[noreturn]] void run(const Image& image, int terminal, int limit) {
     reset_signals();
     setsid();
     ioctl(terminal, TIOCSCTTY, 0);
     for (const int number : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
         dup2(terminal, number);
     }
-    close_descriptors_from(STDERR_FILENO + 1, descriptor_limit);
+    close_descriptors_from(STDERR_FILENO + 1, limit);
     // A lost home directory is no reason to refuse the user a shell.
     if (*image.directory != '\0' && chdir(image.directory) != 0) {
         say_failure(image.directory, errno);
@@ -146,20 +125,12 @@ void close_descriptors_from(unsigned first, int limit) {
     _exit(cannot_execute);
 }
 
-/// Forks with all signals blocked, so that no handler of ours runs in the child before it is reset.
 pid_t fork_and_run(const Image& image, int terminal) {
-    const int descriptor_limit = static_cast<int>(std::min<long>(sysconf(_SC_OPEN_MAX), 1 << 20));
-    sigset_t all;
-    sigset_t previous;
-    sigfillset(&all);
-    pthread_sigmask(SIG_SETMASK, &all, &previous);
-    const pid_t child = fork();
+    const int limit = descriptor_limit();
+    const pid_t child = fork_with_signals_blocked();
     if (child == 0) {
-        run(image, terminal, descriptor_limit);
+        run(image, terminal, limit);
     }
-    const int error = errno;
-    pthread_sigmask(SIG_SETMASK, &previous, nullptr);
-    errno = error;
     return child;
 }
 

@@ -155,16 +155,20 @@ void Screen::fill(const Region& region, Cell cell) {
     }
 }
 
+Cell* Screen::opened(Line& line, int column, int right, int seam) {
+    extend(line, right);
+    open_gap(line, column, right);
+    split(line, seam);
+    return data(line);
+}
+
 void Screen::insert_cells(int row, int column, int right, int count, Cell blank) {
     count = std::min(count, right - column);
     if (count <= 0) {
         return;
     }
     Line& at = line(row);
-    extend(at, right);
-    open_gap(at, column, right);
-    split(at, right - count);
-    Cell* const cells = data(at);
+    Cell* const cells = opened(at, column, right, right - count);
     std::move_backward(cells + column, cells + right - count, cells + right);
     std::fill(cells + column, cells + column + count, blank);
     touch(at);
@@ -176,10 +180,7 @@ void Screen::delete_cells(int row, int column, int right, int count, Cell blank)
         return;
     }
     Line& at = line(row);
-    extend(at, right);
-    open_gap(at, column, right);
-    split(at, column + count);
-    Cell* const cells = data(at);
+    Cell* const cells = opened(at, column, right, column + count);
     std::move(cells + column + count, cells + right, cells + column);
     std::fill(cells + right - count, cells + right, blank);
     at.wrapped = false;

@@ -105,6 +105,9 @@ class Screen {
     void extend(Line& line, int length);
     void split(Line& line, int column);
     void open_gap(Line& line, int from, int to);
+    /// The cells of a line whose cells between `column` and `right` are about to move apart or together at
+    /// `seam`: wide characters across these places are erased first.
+    Cell* opened(Line& line, int column, int right, int seam);
     void written(Line& line, int end);
     void clear(Line& line, Cell blank);
     void rotate(int top, int bottom, int count);
