@@ -3,6 +3,14 @@
 
 #include <string>
 
-/// Starts a command with the system's shell (POSIX, `system`) and does not wait for it: it is the shell's
-/// child, so that it outlives this tool and leaves no zombie. The command line is shown on the Message Board.
+// Programs that run beside the tool and are not tied to its life.
+
+/// Starts a command line, written for sh, in the background: the line with " &" is shown on the Message
+/// Board, and so is why no shell could be started for it. What becomes of the command is not watched.
 void run_in_background(const std::string& command);
+
+/// Starts the system's shell on a command line and returns at once: 0, or the error number (errno) of what
+/// failed. The shell has a session of its own and this process for no parent, so it outlives the tool, gets
+/// no hang-up from its terminal and leaves no zombie. Its input is empty; of the descriptors it inherits the
+/// standard output and error only, of the signals none blocked or ignored.
+[[nodiscard]] int start_detached_shell(const std::string& command_line);
