@@ -46,6 +46,13 @@ void Button::set_label(std::string_view label) {
 
 void Button::share_width() { widget_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed); }
 
+void Button::set_tool_tip(std::string_view text) {
+    widget_->setToolTip(plain_tool_tip(text));
+    widget_->setAccessibleDescription(visible_text(text));
+}
+
+void Button::leave_focus() { widget_->setFocusPolicy(Qt::TabFocus); }
+
 ImageButton::ImageButton(Container& parent, std::string_view accessible_name, std::string_view picture,
                          Notify notify) {
     auto* button = new QToolButton(parent.widget());

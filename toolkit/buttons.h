@@ -17,6 +17,10 @@ class Button {
     void set_label(std::string_view label);
     /// Takes as much width as the other buttons of its row that do so, however long its label is.
     void share_width();
+    /// What it does, shown under the pointer and told by assistive programs; empty for nothing.
+    void set_tool_tip(std::string_view text);
+    /// A click leaves the keyboard where it is; the Tab key still gets to the button.
+    void leave_focus();
 
   private:
     QPushButton* widget_;

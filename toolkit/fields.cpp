@@ -8,6 +8,7 @@
 #include <QSpinBox>
 
 #include <limits>
+#include <utility>
 
 namespace {
 
@@ -54,6 +55,10 @@ void TextField::set_text(std::string_view text) {
     }
 }
 
+void TextField::on_change(std::function<void()> action) {
+    QObject::connect(widget_, &QLineEdit::textChanged, widget_, [action = std::move(action)] { action(); });
+}
+
 void TextField::set_focus() { widget_->setFocus(); }
 
 void TextField::show_beginning() { widget_->setCursorPosition(0); }
@@ -62,7 +67,7 @@ void TextField::set_display_length(int characters) {
     widget_->setMinimumWidth(width_of(*widget_, characters));
 }
 
-void TextField::set_tool_tip(std::string_view text) { widget_->setToolTip(to_qstring(text)); }
+void TextField::set_tool_tip(std::string_view text) { widget_->setToolTip(plain_tool_tip(text)); }
 
 NumberField::NumberField(Container& parent, Label label, int initial, Notify notify)
     : widget_(new QSpinBox(parent.widget())) {

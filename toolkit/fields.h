@@ -4,6 +4,7 @@
 #include "toolkit/notify.h"
 #include "toolkit/panel.h"
 
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -19,6 +20,8 @@ class TextField {
     [[nodiscard]] std::string text() const;
     /// Sets the text; `notify` is not called. An equal text leaves cursor and selection as they are.
     void set_text(std::string_view text);
+    /// `action` is called after every change of the text, by whomever. For showing it elsewhere.
+    void on_change(std::function<void()> action);
     void set_focus();
     /// Scrolls to the first character: a text that does not fit shows its end otherwise.
     void show_beginning();

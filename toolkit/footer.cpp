@@ -36,5 +36,5 @@ void Footer::show_fitting_part() {
     const QString shown = visible_text(from_qstring(full_text_));
     const QString fitting = fontMetrics().elidedText(shown, Qt::ElideRight, width());
     setText(fitting);
-    setToolTip(fitting == shown ? QString() : shown.toHtmlEscaped());
+    setToolTip(fitting == shown ? QString() : plain_tool_tip(from_qstring(full_text_)));
 }

@@ -93,6 +93,12 @@ QString visible_text(std::string_view text) {
     return result;
 }
 
+QString plain_tool_tip(std::string_view text) {
+    return text.empty() ? QString()
+                        : QStringLiteral("<p style=\"white-space:pre-wrap\">%1</p>")
+                              .arg(visible_text(text).toHtmlEscaped());
+}
+
 QString without_mnemonic(std::string_view label) {
     return visible_text(label).replace(u'&', QStringLiteral("&&"));
 }

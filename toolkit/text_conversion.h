@@ -16,5 +16,9 @@ std::string from_qstring(const QString& text);
 /// holding a line feed cannot pass for two.
 QString visible_text(std::string_view text);
 
+/// A text for a tool tip as it is, whatever it holds: Qt would take one that looks like HTML for that. Long
+/// texts go over several lines.
+QString plain_tool_tip(std::string_view text);
+
 /// A label for a widget that takes "&" for the mark of a mnemonic.
 QString without_mnemonic(std::string_view label);

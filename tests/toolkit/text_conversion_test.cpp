@@ -38,6 +38,12 @@ TEST(TextConversion, MakesControlCharactersVisible) {
     EXPECT_EQ(visible_text("\xF0\x9F\x98\x80"), u"\U0001F600");
 }
 
+TEST(TextConversion, ToolTipsShowMarkupAsItIs) {
+    EXPECT_EQ(plain_tool_tip("cmp <b>a</b>  & b"),
+              u"<p style=\"white-space:pre-wrap\">cmp &lt;b&gt;a&lt;/b&gt;  &amp; b</p>");
+    EXPECT_EQ(plain_tool_tip(""), u"");
+}
+
 TEST(TextConversion, KeepsAmpersandsOfLabels) { EXPECT_EQ(without_mnemonic("a&b"), u"a&&b"); }
 
 }  // namespace
