@@ -179,8 +179,8 @@ int write_and_rename(TemporaryFile& made, const std::string& path, std::string_v
     if (const int error = set_rights(made.descriptor(), old, options); error != 0) {
         return error;
     }
-    // Without this a crash soon after could leave the new name on an empty file.
-    if (fsync(made.descriptor()) != 0) {
+    // Without this a crash of the system soon after could leave the new name on an empty file.
+    if (options.durability == Durability::synced && fsync(made.descriptor()) != 0) {
         return errno;
     }
     return made.rename_to(path);

@@ -24,10 +24,18 @@ struct FileContents {
 /// What to do with a symbolic link in the place of a file.
 enum class Links { follow, replace };
 
+/// When a replacement is done.
+enum class Durability {
+    synced,   ///< the new contents are on the disk
+    renamed,  ///< the name stands for them: they outlive this program, but perhaps not a crash of the system,
+              ///< after which the file may be the old one, the new one or, on some file systems, empty
+};
+
 struct ReplaceOptions {
     Links links = Links::follow;
     mode_t new_mode = 0666;            ///< of a file that was not there before; the umask is taken off
     std::optional<mode_t> exact_mode;  ///< of an old and of a new file alike, whatever the umask
+    Durability durability = Durability::synced;
 };
 
 /// Replaces a file, or makes it, so that at any time the old or the new contents stand there whole. Returns

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "app/quoting.h"
 
+#include "app/text.h"
+
 #include <algorithm>
 
 #include <fmt/core.h>
@@ -101,6 +103,15 @@ std::optional<std::string> double_quoted_word(std::string_view name, ShellFamily
                        name.find_first_of(live_in_double_quotes) == std::string_view::npos &&
                        !has_control_characters(name) && is_plain_utf8(name);
     return inert ? fmt::format("\"{}\"", name) : shell_word(name, shell);
+}
+
+std::string system_word(std::string_view name) {
+    const std::string path = fmt::format("{}{}", name.starts_with('-') ? "./" : "", name);
+    return is_ordinary(remove_spaces(path)) ? ConvertSpaces(path) : quoted_word(path);
+}
+
+std::string quoted_word(std::string_view text) {
+    return is_ordinary(text) ? std::string(text) : fmt::format("'{}'", inside_single_quotes(text));
 }
 
 std::string inside_single_quotes(std::string_view text) {

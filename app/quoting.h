@@ -21,6 +21,14 @@ std::optional<std::string> shell_word(std::string_view name, ShellFamily shell);
 /// shell from acting on the name.
 std::optional<std::string> double_quoted_word(std::string_view name, ShellFamily shell);
 
+/// A file name as one word of a command for the system's shell (POSIX sh, as `system` starts it). Blanks get
+/// a backslash; a name that the shell would act on is quoted. A leading "-" gets "./" in front. Any name can
+/// be given so: nothing is typed, so control characters do no harm.
+std::string system_word(std::string_view name);
+
+/// Any text as one word, for every shell: as it is when it is harmless, else in single quotes.
+std::string quoted_word(std::string_view text);
+
 /// `text` as part of a longer text in single quotes: what closes them is written so that it does not.
 std::string inside_single_quotes(std::string_view text);
 

@@ -2,6 +2,7 @@
 #include "app/status_file.h"
 
 #include "app/files.h"
+#include "app/lines.h"
 #include "app/text.h"
 #include "terminal/descriptor.h"
 
@@ -15,7 +16,6 @@
 
 namespace {
 
-constexpr std::size_t longest_piece = 1023;
 constexpr std::size_t largest_file = std::size_t{64} * 1024;
 constexpr int status_files = 200;
 
@@ -38,8 +38,7 @@ std::string_view value_of(std::string_view line) {
     return colon == std::string_view::npos ? std::string_view() : line.substr(colon + 1);
 }
 
-void take_line(std::string_view line, ShellStatus& status) {
-    line = line.substr(0, line.find('\0'));
+void read_line(std::string_view line, ShellStatus& status) {
     const auto* const key = std::find_if(keys.begin(), keys.end(), [&](const Key& known) {
         return line.find(known.mark) != std::string_view::npos;
     });
@@ -57,10 +56,7 @@ void take_line(std::string_view line, ShellStatus& status) {
 ShellStatus parse_status(std::string_view contents) {
     ShellStatus status;
     while (!contents.empty()) {
-        const std::size_t line_end = contents.find('\n');
-        const std::size_t size = std::min({line_end, contents.size(), longest_piece});
-        take_line(contents.substr(0, size), status);
-        contents.remove_prefix(size == line_end ? size + 1 : size);
+        read_line(take_line(contents), status);
     }
     return status;
 }

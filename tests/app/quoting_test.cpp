@@ -6,6 +6,7 @@
 #include "tests/support/wait_until.h"
 
 #include <array>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 
@@ -157,6 +158,31 @@ INSTANTIATE_TEST_SUITE_P(All, LiveShell,
                                          Shell{"zsh", "/bin/zsh", {"zsh", "-f", "-i"}, 0},
                                          Shell{"sh", "/bin/sh", {"sh", "-i"}, 15}),
                          [](const auto& test) { return test.param.name; });
+
+TEST(SystemWord, GivesTheSystemsShellExactlyTheName) {
+    const ScratchDirectory directory;
+    const std::string out = directory / "out";
+    for (const std::string& name : names) {
+        const std::string line = "printf '%s\\000' " + system_word(name) + " >" + out;
+        ASSERT_EQ(std::system(line.c_str()), 0) << line;
+        EXPECT_EQ(read_file(out), as_operand(name) + '\0') << line;
+    }
+}
+
+TEST(SystemWord, EscapesBlanksAndQuotesWhatTheShellWouldActOn) {
+    const std::vector<std::pair<std::string, std::string>> cases{
+        {"/home/u/.orvik-history", "/home/u/.orvik-history"},
+        {"/home/my files/a b", "/home/my\\ files/a\\ b"},
+        {"-x y", "./-x\\ y"},
+        {"a b;id", "'a b;id'"},
+        {"it's", "'it'\\''s'"},
+    };
+    for (const auto& [name, word] : cases) {
+        EXPECT_EQ(system_word(name), word);
+    }
+    EXPECT_EQ(quoted_word("-fixed-*"), "'-fixed-*'");
+    EXPECT_EQ(quoted_word("-fixed-r--13"), "-fixed-r--13");
+}
 
 TEST(ShellWord, LeavesOrdinaryNamesAsTheyAre) {
     for (const std::string name : {"/home/u/.orvik-status0", "a.b-c_d+e,f:g@h%i=j", "caf\xC3\xA9"}) {
