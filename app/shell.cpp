@@ -80,20 +80,24 @@ void type_control(char letter) {
     ttysw_input(main_window().termpane, {&character, 1});
 }
 
-std::optional<std::string> selected_line(Frame& frame, std::string_view none) {
+std::optional<std::string> selected_line(Frame& frame, std::string_view none, std::string_view too_long) {
     if (selection_ask().value_or(std::string()).size() > longest_answered_selection) {
-        frame.set_left_footer("Selection too long");
+        frame.set_left_footer(too_long);
         return std::nullopt;
     }
-    std::string line = remove_nl(get_seln());
-    std::replace(line.begin(), line.end(), '\t', ' ');
-    if (line.empty()) {
-        frame.set_left_footer(none);
+    SelectionLine line = selection_line();
+    if (line.text.empty() || !line.refusal.empty()) {
+        frame.set_left_footer(line.text.empty() ? none : line.refusal);
         return std::nullopt;
     }
-    if (has_control_characters(line)) {
-        frame.set_left_footer("Selection holds control characters");
-        return std::nullopt;
+    return std::move(line.text);
+}
+
+SelectionLine selection_line() {
+    SelectionLine line{.text = remove_nl(get_seln())};
+    std::replace(line.text.begin(), line.text.end(), '\t', ' ');
+    if (has_control_characters(line.text)) {
+        line.refusal = "Selection holds control characters";
     }
     return line;
 }

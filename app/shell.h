@@ -28,7 +28,16 @@ void type_control(char letter);
 
 /// The first line of the primary selection, fit to be typed: tabs become blanks. Where it is not, nothing,
 /// and the frame's left footer says why: `none` when there is no selection.
-std::optional<std::string> selected_line(Frame& frame, std::string_view none);
+std::optional<std::string> selected_line(Frame& frame, std::string_view none,
+                                         std::string_view too_long = "Selection too long");
+
+/// The first line of what `get_seln` gives, tabs as blanks, and why it is not fit to be typed; that is empty
+/// when it is.
+struct SelectionLine {
+    std::string text;
+    std::string_view refusal;
+};
+SelectionLine selection_line();
 
 /// The primary selection as text; empty when there is none or it is longer than 999 characters.
 std::string get_seln();

@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "app/quoting.h"
+#include "app/text.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+// The file name that stands for "???" in a user's commands.
+
+/// Says where the name of the file selected in the file tree comes from: the file tree does.
+void set_tree_name_source(OperandSource source);
+/// That file's name; empty while no file is selected, or there is no file tree.
+std::string selected_tree_name();
+
+/// A file name as it may stand in a command line behind `before`: as one word of the shell or, where its user
+/// has opened quotes, without any. Nothing when the shell would act on it there.
+std::optional<std::string> operand_behind(std::string_view before, std::string_view name, ShellFamily shell);
