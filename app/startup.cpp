@@ -14,6 +14,7 @@
 #include "app/title.h"
 #include "app/user_defaults.h"
 #include "browsers/expand_path.h"
+#include "settings/history.h"
 #include "settings/setup_file.h"
 #include "toolkit/application.h"
 #include "toolkit/resources.h"
@@ -186,6 +187,8 @@ void start_up(std::vector<std::string> arguments) {
     (void)load_setup_at_startup();
     put_options_into_fields(options);
     size_command_list();
+    load_history_at_startup();
+    make_history_menu_at_startup();
     type_environment_file();
     if (options.work && !options.host) {
         type_with_path("cd", options.workdir);

@@ -34,8 +34,8 @@ std::string history_path();
 /// command's line feed. A file that cannot be saved is not reported here.
 void record_command(const std::string& command);
 
-/// Takes over "Insert Duplicates", and loads the history file. What is wrong with the file goes to the Message
-/// Board.
+/// Takes over "Insert Duplicates", and loads the history file. What is wrong with the file goes to the
+/// Message Board.
 void load_history_at_startup();
 /// Makes the menu of the main window's history button, unless "Number of entries" is below 1.
 void make_history_menu_at_startup();

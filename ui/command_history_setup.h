@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "settings/notify.h"
 #include "toolkit/choices.h"
 #include "toolkit/fields.h"
 #include "toolkit/frame.h"
@@ -19,7 +20,7 @@ struct CommandHistorySetup : CommandFrame {
     Choice history_file_stored{panel, "History File Stored", {"Home Directory", "Start-up Directory"}};
     Choice save_to_history_file{
         panel, "Save To History File", {"After Every New Command", "When Quitting Orvik", "Never"}};
-    Choice insert_duplicates{panel, "Insert Duplicates", {"No", "Yes"}};
+    Choice insert_duplicates{panel, "Insert Duplicates", {"No", "Yes"}, CommandHistorySetupInsertDup};
     NumberField store_commands_longer_than{panel, "Store commands longer than", 3};
     Choice menu_action{panel, "Menu Action", {"Execute", "Move to command line", "Both"}};
     NumberField number_of_entries{panel, "Number of entries", 20};

@@ -26,6 +26,7 @@ TEST_F(Windows, StartingValues) {
         EXPECT_EQ(status.find({"panel", "Enable"}).find({"check box", item}).checked(), checked) << item;
     }
     EXPECT_EQ(field(open_window("Message Board"), "Message Board text"),
+              "History file not found\nCouldn't generate history menu\n"
               "Environment setup file not found\nOrvik Command Tool starting\n");
 }
 

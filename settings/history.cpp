@@ -1,0 +1,202 @@
+// SPDX-License-Identifier: MIT
+#include "settings/history.h"
+
+#include "app/files.h"
+#include "app/messages.h"
+#include "app/process.h"
+#include "app/shell.h"
+#include "app/status.h"
+#include "app/text.h"
+#include "settings/history_format.h"
+#include "settings/notify.h"
+#include "ui/command_history_manager.h"
+#include "ui/command_history_setup.h"
+#include "ui/main_window.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+
+#include <fmt/format.h>
+#include <fmt/printf.h>
+
+namespace {
+
+/// More is not read of a file: no history grows so large.
+constexpr std::size_t most_bytes = std::size_t{64} * 1024 * 1024;
+
+/// The items of "Save To History File" and "Menu Action".
+enum SaveToFile { after_every_command, when_quitting };
+enum MenuAction { execute, move_to_command_line, both };
+
+ScrollingList& history() { return command_history_manager().list; }
+
+/// Nobody but its owner may read what somebody has typed.
+int write_history(const ScrollingList& list, const std::string& path, Durability durability) {
+    constexpr mode_t owner_only = 0600;
+    return replace_file(path, format_history(list.all_rows()),
+                        {.exact_mode = owner_only, .durability = durability});
+}
+
+struct Direction {
+    int step;
+    std::string_view at_end;
+    bool rings_for_button;
+};
+
+void walk(const Direction& direction, HistoryWalker walker) {
+    CommandHistoryManager& manager = command_history_manager();
+    const int rows = manager.list.rows();
+    // "Position" may hold any number: from outside the list the walk enters it at that end.
+    const int row = std::clamp(manager.position.value(), -1, rows) + direction.step;
+    main_window().set_left_footer("");
+    if (rows == 0) {
+        main_window().set_left_footer("History list is empty");
+    } else if (row < 0 || row >= rows) {
+        main_window().set_left_footer(direction.at_end);
+        if (walker == HistoryWalker::key || direction.rings_for_button) {
+            main_window().termpane.ring_bell();
+        }
+    } else {
+        manager.position.set_value(row);
+        main_window().command.set_text(manager.list.row(row));
+        if (walker == HistoryWalker::button) {
+            manager.list.select(row);
+        }
+    }
+}
+
+/// Whether the menu could be made; the history button has none otherwise.
+bool make_history_menu(int entries) {
+    const auto items = add_history_to_menu(history(), entries);
+    main_window().history_menu.set_items(items.value_or(std::vector<std::string>()), my_action_proc3);
+    return items.has_value();
+}
+
+}  // namespace
+
+int load_history(ScrollingList& list, const std::string& path) {
+    const FileContents contents = read_file(path, most_bytes);
+    if (contents.error != 0 && contents.error != EFBIG) {
+        return 0;
+    }
+    std::optional<std::vector<std::string>> commands = parse_history(contents.text);
+    if (!commands) {
+        return -1;
+    }
+    list.append(std::move(*commands));
+    command_history_manager().position.set_value(list.rows());
+    return 1;
+}
+
+int save_history(const ScrollingList& list, const std::string& path) {
+    if (const int error = write_history(list, path, Durability::synced); error != 0) {
+        report(fmt::format("{} not written: {}\n", path, std::strerror(error)));
+        return 0;
+    }
+    return 1;
+}
+
+void clear_history(ScrollingList& list) { list.set_rows({}); }
+
+std::optional<std::vector<std::string>> add_history_to_menu(const ScrollingList& list, int count) {
+    const std::vector<std::string>& rows = list.all_rows();
+    if (rows.empty()) {
+        return std::nullopt;
+    }
+    std::vector<std::string> items{""};
+    const auto shown = std::min<std::ptrdiff_t>(count, std::ssize(rows));
+    items.insert(items.end(), rows.rbegin(), rows.rbegin() + std::max<std::ptrdiff_t>(shown, 0));
+    return items;
+}
+
+std::string history_path() {
+    constexpr int in_home_directory = 0;
+    const bool in_home = command_history_setup().history_file_stored.value() == in_home_directory;
+    return fmt::sprintf("%s/.orvik-history", in_home ? home_dir : startup_dir);
+}
+
+std::string send_history_command(const std::string& command) {
+    std::string refusal = type_line(command);
+    if (refusal.empty()) {
+        SetupTimer(refresh_after_command);
+    }
+    return refusal;
+}
+
+void record_command(const std::string& command) {
+    const CommandHistorySetup& setup = command_history_setup();
+    if (!is_recorded(command.size(), setup.store_commands_longer_than.value(),
+                     Recording{static_cast<std::uint8_t>(setup.history_list.value())})) {
+        return;
+    }
+    CommandHistorySetupInsertDup();  // a setup file loaded since may have changed it
+    history().append(remove_nl(command));
+    command_history_manager().position.set_value(history().rows());
+    if (setup.save_to_history_file.value() == after_every_command) {
+        // A disk may take a second to sync. The rename alone keeps the file whole however this program ends;
+        // if the system crashes, the last commands may be missing.
+        (void)write_history(history(), history_path(), Durability::renamed);
+    }
+}
+
+void load_history_at_startup() {
+    CommandHistorySetupInsertDup();
+    const std::string path = history_path();
+    const int result = load_history(history(), path);
+    if (result == 1) {
+        command_history_setup().history_file_loaded.set_text(path);
+    } else {
+        report(result == 0 ? "History file not found\n" : "Not a valid history file\n");
+    }
+}
+
+void make_history_menu_at_startup() {
+    const int entries = command_history_setup().number_of_entries.value();
+    if (entries > 0 && !make_history_menu(entries)) {
+        report("Couldn't generate history menu\n");
+    }
+}
+
+void save_history_at_quit() {
+    if (command_history_setup().save_to_history_file.value() == when_quitting) {
+        (void)save_history(history(), history_path());
+    }
+}
+
+void history_previous(HistoryWalker walker) {
+    walk({.step = -1, .at_end = "At the top of history list", .rings_for_button = true}, walker);
+}
+
+void history_next(HistoryWalker walker) {
+    walk({.step = 1, .at_end = "At the bottom of history list", .rings_for_button = false}, walker);
+}
+
+void Bottom_buttons_menu() {
+    main_window().set_left_footer("");
+    const int entries = command_history_setup().number_of_entries.value();
+    if (entries < 1) {
+        main_window().history_menu.set_items({}, my_action_proc3);
+    } else if (!make_history_menu(entries)) {
+        main_window().set_left_footer("Couldn't generate history menu");
+    }
+}
+
+void my_action_proc3(const std::string& item) {
+    if (item.empty()) {
+        return;
+    }
+    const int action = command_history_setup().menu_action.value();
+    if (action != move_to_command_line) {
+        main_window().set_left_footer(send_history_command(item));
+    }
+    if (action != execute) {
+        main_window().command.set_text(item);
+    }
+}
+
+void CommandHistorySetupInsertDup() {
+    constexpr int yes = 1;
+    history().set_insert_duplicates(
+        command_history_setup().insert_duplicates.value() == yes ? Duplicates::allowed : Duplicates::refused);
+}
