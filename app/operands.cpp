@@ -43,3 +43,7 @@ std::optional<std::string> operand_behind(std::string_view before, std::string_v
     const bool inert = double_quoted_word(name, shell) == fmt::format("\"{}\"", name);
     return inert && !closes_quote ? std::optional<std::string>(name) : std::nullopt;
 }
+
+std::string name_refusal(std::string_view name) {
+    return fmt::format("Name can't be typed into the shell: {}", name);
+}

@@ -18,3 +18,6 @@ std::string selected_tree_name();
 /// A file name as it may stand in a command line behind `before`: as one word of the shell or, where its user
 /// has opened quotes, without any. Nothing when the shell would act on it there.
 std::optional<std::string> operand_behind(std::string_view before, std::string_view name, ShellFamily shell);
+
+/// The message for a name that cannot be typed into the user's shell.
+std::string name_refusal(std::string_view name);

@@ -16,6 +16,7 @@
 #include "browsers/expand_path.h"
 #include "settings/history.h"
 #include "settings/setup_file.h"
+#include "settings/user_buttons.h"
 #include "toolkit/application.h"
 #include "toolkit/resources.h"
 #include "ui/command_list_manager.h"
@@ -186,6 +187,7 @@ void start_up(std::vector<std::string> arguments) {
     const CommandLineOptions options = read_options(arguments);
     (void)load_setup_at_startup();
     put_options_into_fields(options);
+    set_up_user_buttons_at_startup();
     size_command_list();
     load_history_at_startup();
     make_history_menu_at_startup();

@@ -21,6 +21,11 @@ struct MainWindow : Frame {
     MainWindow() : Frame("Orvik Command Tool") {
         cwd.set_display_length(12);
         command.set_display_length(12);
+        for (Button* button : {&user_button_1, &user_button_2, &user_button_3, &user_button_4, &user_button_5,
+                               &user_button_6}) {
+            button->share_width();
+            button->leave_focus();
+        }
         resize(normal_width, normal_height);
     }
 
@@ -55,6 +60,14 @@ struct MainWindow : Frame {
     ImageButton last_command{command_row, "last command", BaseWindowLastCommand};
     ImageButton clear_command{command_row, "clear command", BaseWindowClearCommand};
     ImageButton move{command_row, "move", BaseWindowMoveButton};
+
+    Row user_button_row{*this};
+    Button user_button_1{user_button_row, "Button1", UserButton1};
+    Button user_button_2{user_button_row, "Button2", UserButton2};
+    Button user_button_3{user_button_row, "Button3", UserButton3};
+    Button user_button_4{user_button_row, "Button4", UserButton4};
+    Button user_button_5{user_button_row, "Button5", UserButton5};
+    Button user_button_6{user_button_row, "Button6", UserButton6};
 
     TerminalPane termpane{*this, "terminal"};
 };

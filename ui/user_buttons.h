@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "settings/notify.h"
+#include "toolkit/buttons.h"
 #include "toolkit/choices.h"
 #include "toolkit/fields.h"
 #include "toolkit/frame.h"
@@ -19,24 +21,27 @@ struct UserButtons : CommandFrame {
         command_1.set_display_length(48);
     }
 
-    Choice button_window{panel, "Button Window", {"Hide", "Show"}};
+    Choice button_window{panel, "Button Window", {"Hide", "Show"}, SetupUserButtons};
+    Button update{panel, "Update", UserButtonsUpdate};
 
     Row columns{panel};
     Panel labels{columns};
-    TextField label_1{labels, "Label1:"};
-    TextField label_2{labels, "Label2:"};
-    TextField label_3{labels, "Label3:"};
-    TextField label_4{labels, "Label4:"};
-    TextField label_5{labels, "Label5:"};
-    TextField label_6{labels, "Label6:"};
+    TextField label_1{labels, "Label1:", UserButtonsLabel1};
+    TextField label_2{labels, "Label2:", UserButtonsLabel2};
+    TextField label_3{labels, "Label3:", UserbuttonsLabel3};
+    TextField label_4{labels, "Label4:", UserButtonsLabel4};
+    TextField label_5{labels, "Label5:", UserButtonsLabel5};
+    TextField label_6{labels, "Label6:", UserButtonsLabel6};
 
     Panel commands{columns};
-    TextField command_1{commands, "Command1:"};
-    TextField command_2{commands, "Command2:"};
-    TextField command_3{commands, "Command3:"};
-    TextField command_4{commands, "Command4:"};
-    TextField command_5{commands, "Command5:"};
-    TextField command_6{commands, "Command6:"};
+    TextField command_1{commands, "Command1:", UserButtonsCommand1};
+    TextField command_2{commands, "Command2:", UserButtonsCommand2};
+    TextField command_3{commands, "Command3:", UserButtonsCommand3};
+    TextField command_4{commands, "Command4:", UserButtonsCommand4};
+    TextField command_5{commands, "Command5:", UserButtonsCommand5};
+    TextField command_6{commands, "Command6:", UserButtonsCommand6};
+
+    Button function_keys{panel, "Function Keys", UserButtonsFunctionKeys};
 };
 
 inline std::unique_ptr<UserButtons> Orvik_popup6;

@@ -1,0 +1,149 @@
+// SPDX-License-Identifier: MIT
+#include "settings/user_buttons.h"
+
+#include "app/operands.h"
+#include "app/process.h"
+#include "app/shell.h"
+#include "app/status.h"
+#include "app/text.h"
+#include "settings/notify.h"
+#include "ui/function_keys.h"
+#include "ui/main_window.h"
+#include "ui/user_buttons.h"
+
+#include <array>
+#include <optional>
+
+namespace {
+
+constexpr int row_height_shown = 39;  ///< pixels
+constexpr int row_height_hidden = 1;
+
+/// A button of the main window and the fields that define it.
+struct UserButton {
+    Button MainWindow::*button;
+    TextField UserButtons::*label;
+    TextField UserButtons::*command;
+};
+
+constexpr std::array user_button_table{
+    UserButton{&MainWindow::user_button_1, &UserButtons::label_1, &UserButtons::command_1},
+    UserButton{&MainWindow::user_button_2, &UserButtons::label_2, &UserButtons::command_2},
+    UserButton{&MainWindow::user_button_3, &UserButtons::label_3, &UserButtons::command_3},
+    UserButton{&MainWindow::user_button_4, &UserButtons::label_4, &UserButtons::command_4},
+    UserButton{&MainWindow::user_button_5, &UserButtons::label_5, &UserButtons::command_5},
+    UserButton{&MainWindow::user_button_6, &UserButtons::label_6, &UserButtons::command_6},
+};
+
+/// An empty label leaves the old one.
+void apply_label(const UserButton& user) {
+    const std::string label = (user_buttons().*user.label).text();
+    if (!label.empty()) {
+        (main_window().*user.button).set_label(label);
+    }
+}
+
+void show_command(const UserButton& user) {
+    const std::string command = (user_buttons().*user.command).text();
+    (main_window().*user.button)
+        .set_tool_tip(command.empty() ? "No command yet: define it in \"User Buttons\"" : command);
+}
+
+void press(const UserButton& user) {
+    send_user_command((user_buttons().*user.command).text(), "Button command not defined");
+}
+
+/// A command with its placeholder filled, and why it must not be typed.
+struct FilledCommand {
+    std::string text;
+    std::string refusal;
+};
+
+FilledCommand fill(const std::string& command) {
+    FilledCommand filled;
+    const auto selection = [&filled] {
+        SelectionLine line = selection_line();
+        filled.refusal = line.refusal;
+        return std::move(line.text);
+    };
+    const auto tree_name = [&] {
+        const std::string name = selected_tree_name();
+        const std::optional<std::string> operand =
+            name.empty() ? name
+                         : operand_behind(std::string_view(command).substr(0, command.find("???")), name,
+                                          shell_family(shell_name));
+        if (!operand) {
+            filled.refusal = name_refusal(name);
+        }
+        return operand.value_or(std::string());
+    };
+    filled.text = fix_command(command, selection, tree_name);
+    if (filled.refusal.empty() && filled.text.empty()) {
+        filled.refusal = "Selection too long or error in command";
+    }
+    return filled;
+}
+
+}  // namespace
+
+void send_user_command(const std::string& command, std::string_view empty_message) {
+    main_window().set_left_footer("");
+    if (command.empty()) {
+        main_window().set_left_footer(empty_message);
+        return;
+    }
+    const FilledCommand filled = fill(command);
+    const std::string refusal = filled.refusal.empty() ? type_line(filled.text) : filled.refusal;
+    main_window().set_left_footer(refusal);
+    if (refusal.empty()) {
+        SetupTimer(refresh_after_command);
+    }
+}
+
+void set_up_user_buttons_at_startup() {
+    SetupUserButtons();
+    UserButtonsUpdate();
+    for (const UserButton& user : user_button_table) {
+        show_command(user);
+        (user_buttons().*user.command).on_change([&user] { show_command(user); });
+    }
+}
+
+void SetupUserButtons() {
+    const bool shown = user_buttons().button_window.value() == UserButtons::show_buttons;
+    main_window().user_button_row.set_height(shown ? row_height_shown : row_height_hidden);
+}
+
+void UserButtonsUpdate() {
+    for (const UserButton& user : user_button_table) {
+        apply_label(user);
+    }
+}
+
+void UserButtonsFunctionKeys() { function_keys().open(); }
+
+void UserButton1() { press(user_button_table[0]); }
+void UserButton2() { press(user_button_table[1]); }
+void UserButton3() { press(user_button_table[2]); }
+void UserButton4() { press(user_button_table[3]); }
+void UserButton5() { press(user_button_table[4]); }
+void UserButton6() { press(user_button_table[5]); }
+
+void UserButtonsLabel1() { apply_label(user_button_table[0]); }
+void UserButtonsLabel2() { apply_label(user_button_table[1]); }
+void UserbuttonsLabel3() { apply_label(user_button_table[2]); }
+void UserButtonsLabel4() { apply_label(user_button_table[3]); }
+void UserButtonsLabel5() { apply_label(user_button_table[4]); }
+void UserButtonsLabel6() { apply_label(user_button_table[5]); }
+
+// Return in a command field accepts the value, and the field holds it already: what presses a button, or a
+// function key in the terminal, reads it there.
+void UserButtonsCommand1() {}
+void UserButtonsCommand2() {}
+void UserButtonsCommand3() {}
+void UserButtonsCommand4() {}
+void UserButtonsCommand5() {}
+void UserButtonsCommand6() {}
+void FunctionKey6() {}
+void FunctionKey7() {}
+void FunctionKey8() {}
