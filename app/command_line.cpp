@@ -2,6 +2,7 @@
 // "Command:" and the buttons beside it; commands cut out of the terminal's line.
 #include "app/command_line.h"
 
+#include "app/command_window.h"
 #include "app/current_command.h"
 #include "app/notify.h"
 #include "app/shell.h"
@@ -16,7 +17,7 @@ namespace {
 
 struct ProblemText {
     CommandProblem problem;
-    std::string_view for_return_key;
+    std::string_view for_return_key;  ///< and for the "Command Window"
     std::string_view for_move_button;
 };
 
@@ -32,10 +33,14 @@ constexpr std::array problem_texts{
 std::string_view text_of(CommandProblem problem, CommandAsker asker) {
     for (const ProblemText& known : problem_texts) {
         if (known.problem == problem) {
-            return asker == CommandAsker::return_key ? known.for_return_key : known.for_move_button;
+            return asker == CommandAsker::move_button ? known.for_move_button : known.for_return_key;
         }
     }
     return {};
+}
+
+Frame& window_of(CommandAsker asker) {
+    return asker == CommandAsker::copy_button ? static_cast<Frame&>(command_window()) : main_window();
 }
 
 std::optional<std::string> command_on(const TerminalPane::CurrentLine& line, CommandAsker asker) {
@@ -47,7 +52,7 @@ std::optional<std::string> command_on(const TerminalPane::CurrentLine& line, Com
                                          .prompt = prompt,
                                          .delimiter = delimiter});
     if (found.problem != CommandProblem::none) {
-        main_window().set_left_footer(text_of(found.problem, asker));
+        window_of(asker).set_left_footer(text_of(found.problem, asker));
         return std::nullopt;
     }
     return std::move(found.text);
@@ -59,24 +64,35 @@ std::optional<std::string> typed_command(CommandAsker asker) {
     return command_on(main_window().termpane.current_line(), asker);
 }
 
+std::optional<std::string> take_typed_command(CommandAsker asker) {
+    if (main_window().termpane.shows_alternate_screen()) {  // a full-screen program's text, and its keys
+        window_of(asker).set_left_footer("Couldn't get full line");
+        return std::nullopt;
+    }
+    const TerminalPane::CurrentLine line = main_window().termpane.current_line();
+    std::optional<std::string> command = command_on(line, asker);
+    if (command) {
+        if (!line.behind.empty()) {
+            type_control('E');  // line editors erase only what is before the insertion point
+        }
+        type_control('U');
+    }
+    return command;
+}
+
 void move_typed_command(CommandAsker asker) {
     main_window().set_left_footer("");
-    const TerminalPane::CurrentLine line = main_window().termpane.current_line();
-    const std::optional<std::string> command = command_on(line, asker);
+    const std::optional<std::string> command = take_typed_command(asker);
     if (!command) {
         return;
     }
     if (default_settings().open_long_command_window.value()) {
         command_window().command.set_text(*command);
-        command_window().open(0, 600);
+        show_command_window();
     } else {
         main_window().command.set_text(*command);
         main_window().command.set_focus();
     }
-    if (!line.behind.empty()) {
-        type_control('E');  // line editors erase only what is before the insertion point
-    }
-    type_control('U');
 }
 
 void recall_last_command() {

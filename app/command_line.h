@@ -6,17 +6,17 @@
 #include <string>
 #include <string_view>
 
-class Frame;
-
 /// Whose messages tell that no command was found in the terminal's line.
-enum class CommandAsker : std::uint8_t { return_key, move_button };
+enum class CommandAsker : std::uint8_t { return_key, move_button, copy_button };
 
 /// The command on the terminal's current line, as far as "Default Settings" tell where it begins. Nothing,
-/// and the main window's left footer says why, when there is none.
+/// and the left footer of the asker's window says why, when there is none.
 std::optional<std::string> typed_command(CommandAsker asker);
+/// The same, taken out of the shell's line: that is empty then.
+std::optional<std::string> take_typed_command(CommandAsker asker);
 
 /// Takes the command out of the shell's line: into the "Command Window" when "Open Long Command Window" is
-/// on, else into "Command:". The shell's line is empty then.
+/// on, else into "Command:".
 void move_typed_command(CommandAsker asker);
 
 /// Puts "Last Command:" into "Command:".

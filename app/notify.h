@@ -63,6 +63,17 @@ void Quit_button();
 // "About".
 void AboutCopy();
 
+// "Command Window".
+void CommandWindowCommandLine();
+void CommandWindowPush();
+void CommandWindowPop();
+void CommandWindowRemove();
+void CommandWindowRun();
+void CommandWindowLast();
+void CommandWindowGet();
+void CommandWindowClearButton();
+void CommandWindowCopy();
+
 // "Define Label".
 void DefineLabelApply();
 

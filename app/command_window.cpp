@@ -1,0 +1,117 @@
+// SPDX-License-Identifier: MIT
+#include "app/command_window.h"
+
+#include "app/command_line.h"
+#include "app/notify.h"
+#include "app/operands.h"
+#include "app/process.h"
+#include "app/shell.h"
+#include "app/status.h"
+#include "browsers/expand_path.h"
+#include "settings/history.h"
+#include "ui/command_window.h"
+#include "ui/default_settings.h"
+
+#include <optional>
+
+#include <fmt/format.h>
+
+namespace {
+
+/// Types a line and refreshes the status; whether it was not refused. The left footer is cleared or tells
+/// why.
+bool send(std::string_view line) {
+    const std::string refusal = type_line(line);
+    command_window().set_left_footer(refusal);
+    if (refusal.empty()) {
+        SetupTimer(refresh_after_command);
+    }
+    return refusal.empty();
+}
+
+std::optional<std::string> selection() {
+    constexpr std::string_view none = "No selection made or selection too long";
+    command_window().set_left_footer("");
+    return selected_line(command_window(), none, none);
+}
+
+}  // namespace
+
+void show_command_window() {
+    constexpr int below_main_window = 600;  // pixels
+    command_window().open(0, below_main_window);
+    command_window().command.set_focus();
+}
+
+void CommandWindowPush() {
+    const std::optional<std::string> selected = selection();
+    if (!selected) {
+        return;
+    }
+    // "~" stands for a home directory: quoted, it would not.
+    const std::string directory = selected->starts_with('~') ? expand_path(*selected) : *selected;
+    if (const std::optional<std::string> word = shell_word(directory, shell_family(shell_name))) {
+        send(fmt::format("pushd {}", *word));
+    } else {
+        command_window().set_left_footer(name_refusal(directory));
+    }
+}
+
+void CommandWindowPop() { send("popd"); }
+
+/// The names are the user's own words: nothing in them is quoted, and no question is asked but by rm.
+void CommandWindowRemove() {
+    const std::string names = command_window().command.text();
+    if (names.empty()) {
+        command_window().set_left_footer("No file");
+    } else {
+        send(fmt::format("rm {}", names));
+    }
+}
+
+void CommandWindowRun() {
+    const std::string command = command_window().command.text();
+    if (command.empty()) {
+        command_window().set_left_footer("No command");
+    } else {
+        send(command);
+    }
+}
+
+void CommandWindowLast() {
+    const std::string last = default_settings().last_command.text();
+    command_window().set_left_footer(last.empty() ? "No command stored" : "");
+    if (!last.empty()) {
+        command_window().command.set_text(last);
+    }
+}
+
+void CommandWindowGet() {
+    if (const std::optional<std::string> text = selection()) {
+        command_window().command.set_text(*text);
+    }
+}
+
+void CommandWindowClearButton() {
+    command_window().set_left_footer("");
+    command_window().command.set_text("");
+}
+
+void CommandWindowCopy() {
+    command_window().set_left_footer("");
+    if (const std::optional<std::string> command = take_typed_command(CommandAsker::copy_button)) {
+        command_window().command.set_text(*command);
+    }
+}
+
+void CommandWindowCommandLine() {
+    const std::string command = command_window().command.text();
+    if (!send(command)) {
+        return;
+    }
+    record_command(command);
+    if (default_settings().clear_command_line.value()) {
+        command_window().command.set_text("");
+    }
+    default_settings().last_command.set_text(command);
+}
