@@ -56,6 +56,9 @@ void ListView::mousePressEvent(QMouseEvent* event) {
           .time = now});
 }
 
+/// Qt gives the second press of a double click this name; here every press is told.
+void ListView::mouseDoubleClickEvent(QMouseEvent* event) { mousePressEvent(event); }
+
 void ListView::keyPressEvent(QKeyEvent* event) {
     const QModelIndex before = currentIndex();
     if (before.isValid() && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)) {
