@@ -7,6 +7,7 @@
 #include "app/notify.h"
 #include "app/shell.h"
 #include "app/status.h"
+#include "settings/history.h"
 #include "ui/command_window.h"
 #include "ui/default_settings.h"
 #include "ui/main_window.h"
@@ -60,6 +61,27 @@ std::optional<std::string> command_on(const TerminalPane::CurrentLine& line, Com
 
 }  // namespace
 
+bool send_line(Frame& frame, std::string_view line) {
+    const std::string refusal = type_line(line);
+    frame.set_left_footer(refusal);
+    if (refusal.empty()) {
+        SetupTimer(refresh_after_command);
+    }
+    return refusal.empty();
+}
+
+void send_command_field(Frame& frame, TextField& field) {
+    const std::string command = field.text();
+    if (!send_line(frame, command)) {
+        return;
+    }
+    record_command(command);
+    if (default_settings().clear_command_line.value()) {
+        field.set_text("");
+    }
+    default_settings().last_command.set_text(command);
+}
+
 std::optional<std::string> typed_command(CommandAsker asker) {
     return command_on(main_window().termpane.current_line(), asker);
 }
@@ -103,23 +125,21 @@ void recall_last_command() {
     }
 }
 
-void Command_text_line() {
-    const std::string command = main_window().command.text();
-    const std::string refusal = type_line(command);
-    main_window().set_left_footer(refusal);
-    if (!refusal.empty()) {
-        return;
-    }
-    SetupTimer(refresh_after_command);
-    if (default_settings().clear_command_line.value()) {
-        main_window().command.set_text("");
-    }
-    default_settings().last_command.set_text(command);
-}
+void Command_text_line() { send_command_field(main_window(), main_window().command); }
 
 void BaseWindowClearCommand() {
     main_window().set_left_footer("");
     main_window().command.set_text("");
+}
+
+void BaseWindowScrollUp() {
+    main_window().set_left_footer("");
+    history_previous(HistoryWalker::button);
+}
+
+void BaseWindowScrollDown() {
+    main_window().set_left_footer("");
+    history_next(HistoryWalker::button);
 }
 
 void BaseWindowLastCommand() { recall_last_command(); }

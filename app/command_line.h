@@ -6,6 +6,16 @@
 #include <string>
 #include <string_view>
 
+class Frame;
+class TextField;
+
+/// Types a line and has the shell's state shown afterwards; whether it was typed. The frame's left footer is
+/// cleared, or tells why it was not.
+bool send_line(Frame& frame, std::string_view line);
+
+/// Sends the command in a field and files it; the frame's left footer tells why it was not sent.
+void send_command_field(Frame& frame, TextField& field);
+
 /// Whose messages tell that no command was found in the terminal's line.
 enum class CommandAsker : std::uint8_t { return_key, move_button, copy_button };
 

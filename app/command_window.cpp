@@ -6,11 +6,10 @@
 #include "app/operands.h"
 #include "app/process.h"
 #include "app/shell.h"
-#include "app/status.h"
 #include "browsers/expand_path.h"
-#include "settings/history.h"
 #include "ui/command_window.h"
 #include "ui/default_settings.h"
+#include "ui/main_window.h"
 
 #include <optional>
 
@@ -18,16 +17,7 @@
 
 namespace {
 
-/// Types a line and refreshes the status; whether it was not refused. The left footer is cleared or tells
-/// why.
-bool send(std::string_view line) {
-    const std::string refusal = type_line(line);
-    command_window().set_left_footer(refusal);
-    if (refusal.empty()) {
-        SetupTimer(refresh_after_command);
-    }
-    return refusal.empty();
-}
+void send(std::string_view line) { (void)send_line(command_window(), line); }
 
 std::optional<std::string> selection() {
     constexpr std::string_view none = "No selection made or selection too long";
@@ -104,14 +94,9 @@ void CommandWindowCopy() {
     }
 }
 
-void CommandWindowCommandLine() {
-    const std::string command = command_window().command.text();
-    if (!send(command)) {
-        return;
-    }
-    record_command(command);
-    if (default_settings().clear_command_line.value()) {
-        command_window().command.set_text("");
-    }
-    default_settings().last_command.set_text(command);
+void CommandWindowCommandLine() { send_command_field(command_window(), command_window().command); }
+
+void FloatingCommandLine() {
+    main_window().set_left_footer("");
+    show_command_window();
 }

@@ -41,6 +41,7 @@ void Execute_FG_button();
 void Execute_BG_button();
 void OrvikWindowCopyButton();
 void CopyToMessageBoard();
+void FloatingCommandLine();
 void BaseWindowSetAlias();
 
 // Main window: its size, and the terminal's text.

@@ -5,6 +5,7 @@
 #include "app/notify.h"
 #include "app/process.h"
 #include "app/status.h"
+#include "settings/history.h"
 #include "toolkit/application.h"
 #include "toolkit/notice.h"
 #include "ui/main_window.h"
@@ -17,6 +18,7 @@
 
 void clean_up() {
     end_status_display();
+    save_history_at_quit();
     for (TextPane* pane : {&message_board().text, &notebook().text, &send_email().text}) {
         clear_window(*pane);
     }

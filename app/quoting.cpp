@@ -114,6 +114,11 @@ std::string quoted_word(std::string_view text) {
     return is_ordinary(text) ? std::string(text) : fmt::format("'{}'", inside_single_quotes(text));
 }
 
+std::optional<std::string> escaped_word(std::string_view name, ShellFamily shell) {
+    const bool only_blanks = !name.starts_with('-') && is_ordinary(remove_spaces(name));
+    return only_blanks ? ConvertSpaces(name) : shell_word(name, shell);
+}
+
 std::string inside_single_quotes(std::string_view text) {
     std::string result;
     for (const char c : text) {

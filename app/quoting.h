@@ -21,6 +21,10 @@ std::optional<std::string> shell_word(std::string_view name, ShellFamily shell);
 /// shell from acting on the name.
 std::optional<std::string> double_quoted_word(std::string_view name, ShellFamily shell);
 
+/// The same with a backslash before every blank, for commands that are given so; as `shell_word` where the
+/// shell would act on more than the blanks.
+std::optional<std::string> escaped_word(std::string_view name, ShellFamily shell);
+
 /// A file name as one word of a command for the system's shell (POSIX sh, as `system` starts it). Blanks get
 /// a backslash; a name that the shell would act on is quoted. A leading "-" gets "./" in front. Any name can
 /// be given so: nothing is typed, so control characters do no harm.

@@ -1,19 +1,151 @@
 // SPDX-License-Identifier: MIT
+// The tool's own keys in the terminal pane.
 #include "app/termpane.h"
 
+#include "app/command_line.h"
+#include "app/selection_commands.h"
 #include "app/status.h"
+#include "settings/history.h"
+#include "settings/user_buttons.h"
+#include "ui/command_history_setup.h"
+#include "ui/default_settings.h"
+#include "ui/function_keys.h"
 #include "ui/main_window.h"
+
+#include <algorithm>
+#include <array>
 
 namespace {
 
-/// Sees every key before the terminal pane does. A released Return means that a command has been given: the
-/// shell will have written its new state soon.
-bool termpane_event_proc(KeyEvent& event) {
-    const bool is_return = event.key == terminal::Key::enter || event.key == terminal::Key::keypad_enter;
-    if (event.kind == KeyEvent::Kind::release && is_return) {
-        SetupTimer(refresh_after_command);
+using terminal::Key;
+
+constexpr int editing_enabled = 1;
+
+/// What becomes of a line editing key.
+enum class Action : std::uint8_t { to_shell, history_next, history_previous };
+
+/// A key of line editing: with "Command Line Editing" enabled another control character goes to the shell's
+/// own line editor; disabled, the arrows walk the history.
+struct EditingKey {
+    Key key;      ///< none for the control character
+    char letter;  ///< of the control character
+    char typed;   ///< with editing enabled: the letter of the control character that the shell is given
+    Action when_disabled;
+};
+
+constexpr std::array editing_keys{
+    EditingKey{Key::left, 0, 'b', Action::to_shell},
+    EditingKey{Key::right, 0, 'f', Action::to_shell},
+    EditingKey{Key::down, 0, 'n', Action::history_next},
+    EditingKey{Key::up, 0, 'p', Action::history_previous},
+    EditingKey{Key::none, 'n', 'n', Action::history_next},
+    EditingKey{Key::none, 'p', 'p', Action::history_previous},
+    EditingKey{Key::none, 'd', 'd', Action::to_shell},
+    EditingKey{Key::none, 'w', 'w', Action::to_shell},
+    EditingKey{Key::none, 'u', 'u', Action::to_shell},
+    EditingKey{Key::none, 'r', 'e', Action::to_shell},
+};
+
+/// A key that does something of the tool's and stays with it.
+struct ToolKey {
+    Key key;      ///< none for the control character
+    char letter;  ///< of the control character
+    void (*action)();
+    bool editing_only = false;  ///< only with "Command Line Editing" enabled
+};
+
+template <TextField FunctionKeys::*field>
+void send_function_key_command() {
+    send_user_command((function_keys().*field).text(), "Function key command not defined");
+}
+
+constexpr std::array tool_keys{
+    ToolKey{.key = Key::insert, .action = insert_selection, .editing_only = true},
+    ToolKey{.key = Key::f1, .action = run_selection},
+    ToolKey{.key = Key::f2, .action = run_selection_in_background},
+    ToolKey{.key = Key::f3, .action = edit_selected_file},
+    ToolKey{.key = Key::f4, .action = go_directory_up},
+    ToolKey{.key = Key::f5, .action = go_to_selected_directory},
+    ToolKey{.key = Key::f6, .action = type_selection},
+    ToolKey{.key = Key::f7, .action = send_function_key_command<&FunctionKeys::function_key_7_command>},
+    ToolKey{.key = Key::f8, .action = send_function_key_command<&FunctionKeys::function_key_8_command>},
+    ToolKey{.key = Key::f9, .action = send_function_key_command<&FunctionKeys::function_key_9_command>},
+    ToolKey{.letter = 'x', .action = [] { move_typed_command(CommandAsker::return_key); }},
+    ToolKey{.letter = 'l', .action = recall_last_command},
+    ToolKey{.letter = 'o', .action = recall_by_selection},
+};
+
+bool fits(const KeyEvent& event, Key key, char letter) {
+    return key == Key::none ? event.is_control(letter)
+                            : event.key == key && event.modifiers == terminal::Modifiers{};
+}
+
+bool is_return(const KeyEvent& event) {
+    return (event.key == Key::enter || event.key == Key::keypad_enter) &&
+           event.modifiers == terminal::Modifiers{};
+}
+
+/// The command on the line goes into the history and into "Last Command:". The shell gets the key afterwards:
+/// its answer would change the line.
+void file_typed_command() {
+    constexpr int history_on = 0;
+    if (command_history_setup().history_list.value() != history_on || main_window().termpane.child() < 0) {
+        return;
     }
-    return false;
+    if (const std::optional<std::string> command = typed_command(CommandAsker::return_key)) {
+        record_command(*command);
+        main_window().set_left_footer("");
+        default_settings().last_command.set_text(*command);
+    }
+}
+
+/// The terminal pane's own procedure for the keys of line editing; whether the key is done with.
+bool termpane_event_proc2(KeyEvent& event, const EditingKey& key) {
+    if (default_settings().command_line_editing.value() == editing_enabled) {
+        event.key = Key::none;
+        event.text = key.typed;
+        event.modifiers = {.control = true};
+        return false;
+    }
+    if (key.when_disabled == Action::history_next) {
+        history_next();
+    } else if (key.when_disabled == Action::history_previous) {
+        history_previous();
+    }
+    return key.when_disabled != Action::to_shell;
+}
+
+/// Sees every key before the terminal pane does; whether it is done with. While a full-screen program is at
+/// work, all keys are its own.
+bool termpane_event_proc(KeyEvent& event) {
+    if (event.kind == KeyEvent::Kind::release) {
+        if (is_return(event)) {
+            SetupTimer(refresh_after_command);
+        }
+        return false;
+    }
+    if (main_window().termpane.shows_alternate_screen()) {
+        return false;
+    }
+    if (is_return(event)) {
+        file_typed_command();
+        return false;
+    }
+    if (event.is_control('s')) {
+        main_window().set_right_footer("Screen is locked. Use ^Q to unlock.");
+    } else if (event.is_control('q')) {
+        main_window().set_right_footer("");
+    }
+    const bool editing = default_settings().command_line_editing.value() == editing_enabled;
+    for (const ToolKey& key : tool_keys) {
+        if (fits(event, key.key, key.letter) && (editing || !key.editing_only)) {
+            key.action();
+            return true;
+        }
+    }
+    const auto* const found = std::ranges::find_if(
+        editing_keys, [&](const EditingKey& key) { return fits(event, key.key, key.letter); });
+    return found != editing_keys.end() && termpane_event_proc2(event, *found);
 }
 
 }  // namespace

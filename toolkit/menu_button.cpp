@@ -36,10 +36,13 @@ class MenuPushButton : public QPushButton {
     }
 
     [[nodiscard]] QSize sizeHint() const override {
+        constexpr int padding = 22;  // pixels; a push button's usual least width would leave a row no room
         QStyleOptionButton option;
         initStyleOption(&option);
         const int indicator = style()->pixelMetric(QStyle::PM_MenuButtonIndicator, &option, this);
-        return QPushButton::sizeHint() + QSize(indicator, 0);
+        const int picture = icon().isNull() ? 0 : iconSize().width();
+        const int wide = fontMetrics().horizontalAdvance(text()) + picture + indicator + padding;
+        return {wide, QPushButton::sizeHint().height()};
     }
 
   protected:

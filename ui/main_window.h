@@ -47,6 +47,7 @@ struct MainWindow : Frame {
     ImageButton execute_background{actions, "execute background", Execute_BG_button};
     ImageButton copy{actions, "copy", OrvikWindowCopyButton};
     ImageButton copy_to_notebook{actions, "copy to notebook", CopyToMessageBoard};
+    ImageButton floating_command_line{actions, "floating command line", FloatingCommandLine};
     ImageButton set_alias{actions, "set alias", BaseWindowSetAlias};
     ImageButton wide{actions, "wide", Set_wide_screen};
     ImageButton normal{actions, "normal", Set_normal_width};
@@ -57,6 +58,8 @@ struct MainWindow : Frame {
     Row command_row{control_panel, "Command:"};
     TextField command{command_row, {"", "Command:"}, Command_text_line};
     MenuButton history_menu{command_row, "history", "history", Bottom_buttons_menu};
+    ImageButton scroll_up{command_row, "scroll up", BaseWindowScrollUp};
+    ImageButton scroll_down{command_row, "scroll down", BaseWindowScrollDown};
     ImageButton last_command{command_row, "last command", BaseWindowLastCommand};
     ImageButton clear_command{command_row, "clear command", BaseWindowClearCommand};
     ImageButton move{command_row, "move", BaseWindowMoveButton};
