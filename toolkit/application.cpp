@@ -155,7 +155,8 @@ void xv_main_loop(Frame& main_window) {
     QApplication::exec();
 }
 
-void notify_stop() { QApplication::quit(); }
+// Not quit(): that asks every window to close first, and the main window asks its user.
+void notify_stop() { QApplication::exit(); }
 
 void xv_destroy() { application.reset(); }
 
