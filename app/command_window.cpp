@@ -6,7 +6,6 @@
 #include "app/operands.h"
 #include "app/process.h"
 #include "app/shell.h"
-#include "browsers/expand_path.h"
 #include "ui/command_window.h"
 #include "ui/default_settings.h"
 #include "ui/main_window.h"
@@ -38,8 +37,7 @@ void CommandWindowPush() {
     if (!selected) {
         return;
     }
-    // "~" stands for a home directory: quoted, it would not.
-    const std::string directory = selected->starts_with('~') ? expand_path(*selected) : *selected;
+    const std::string directory = with_home_directory(*selected);
     if (const std::optional<std::string> word = shell_word(directory, shell_family(shell_name))) {
         send(fmt::format("pushd {}", *word));
     } else {

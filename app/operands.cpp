@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "app/operands.h"
 
+#include "browsers/expand_path.h"
+
+#include <algorithm>
 #include <utility>
 
 #include <fmt/format.h>
@@ -42,6 +45,14 @@ std::optional<std::string> operand_behind(std::string_view before, std::string_v
     const bool closes_quote = name.find(quote) != std::string_view::npos;
     const bool inert = double_quoted_word(name, shell) == fmt::format("\"{}\"", name);
     return inert && !closes_quote ? std::optional<std::string>(name) : std::nullopt;
+}
+
+std::string with_home_directory(std::string_view name) {
+    if (!name.starts_with('~')) {
+        return std::string(name);
+    }
+    const std::size_t rest = std::min(name.find('/'), name.size());
+    return expand_path(name.substr(0, rest)) + std::string(name.substr(rest));
 }
 
 std::string name_refusal(std::string_view name) {

@@ -19,5 +19,9 @@ std::string selected_tree_name();
 /// has opened quotes, without any. Nothing when the shell would act on it there.
 std::optional<std::string> operand_behind(std::string_view before, std::string_view name, ShellFamily shell);
 
+/// A selected file name with its home directory in full where it begins with "~" or "~user": quoted, the sign
+/// would mean nothing to the shell.
+std::string with_home_directory(std::string_view name);
+
 /// The message for a name that cannot be typed into the user's shell.
 std::string name_refusal(std::string_view name);

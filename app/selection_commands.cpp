@@ -38,13 +38,14 @@ using Quoting = std::optional<std::string> (*)(std::string_view name, ShellFamil
 
 /// The selection as a file name for the user's shell; nothing, and the footer says why, where there is none.
 std::optional<std::string> selected_name(std::string_view none, Quoting quoting) {
-    const std::optional<std::string> name = selection(none);
-    if (!name) {
+    const std::optional<std::string> selected = selection(none);
+    if (!selected) {
         return std::nullopt;
     }
-    std::optional<std::string> word = quoting(*name, shell_family(shell_name));
+    const std::string name = with_home_directory(*selected);
+    std::optional<std::string> word = quoting(name, shell_family(shell_name));
     if (!word) {
-        main_window().set_left_footer(name_refusal(*name));
+        main_window().set_left_footer(name_refusal(name));
     }
     return word;
 }
