@@ -14,6 +14,10 @@ namespace {
 
 constexpr int usual_length = 24;  ///< characters
 
+bool is_return(const QKeyEvent& event) {
+    return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+}
+
 /// A line edit that keeps Return to itself when it acts on it; else the window takes the key.
 class LineEdit : public QLineEdit {
   public:
@@ -22,8 +26,33 @@ class LineEdit : public QLineEdit {
   protected:
     void keyPressEvent(QKeyEvent* event) override {
         QLineEdit::keyPressEvent(event);
-        const bool is_return = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-        if (is_return && notify_ != nullptr) {
+        if (is_return(*event) && notify_ != nullptr) {
+            event->accept();
+            notify_();
+        }
+    }
+
+  private:
+    Notify notify_;
+};
+
+/// A spin box that tells of Return and of steps. Leaving it is no act: a window that is closed or taken down
+/// leaves all its fields.
+class SpinBox : public QSpinBox {
+  public:
+    SpinBox(Notify notify, QWidget* parent) : QSpinBox(parent), notify_(notify) {}
+
+    void stepBy(int steps) override {
+        QSpinBox::stepBy(steps);
+        if (notify_ != nullptr) {
+            notify_();
+        }
+    }
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override {
+        QSpinBox::keyPressEvent(event);
+        if (is_return(*event) && notify_ != nullptr) {
             event->accept();
             notify_();
         }
@@ -70,7 +99,7 @@ void TextField::set_display_length(int characters) {
 void TextField::set_tool_tip(std::string_view text) { widget_->setToolTip(plain_tool_tip(text)); }
 
 NumberField::NumberField(Container& parent, Label label, int initial, Notify notify)
-    : widget_(new QSpinBox(parent.widget())) {
+    : widget_(new SpinBox(notify, parent.widget())) {
     widget_->setAccessibleName(to_qstring(label.accessible_name));
     widget_->setRange(std::numeric_limits<int>::min(), std::numeric_limits<int>::max());
     widget_->setValue(initial);
@@ -79,9 +108,6 @@ NumberField::NumberField(Container& parent, Label label, int initial, Notify not
     widget_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     widget_->setFixedWidth(room);
     parent.add(label.text, widget_, Place::field);
-    if (notify != nullptr) {
-        QObject::connect(widget_, &QSpinBox::editingFinished, widget_, notify);
-    }
 }
 
 int NumberField::value() const { return widget_->value(); }

@@ -37,6 +37,7 @@ class TextField {
 /// A whole number, entered or stepped through.
 class NumberField {
   public:
+    /// `notify` is called on Return and when the number is stepped.
     NumberField(Container& parent, Label label, int initial = 0, Notify notify = nullptr);
     [[nodiscard]] int value() const;
     void set_value(int value);
