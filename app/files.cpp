@@ -73,6 +73,21 @@ int write_all(int file, std::string_view contents) {
     return 0;
 }
 
+/// In a sticky directory that all may write to, such as /tmp, anybody can put a link in the place of a user's
+/// file. There a link holds when it is the user's own or the directory's owner's, as Linux itself has it
+/// (proc(5), protected_symlinks).
+bool is_foreign_link(const std::string& path) {
+    constexpr mode_t open_to_all = S_ISVTX | S_IWOTH;
+    const std::string place = directory_part(path);
+    struct stat link {};
+    struct stat directory {};
+    if (lstat(path.c_str(), &link) != 0 || stat(place.empty() ? "." : place.c_str(), &directory) != 0) {
+        return true;
+    }
+    return (directory.st_mode & open_to_all) == open_to_all && link.st_uid != geteuid() &&
+           link.st_uid != directory.st_uid;
+}
+
 /// Takes a path to the end of its chain of symbolic links, whether anything stands there or not. The links
 /// are read one by one, since realpath() fails where the last one dangles.
 int follow_links(std::string& path) {
@@ -81,6 +96,9 @@ int follow_links(std::string& path) {
         const ssize_t size = readlink(path.c_str(), target.data(), target.size());
         if (size < 0) {
             return errno == EINVAL || errno == ENOENT ? 0 : errno;
+        }
+        if (is_foreign_link(path)) {
+            return EACCES;
         }
         const std::string_view link(target.data(), static_cast<std::size_t>(size));
         if (link.size() == target.size()) {

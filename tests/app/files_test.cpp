@@ -150,6 +150,28 @@ TEST(ReplaceFile, LeavesAFileThatMayNotBeWritten) {
     EXPECT_EQ(listing(home.path()), Names{"file"});
 }
 
+TEST(ReplaceFile, DoesNotFollowSomebodyElsesLinkWhereAllMayWrite) {
+    if (geteuid() != 0) {
+        GTEST_SKIP() << "only root can make a link of somebody else's";
+    }
+    constexpr uid_t stranger = 1;
+    const ScratchDirectory home;
+    const std::string target = home.write("target", "old");
+    const std::string link = home / "link";
+    fs::create_symlink("target", link);
+    ASSERT_EQ(chown(target.c_str(), nobody, nobody), 0);
+    for (const auto& [owner, mode, error] :
+         {std::tuple(stranger, 01777U, EACCES), {stranger, 0777U, 0}, {nobody, 01777U, 0}, {0U, 01777U, 0}}) {
+        ASSERT_EQ(chmod(home.path().c_str(), 0700), 0);
+        home.write("target", "old");
+        ASSERT_EQ(lchown(link.c_str(), owner, owner), 0);
+        ASSERT_EQ(chmod(home.path().c_str(), mode), 0);
+        EXPECT_EQ(in_child([&] { return become_ordinary() ? replace_file(link, "new") : -1; }), error)
+            << owner << ' ' << mode;
+        EXPECT_EQ(read_file(home / "target"), error == 0 ? "new" : "old");
+    }
+}
+
 TEST(ReplaceFile, GivesNobodyMoreRightsWhereTheGroupIsLost) {
     if (geteuid() != 0) {
         GTEST_SKIP() << "only root can make a file of a group that its owner is not in";
