@@ -75,13 +75,14 @@ void connect_to_display(std::vector<std::string>& arguments) {
 
 void make_windows() {
     ImageButton::set_picture_directory(orvik_home + "/icons");
-    create_windows();
+    create_main_window();
     apply_geometry_option(main_window());
     // A shell that takes its time is read once it is there; one that the user has restarted knows no hook
     // yet.
     main_window().termpane.set_events(
         {.ready = [] { SetupTimer(refresh_after_login); }, .restarted = [] { (void)type_prompt_hooks(); }});
     main_window().termpane.start(login_shell());
+    create_popups();  // while the shell starts
 }
 
 std::string environment_text(const char* name) {

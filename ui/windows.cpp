@@ -110,10 +110,16 @@ void for_each_popup(Action action) {
 
 }  // namespace
 
-void create_windows() {
-    Orvik_window1 = std::make_unique<MainWindow>();
+void create_main_window() { Orvik_window1 = std::make_unique<MainWindow>(); }
+
+void create_popups() {
     for_each_popup(
         []<typename Window>(std::unique_ptr<Window>& popup) { popup = std::make_unique<Window>(); });
+}
+
+void create_windows() {
+    create_main_window();
+    create_popups();
 }
 
 std::vector<Frame*> all_windows() {
