@@ -25,7 +25,9 @@ std::string picture_name(std::string_view accessible_name) {
 }  // namespace
 
 QIcon button_picture(std::string_view name) {
-    return QIcon(to_qstring(picture_directory) + '/' + to_qstring(name) + QStringLiteral(".svg"));
+    return picture_directory.empty()
+               ? QIcon()
+               : QIcon(to_qstring(picture_directory) + '/' + to_qstring(name) + QStringLiteral(".svg"));
 }
 
 Button::Button(Container& parent, Label label, Notify notify)

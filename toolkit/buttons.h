@@ -34,6 +34,6 @@ class ImageButton {
     /// The picture's name is the button's with "_" for blanks.
     ImageButton(Container& parent, std::string_view accessible_name, Notify notify);
 
-    /// Where the pictures of all image buttons made later are.
+    /// Where the pictures of all image buttons made later are. Until it is known they have none.
     static void set_picture_directory(std::string_view path);
 };

@@ -8,10 +8,13 @@
 #include <QStyleFactory>
 #include <QStyleOptionMenuItem>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int menu_margin = 4;
 constexpr int menu_item_padding = 5;
+constexpr int button_padding = 24;
 constexpr int title_indent = 12;
 
 const QColor text_colour(0x1f, 0x24, 0x2d);
@@ -35,6 +38,8 @@ class OrvikStyle : public QProxyStyle {
             size = {2 * title_indent + metrics.horizontalAdvance(title->text), metrics.height() + 10};
         } else if (type == CT_MenuItem && !is_separator(option)) {
             size += QSize(menu_item_padding, menu_item_padding);
+        } else if (type == CT_PushButton) {
+            size.setWidth(std::max(size.width(), contents.width() + button_padding));
         }
         return size;
     }

@@ -19,10 +19,14 @@ struct UserButtons : CommandFrame {
             label->set_display_length(12);
         }
         command_1.set_display_length(48);
+        update.set_tool_tip("put the labels on the buttons");
+        function_keys.set_tool_tip("define the commands of the keys F7, F8 and F9");
     }
 
-    Choice button_window{panel, "Button Window", {"Hide", "Show"}, SetupUserButtons};
-    Button update{panel, "Update", UserButtonsUpdate};
+    Row row_settings{panel};
+    Choice button_window{row_settings, "Button Window", {"Hide", "Show"}, SetupUserButtons};
+    Stretch before_update{row_settings};
+    Button update{row_settings, "Update", UserButtonsUpdate};
 
     Row columns{panel};
     Panel labels{columns};
@@ -41,7 +45,9 @@ struct UserButtons : CommandFrame {
     TextField command_5{commands, "Command5:", UserButtonsCommand5};
     TextField command_6{commands, "Command6:", UserButtonsCommand6};
 
-    Button function_keys{panel, "Function Keys", UserButtonsFunctionKeys};
+    Row other_windows{panel};
+    Stretch before_function_keys{other_windows};
+    Button function_keys{other_windows, "Function Keys", UserButtonsFunctionKeys};
 };
 
 inline std::unique_ptr<UserButtons> Orvik_popup6;
