@@ -77,6 +77,7 @@ TEST_F(Keys, ReturnFilesWhatTheRuleSays) {
 
 // The line is what the shell shows, however it came about.
 TEST_F(Keys, ReturnFilesTheWholeEditedLine) {
+    setup_.environment["LC_ALL"] = "C.UTF-8";  // else bash miscounts its own prompt's columns
     start_bash({}, "\xE2\x9E\x9C \xE6\xBC\xA2 > ");
     type("echo ac");
     display().press_key("Left");

@@ -61,6 +61,9 @@ TEST_F(StatusFile, GoesWithTheClosedWindow) {
     start();
     ASSERT_TRUE(fs::exists(status_path()));
     display().close(x_window());
+    const Accessible program = program_->application();
+    ASSERT_TRUE(wait_until([&] { return program.find({"push button", "Yes"}).showing(); }));
+    EXPECT_TRUE(program.find({"push button", "Yes"}).press());
     EXPECT_EQ(program_->process().wait_for_end(patience), 0);
     EXPECT_FALSE(fs::exists(status_path()));
 }
