@@ -1,0 +1,176 @@
+// SPDX-License-Identifier: MIT
+#include "app/messages.h"
+#include "settings/history.h"
+#include "settings/notify.h"
+#include "tests/app/recorded_windows.h"
+#include "ui/command_history_manager.h"
+#include "ui/command_history_setup.h"
+#include "ui/message_board.h"
+#include "ui/text_editor_setup.h"
+
+#include <QListView>
+#include <QSpinBox>
+
+namespace {
+
+using Rows = std::vector<std::string>;
+
+const std::string header = "$ORVIK_HISTORY\n";
+
+class HistoryManagerTest : public RecordedWindows {
+  protected:
+    void SetUp() override {
+        RecordedWindows::SetUp();
+        CommandHistorySetupInsertDup();
+        multiclick_timeout = 400'000;
+        drag_threshold = 5;
+    }
+
+    [[nodiscard]] std::string file() const { return home / ".orvik-history"; }
+    static CommandHistoryManager& manager() { return command_history_manager(); }
+    static QListView& view() { return control<QListView>(manager(), "Command History Manager list"); }
+    static QPoint middle_of(int row) { return view().visualRect(view().model()->index(row, 0)).center(); }
+    static void click(int row) { QTest::mouseClick(view().viewport(), Qt::LeftButton, {}, middle_of(row)); }
+    /// As Qt tells it: the second press is an event of its own.
+    static void double_click(int row) {
+        click(row);
+        QTest::mouseDClick(view().viewport(), Qt::LeftButton, {}, middle_of(row));
+    }
+    static void show() {
+        manager().open();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(manager().widget()));
+    }
+    /// What a button leaves: footer, "Position" and selected row.
+    using Outcome = std::tuple<std::string, int, std::optional<int>>;
+    static Outcome after(void (*button)()) {
+        manager().set_left_footer("old");
+        button();
+        return {manager().left_footer(), manager().position.value(), manager().list.selected()};
+    }
+};
+
+TEST_F(HistoryManagerTest, ClickTakesARowDoubleClickRunsIt) {
+    manager().list.set_rows({"one", "two", "", "a\x1b[b"});
+    show();
+    manager().set_left_footer("old");
+    main_window().set_left_footer("old");
+    click(1);
+    EXPECT_EQ(main_window().command.text(), "two");
+    EXPECT_EQ(manager().left_footer() + main_window().left_footer(), "");
+    double_click(0);
+    EXPECT_EQ(main_window().command.text(), "");
+    EXPECT_EQ(typed(), "one\n");
+    double_click(2);
+    EXPECT_EQ(manager().left_footer(), "No command specified");
+    double_click(3);
+    EXPECT_EQ(manager().left_footer(), "Command holds control characters");
+    EXPECT_EQ(main_window().command.text(), "a\x1b[b");
+    EXPECT_EQ(typed(), "");
+}
+
+TEST_F(HistoryManagerTest, KeysTakeAndRunRows) {
+    manager().list.set_rows({"one", "two"});
+    show();
+    manager().list.select(0);
+    QTest::keyClick(&view(), Qt::Key_Down);
+    EXPECT_EQ(main_window().command.text(), "two");
+    QTest::keyClick(&view(), Qt::Key_Return);
+    EXPECT_EQ(main_window().command.text(), "");
+    EXPECT_EQ(typed(), "two\n");
+}
+
+TEST_F(HistoryManagerTest, BeginEndAndPositionSelectRows) {
+    EXPECT_EQ(after(CommandHistoryBegin), Outcome("", 0, std::nullopt));
+    EXPECT_EQ(after(CommandHistoryEnd), Outcome("", 0, std::nullopt));
+    manager().list.set_rows({"a", "b", "c"});
+    EXPECT_EQ(after(CommandHistoryEnd), Outcome("", 2, 2));
+    EXPECT_EQ(after(CommandHistoryBegin), Outcome("", 0, 0));
+    for (const auto& [typed_position, outcome] :
+         {std::pair(1, Outcome("", 1, 1)), std::pair(3, Outcome("", 3, 1)),
+          std::pair(4, Outcome("There is no such row", 4, 1)),
+          std::pair(-1, Outcome("There is no such row", -1, 1))}) {
+        manager().position.set_value(typed_position);
+        EXPECT_EQ(after(CommandHistoryPosition), outcome);
+    }
+    auto& field = control<QSpinBox>(manager(), "Position");
+    manager().position.set_value(1);
+    QTest::keyClick(&field, Qt::Key_Up);
+    EXPECT_EQ(manager().list.selected(), 2);
+    manager().position.set_value(0);
+    QTest::keyClick(&field, Qt::Key_Return);
+    EXPECT_EQ(manager().list.selected(), 0);
+}
+
+TEST_F(HistoryManagerTest, FindsRows) {
+    EXPECT_EQ(after(CommandHistoryFindNext), Outcome("Nothing to search for", 0, std::nullopt));
+    manager().find_text.set_text("ak");
+    EXPECT_EQ(after(CommandHistoryFind), Outcome("List is empty", 0, std::nullopt));
+    manager().list.set_rows({"ls", "make", "AK", "make all"});
+    EXPECT_EQ(after(CommandHistoryFindNext), Outcome("Use find first", 0, std::nullopt));
+    EXPECT_EQ(after(CommandHistoryFind), Outcome("", 1, 1));
+    EXPECT_EQ(after(CommandHistoryFindNext), Outcome("", 3, 3));
+    EXPECT_EQ(after(CommandHistoryFindNext), Outcome("Text not found", 3, 3));
+    EXPECT_EQ(after(CommandHistoryFindText), Outcome("", 1, 1));
+    manager().list.set_rows({"make"});
+    EXPECT_EQ(after(CommandHistoryFindNext), Outcome("Use find first", 1, std::nullopt));
+    manager().find_text.set_text("make it");
+    EXPECT_EQ(after(CommandHistoryFind), Outcome("Text not found", 1, std::nullopt));
+}
+
+TEST_F(HistoryManagerTest, SortsByBytesWhatIsNotTooMuch) {
+    manager().list.set_rows({"one"});
+    EXPECT_EQ(std::get<0>(after(CommandHistorySort)), "Nothing to sort");
+    manager().list.set_rows({"b", "\xC3\xA9", "B", "a", "a"});
+    EXPECT_EQ(std::get<0>(after(CommandHistorySort)), "");
+    EXPECT_EQ(manager().list.all_rows(), (Rows{"B", "a", "a", "b", "\xC3\xA9"}));
+    Rows rows;
+    for (int i = 10'000 + 8196; i > 10'000; --i) {
+        rows.push_back(std::to_string(i));
+    }
+    manager().list.set_rows(rows);
+    EXPECT_EQ(std::get<0>(after(CommandHistorySort)), "Too many commands to sort");
+    EXPECT_EQ(manager().list.all_rows(), rows);
+    rows.pop_back();
+    manager().list.set_rows(rows);
+    EXPECT_EQ(std::get<0>(after(CommandHistorySort)), "");
+    std::ranges::reverse(rows);
+    EXPECT_EQ(manager().list.all_rows(), rows);
+}
+
+TEST_F(HistoryManagerTest, SavesAndUpdates) {
+    manager().list.set_rows({"make"});
+    EXPECT_EQ(std::get<0>(after(CommandHistorySaveButton)), "");
+    EXPECT_EQ(read_file(file()), header + "make\n");
+    EXPECT_EQ(command_history_setup().history_file_loaded.text(), file());
+    command_history_setup().insert_duplicates.set_value(1);
+    CommandHistorySetupInsertDup();
+    EXPECT_EQ(after(UpdateCommandHistory), Outcome("", 1, std::nullopt));
+    EXPECT_EQ(manager().list.all_rows(), Rows{"make"});
+    home.write(".orvik-history", "make\n");
+    EXPECT_EQ(std::get<0>(after(UpdateCommandHistory)), "Not a valid history file");
+    std::filesystem::remove(file());
+    EXPECT_EQ(std::get<0>(after(UpdateCommandHistory)), "History file not found");
+    std::filesystem::create_directory(file());
+    EXPECT_EQ(std::get<0>(after(CommandHistorySaveButton)), "Can't save history file");
+}
+
+TEST_F(HistoryManagerTest, EditOpensTheSavedFileInTheUsersEditor) {
+    const std::string editor = home.write_script("editor", "#!/bin/sh\nprintf %s \"$2\" >\"$1\"\n");
+    home_dir = home / "it's $(id)";
+    const std::string path = home_dir + "/.orvik-history";
+    manager().list.set_rows({"make"});
+    text_editor_setup().user_editor.set_text("");
+    EXPECT_EQ(std::get<0>(after(EditCommandHistory)), "User editor not specified");
+    text_editor_setup().user_editor.set_text(editor + " " + (home / "opened").string());
+    EXPECT_EQ(std::get<0>(after(EditCommandHistory)), "Can't save history file");
+    std::filesystem::create_directory(home_dir);
+    clear_window(message_board().text);
+    EXPECT_EQ(std::get<0>(after(EditCommandHistory)), "");
+    EXPECT_EQ(command_history_setup().history_file_loaded.text(), path);
+    EXPECT_EQ(read_file(path), header + "make\n");
+    EXPECT_TRUE(wait([&] { return read_file(home / "opened") == path; })) << read_file(home / "opened");
+    EXPECT_EQ(message_board().text.text(), editor + " " + (home / "opened").string() + " '" +
+                                               (home / "it'\\''s $(id)").string() + "/.orvik-history' &\n");
+}
+
+}  // namespace
