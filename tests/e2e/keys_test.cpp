@@ -21,7 +21,7 @@ std::string setup_text(const std::map<int, std::string>& values) {
 class Keys : public OrvikTest {
   protected:
     /// Starts bash with settings of the setup file beside those that filing commands needs.
-    void start_bash(std::map<int, std::string> settings = {}, const std::string& prompt = "ready> ") {
+    void start_bash(std::map<int, std::string> settings = {}) {
         settings.merge(std::map<int, std::string>{{editing_line, "1"},
                                                   {35, "3"},
                                                   {37, "20"},
@@ -32,16 +32,13 @@ class Keys : public OrvikTest {
                                                   {56, ">"}});
         home_.write("Orvik.setup", setup_text(settings));
         start_with_shell("/bin/bash");
-        if (prompt != "ready> ") {
-            run("PS1='" + prompt + "'; clear");
-        }
+        expect_prompt("ready> ");
     }
-    /// Types a command and waits until the shell is at its prompt again.
-    void run(const std::string& command) {
-        static int marks = 0;
-        const std::string mark = "mark" + std::to_string(++marks);
-        type(command + "; echo " + mark.substr(0, 4) + "''" + mark.substr(4) + "\n");
-        ASSERT_TRUE(wait_until([&] { return terminal_shows(mark); })) << terminal_.text();
+    /// Waits until the terminal's text ends so. What is typed ahead of a prompt is drawn in its place.
+    void expect_prompt(const std::string& end) {
+        constexpr int screenful = 8000;
+        ASSERT_TRUE(wait_until([&] { return terminal_.last_text(screenful).ends_with(end); }))
+            << terminal_.text();
     }
     [[nodiscard]] std::string history() const { return read_file(home_ / ".orvik-history"); }
     [[nodiscard]] std::string command_field() const { return field(main_, "Command:"); }
@@ -77,20 +74,29 @@ TEST_F(Keys, ReturnFilesWhatTheRuleSays) {
 
 // The line is what the shell shows, however it came about.
 TEST_F(Keys, ReturnFilesTheWholeEditedLine) {
-    setup_.environment["LC_ALL"] = "C.UTF-8";  // else bash miscounts its own prompt's columns
-    start_bash({}, "\xE2\x9E\x9C \xE6\xBC\xA2 > ");
+    setup_.environment["LC_ALL"] = "C.UTF-8";
+    home_.write("prompt", "PS1='\xE2\x9E\x9C \xE6\xBC\xA2> '; clear\n");
+    start_bash();
+    const std::string prompt = "\xE2\x9E\x9C \xE6\xBC\xA2> ";
+    const std::string wraps = "echo " + std::string(90, 'w') + " >x; pwd";
+    type(". ./prompt\n");
+    expect_prompt(prompt);
     type("echo ac");
     display().press_key("Left");
     type("b\n");
-    ASSERT_TRUE(wait_until([this] { return terminal_shows("\nabc"); })) << terminal_.text();
-    type("echo " + std::string(70, 'w') + "\n");
-    display().press_key("Up");
+    expect_prompt("\nabc\n" + prompt);
     display().press_key("Up");
     type("de\n");
-    ASSERT_TRUE(wait_until([this] { return terminal_shows("\nabcde"); })) << terminal_.text();
-    const std::string rows = history();
-    EXPECT_NE(rows.find("\necho abc\necho " + std::string(70, 'w') + "\necho abcde\n"), std::string::npos)
-        << rows;
+    expect_prompt("\nabcde\n" + prompt);
+    type(wraps);
+    for (int i = 0; i < 8; ++i) {
+        display().press_key("Left");
+    }
+    type("\n");
+    expect_prompt("\n" + home_.path().string() + "\n" + prompt);
+    expect_history(". ./prompt\necho abc\necho abcde\n");
+    EXPECT_EQ(awaited([this] { return field(open_window("Default Settings"), "Last Command:"); }, wraps),
+              wraps);
 }
 
 TEST_F(Keys, ArrowsWalkTheHistoryWithoutCommandLineEditing) {
@@ -164,6 +170,7 @@ TEST_F(Keys, FunctionKeysActOnTheSelection) {
         ASSERT_EQ(
             std::system(("xclip -selection primary -i '" + (home_ / "selection").string() + "'").c_str()), 0);
     };
+    select("");
     display().press_key("F1");
     expect_footer("No selection made");
     select("echo selected\nsecond line\n");
@@ -192,8 +199,9 @@ TEST_F(Keys, FunctionKeysActOnTheSelection) {
 
 TEST_F(Keys, BelongToAFullScreenProgram) {
     start_bash({{editing_line, "0"}});
-    type("printf '\\033[?1049h'; cat -v\n");
-    ASSERT_TRUE(wait_until([this] { return !terminal_shows("cat -v"); })) << terminal_.text();
+    type("printf '\\033[?1049hfull screen\\n'; cat -v\n");
+    ASSERT_TRUE(wait_until([this] { return terminal_shows("full screen") && !terminal_shows("printf"); }))
+        << terminal_.text();
     for (const char* key : {"Up", "F1", "F7", "Insert"}) {
         display().press_key(key);
     }

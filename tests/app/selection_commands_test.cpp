@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: MIT
+#include "app/selection_commands.h"
+
+#include "app/notify.h"
+#include "tests/app/recorded_windows.h"
+#include "ui/notebook.h"
+#include "ui/text_editor_setup.h"
+
+namespace {
+
+class SelectionCommands : public RecordedWindows {};
+
+const std::string for_keys = "No selection made";
+const std::string for_buttons = "No selection made or selection too long";
+const std::string list = "ls -aF\n";
+
+struct Case {
+    const char* name;
+    void (*action)();
+    std::string selection;
+    std::string typed;
+    std::string footer = "";
+};
+
+const Case cases[] = {
+    {"directory up", Directory_up_button, "", "cd ..\n" + list},
+    {"directory down", Directory_down_button, "a b\nc", "cd \"a b\"\n" + list},
+    {"directory down, a name to quote", Directory_down_button, "$(id)", "cd '$(id)'\n" + list},
+    {"directory down, an option", Directory_down_button, "-x", "cd ./-x\n" + list},
+    {"directory down, nothing", Directory_down_button, "", "", for_buttons},
+    {"execute", Execute_FG_button, "a b", "\"a b\"\n"},
+    {"execute, 1000 characters", Execute_FG_button, std::string(1000, 'x'), "", for_buttons},
+    {"execute, too long", Execute_FG_button, std::string(1001, 'x'), "", "Selection too long"},
+    {"execute in background", Execute_BG_button, "prog", "\"prog\" &\n"},
+    {"copy", OrvikWindowCopyButton, "ls\t-l\nrm", "ls -l"},
+    {"copy, nothing", OrvikWindowCopyButton, "\n", "", for_buttons},
+    {"copy, control characters", OrvikWindowCopyButton, "a\x1b[A", "", "Selection holds control characters"},
+    {"F1", run_selection, "ls | wc\nrm", "ls | wc\n"},
+    {"F1, nothing", run_selection, "", "", for_keys},
+    {"F1, carriage return", run_selection, "ls\rrm", "", "Selection holds control characters"},
+    {"F2", run_selection_in_background, "make", "make &\n"},
+    {"F4", go_directory_up, "x", "cd ..\n" + list},
+    {"F5", go_to_selected_directory, "/usr", "cd /usr\n" + list},
+    {"F5, a name to quote", go_to_selected_directory, "a;b", "cd 'a;b'\n" + list},
+    {"F6", type_selection, "half", "half"},
+    {"Insert", insert_selection, "half\nother", "half"},
+    {"Insert, too long", insert_selection, std::string(1001, 'x'), "", "Selection too long"},
+    {"^O", recall_by_selection, "make", "!make\n"},
+    {"^O, nothing", recall_by_selection, "", "", "No selection"},
+};
+
+TEST_F(SelectionCommands, TypeTheFirstLineOrSayWhyNot) {
+    for (const Case& row : cases) {
+        set_selection(row.selection);
+        main_window().set_left_footer("from before");
+        row.action();
+        EXPECT_EQ(typed(), row.typed) << row.name;
+        EXPECT_EQ(main_window().left_footer(), row.footer) << row.name;
+    }
+}
+
+TEST_F(SelectionCommands, ASelectedHomeDirectoryIsTypedInFull) {
+    const std::string home_before = std::getenv("HOME");
+    setenv("HOME", "/home/me", 1);
+    set_selection("~/src");
+    go_to_selected_directory();
+    setenv("HOME", home_before.c_str(), 1);
+    EXPECT_EQ(typed(), "cd /home/me/src\n" + list);
+}
+
+TEST_F(SelectionCommands, AFileIsOpenedInTheEditor) {
+    constexpr int gedit = 4;
+    text_editor_setup().text_editor.set_value(gedit);
+    set_selection("a b");
+    edit_selected_file();
+    EXPECT_EQ(typed(), "gedit a\\ b &\n");
+    set_selection("a`b");
+    edit_selected_file();
+    EXPECT_EQ(typed(), "gedit 'a`b' &\n");
+    text_editor_setup().text_editor.set_value(TextEditorSetup::user_defined);
+    text_editor_setup().user_editor.set_text("");
+    edit_selected_file();
+    EXPECT_EQ(main_window().left_footer(), "User editor not specified");
+    EXPECT_EQ(typed(), "");
+}
+
+TEST_F(SelectionCommands, TheNotebookTakesTheSelection) {
+    set_selection("first\nsecond");
+    CopyToMessageBoard();
+    CopyToMessageBoard();
+    EXPECT_EQ(notebook().text.text(), "first\n\nfirst\n\n");
+    EXPECT_EQ(typed(), "");
+}
+
+TEST_F(SelectionCommands, TheWindowTakesItsSizes) {
+    const auto size = [] { return std::pair(main_window().width(), main_window().height()); };
+    Set_wide_screen();
+    EXPECT_EQ(size(), std::pair(1130, 550));
+    Set_small_font();
+    EXPECT_EQ(size(), std::pair(1130, 840));
+    Set_normal_width();
+    EXPECT_EQ(size(), std::pair(735, 550));
+}
+
+}  // namespace
