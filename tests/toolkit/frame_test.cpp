@@ -142,7 +142,7 @@ struct TwoFields : CommandFrame {
 
 struct WithDefaultButton : TwoFields {
     WithDefaultButton() { button.set_default(); }
-    Button other{panel, "Other", nullptr};
+    Button other{panel, "Other", [] { ++other_calls; }};
     Button button{panel, "Default", [] { ++calls; }};
 };
 
