@@ -73,32 +73,40 @@ int write_all(int file, std::string_view contents) {
     return 0;
 }
 
-/// In a sticky directory that all may write to, such as /tmp, anybody can put a link in the place of a user's
-/// file. There a link holds when it is the user's own or the directory's owner's, as Linux itself has it
-/// (proc(5), protected_symlinks).
-bool is_foreign_link(const std::string& path) {
-    constexpr mode_t open_to_all = S_ISVTX | S_IWOTH;
-    const std::string place = directory_part(path);
-    struct stat link {};
-    struct stat directory {};
-    if (lstat(path.c_str(), &link) != 0 || stat(place.empty() ? "." : place.c_str(), &directory) != 0) {
-        return true;
+/// 0 for a link that may be followed, by the rule of Linux's fs.protected_symlinks, which reading a link
+/// passes by: in a sticky directory that everybody may write to, only the user's own links and those of the
+/// directory's owner lead where they should.
+int link_refusal(const std::string& path, const struct stat& link) {
+    const std::string directory = directory_part(path);
+    struct stat around {};
+    if (stat(directory.empty() ? "." : directory.c_str(), &around) != 0) {
+        return errno;
     }
-    return (directory.st_mode & open_to_all) == open_to_all && link.st_uid != geteuid() &&
-           link.st_uid != directory.st_uid;
+    constexpr mode_t shared = S_ISVTX | S_IWOTH;
+    const bool trusted =
+        (around.st_mode & shared) != shared || link.st_uid == geteuid() || link.st_uid == around.st_uid;
+    return trusted ? 0 : EACCES;
 }
 
 /// Takes a path to the end of its chain of symbolic links, whether anything stands there or not. The links
-/// are read one by one, since realpath() fails where the last one dangles.
+/// are read one by one, since realpath() fails where the last one dangles. Each is looked at before it is
+/// read: what is trusted then, nobody else can exchange.
 int follow_links(std::string& path) {
     std::array<char, PATH_MAX> target;
     for (int step = 0; step <= most_links; ++step) {
+        struct stat info {};
+        if (lstat(path.c_str(), &info) != 0) {
+            return errno == ENOENT ? 0 : errno;
+        }
+        if (!S_ISLNK(info.st_mode)) {
+            return 0;
+        }
+        if (const int error = link_refusal(path, info); error != 0) {
+            return error;
+        }
         const ssize_t size = readlink(path.c_str(), target.data(), target.size());
         if (size < 0) {
-            return errno == EINVAL || errno == ENOENT ? 0 : errno;
-        }
-        if (is_foreign_link(path)) {
-            return EACCES;
+            return errno;
         }
         const std::string_view link(target.data(), static_cast<std::size_t>(size));
         if (link.size() == target.size()) {

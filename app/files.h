@@ -47,8 +47,8 @@ struct ReplaceOptions {
 /// owner and group where the system allows it; where the group is lost, nobody gains a right by that. Access
 /// control lists and set-id bits are not carried over.
 ///
-/// Links::follow replaces what a chain of symbolic links leads to, or makes it; a loop gives ELOOP, a link
-/// that somebody else has put into a directory like /tmp EACCES. Links::replace puts the file in the place of
-/// a link at `path` itself.
+/// Links::follow replaces what a chain of symbolic links leads to, or makes it; a loop gives ELOOP. A link
+/// that somebody else has put into a sticky directory that all may write to, such as /tmp, gives EACCES.
+/// Links::replace puts the file in the place of a link at `path` itself.
 [[nodiscard]] int replace_file(const std::string& path, std::string_view contents,
                                const ReplaceOptions& options = {});

@@ -79,7 +79,7 @@ class FrameWidget : public QWidget {
 
   protected:
     void hideEvent(QHideEvent* event) override {
-        if (!event->spontaneous() && placed_ && pos() != placed_) {
+        if (!event->spontaneous() && placed_ && pos() != placed_ && frame_is_known()) {
             users_place_ = pos();
         }
         QWidget::hideEvent(event);
@@ -105,6 +105,13 @@ class FrameWidget : public QWidget {
     static bool is_field(const QWidget* control) {
         return qobject_cast<const QLineEdit*>(control) != nullptr ||
                qobject_cast<const QSpinBox*>(control) != nullptr;
+    }
+    /// Whether the place tells the window manager's frame from the window: just after the window was shown it
+    /// does not, and would be taken for one that the user has chosen.
+    [[nodiscard]] bool frame_is_known() const {
+        const QWidget* owner = parentWidget();
+        return pos() != geometry().topLeft() || owner == nullptr ||
+               owner->pos() == owner->geometry().topLeft();
     }
     void finish_field() {
         for (QPushButton* button : findChildren<QPushButton*>()) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "toolkit/help_pane.h"
 
+#include "toolkit/clear_button.h"
 #include "toolkit/text_conversion.h"
 #include "toolkit/text_size.h"
 
@@ -56,7 +57,7 @@ class HelpPaneWidget final : public QWidget {
           browser_(new Browser(this)) {
         field_->setAccessibleName(QStringLiteral("Find:"));
         field_->setPlaceholderText(QStringLiteral("Find in this text"));
-        field_->setClearButtonEnabled(true);
+        add_clear_button(*field_);
         next_->setDefault(true);
         browser_->setAccessibleName(accessible_name);
         browser_->document()->setDocumentMargin(page_margin);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "toolkit/terminal_find_bar.h"
 
+#include "toolkit/clear_button.h"
 #include "toolkit/terminal_view.h"
 #include "toolkit/text_conversion.h"
 
@@ -45,7 +46,7 @@ TerminalFindBar::TerminalFindBar(TerminalView& view, QWidget* parent)
       result_(new QLabel(this)) {
     field_->setAccessibleName(QStringLiteral("Find"));
     field_->setPlaceholderText(QStringLiteral("Find"));
-    field_->setClearButtonEnabled(true);
+    add_clear_button(*field_);
     field_->findChild<QToolButton*>()->setAccessibleName(QStringLiteral("Clear"));
     match_case_->setAccessibleName(QStringLiteral("Match case"));
     result_->setTextFormat(Qt::PlainText);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "toolkit/text_conversion.h"
 
+#include <QStringDecoder>
+
 namespace {
 
 constexpr char16_t escape_base = 0xDC00;
@@ -40,8 +42,10 @@ QString to_qstring(std::string_view text) {
     result.reserve(static_cast<qsizetype>(text.size()));
     std::size_t valid_from = 0;
     std::size_t at = 0;
+    // Not fromUtf8(), which drops a byte order mark.
+    QStringDecoder decode(QStringDecoder::Utf8, QStringDecoder::Flag::ConvertInitialBom);
     const auto take_valid = [&] {
-        result += QString::fromUtf8(text.data() + valid_from, static_cast<qsizetype>(at - valid_from));
+        result += decode(QByteArrayView(text.data() + valid_from, static_cast<qsizetype>(at - valid_from)));
     };
     while (at < text.size()) {
         const std::size_t length = sequence_length(text.substr(at));

@@ -7,6 +7,40 @@
 #include <QPlainTextEdit>
 
 #include <algorithm>
+#include <array>
+
+namespace {
+
+/// A character that Qt's documents take for a line end or for a mark of their own, and what stands for it
+/// there: a lone surrogate as those of `to_qstring`, but one that it does not use.
+struct Substitute {
+    char16_t character;
+    char16_t in_document;
+};
+
+constexpr std::array substitutes{
+    Substitute{u'\r', 0xDC0D},  Substitute{u'\u2028', 0xDC28}, Substitute{u'\u2029', 0xDC29},
+    Substitute{0xFDD0, 0xDC30}, Substitute{0xFDD1, 0xDC31},
+};
+
+QString to_document(std::string_view text) {
+    QString result = to_qstring(text);
+    for (const auto& [character, in_document] : substitutes) {
+        result.replace(QChar(character), QChar(in_document));
+    }
+    return result;
+}
+
+QChar from_document(QChar c) {
+    if (c == QChar::ParagraphSeparator || c == QChar::LineSeparator) {  // Return and Shift+Return
+        return u'\n';
+    }
+    const auto* const found =
+        std::ranges::find(substitutes, c.unicode(), [](const Substitute& pair) { return pair.in_document; });
+    return found != substitutes.end() ? QChar(found->character) : c;
+}
+
+}  // namespace
 
 TextPane::TextPane(Container& parent, std::string_view accessible_name, Access access)
     : widget_(new QPlainTextEdit(parent.widget())) {
@@ -19,9 +53,18 @@ TextPane::TextPane(Container& parent, std::string_view accessible_name, Access a
     parent.add({}, widget_, Place::line);
 }
 
-std::string TextPane::text() const { return from_qstring(widget_->toPlainText()); }
+std::string TextPane::text() const {
+    QString text = widget_->document()->toRawText();  // toPlainText() makes blanks of no-break spaces
+    for (qsizetype at = 0; at < text.size(); ++at) {
+        const bool paired = at > 0 && text[at - 1].isHighSurrogate();
+        if (!paired) {
+            text[at] = from_document(text[at]);
+        }
+    }
+    return from_qstring(text);
+}
 
-void TextPane::set_text(std::string_view text) { widget_->setPlainText(to_qstring(text)); }
+void TextPane::set_text(std::string_view text) { widget_->setPlainText(to_document(text)); }
 
 bool TextPane::modified() const { return widget_->document()->isModified(); }
 
@@ -47,7 +90,7 @@ void textsw_set_insertion_point(TextPane& pane, int position) {
 
 void textsw_insert(TextPane& pane, std::string_view text) {
     QTextCursor cursor = pane.widget()->textCursor();
-    cursor.insertText(to_qstring(text));
+    cursor.insertText(to_document(text));
     pane.widget()->setTextCursor(cursor);
 }
 

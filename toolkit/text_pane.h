@@ -16,6 +16,7 @@ class TextPane {
     enum class Access : std::uint8_t { edit, read_only };
 
     TextPane(Container& parent, std::string_view accessible_name, Access access = Access::edit);
+    /// The text, byte for byte as it was set or inserted.
     [[nodiscard]] std::string text() const;
     /// Replaces everything; the new text counts as unmodified.
     void set_text(std::string_view text);

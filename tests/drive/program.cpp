@@ -113,18 +113,24 @@ Accessible Program::main_window() const {
 
 Accessible Program::terminal() const { return main_window().find({"terminal", "terminal"}); }
 
-Accessible Program::open(XDisplay& display, std::string_view menu, std::string_view item,
-                         std::string_view title) const {
+bool Program::choose(XDisplay& display, std::string_view menu, std::string_view item) const {
     const Accessible button = main_window().find({"push button", menu});
     display.click(button.place());
     const Accessible entry = awaited(process_, [&] {
         Accessible found = button.find({"menu item", item});
         return found.showing() ? found : Accessible();
     });
-    if (!entry) {
+    if (entry) {
+        display.click(entry.place());
+    }
+    return static_cast<bool>(entry);
+}
+
+Accessible Program::open(XDisplay& display, std::string_view menu, std::string_view item,
+                         std::string_view title) const {
+    if (!choose(display, menu, item)) {
         return {};
     }
-    display.click(entry.place());
     const Accessible opened = window(title);
     (void)wait_until([&] { return opened.active() || !opened.showing(); });  // keys go to it from now on
     return opened;

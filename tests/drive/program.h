@@ -48,7 +48,9 @@ class Program {
     [[nodiscard]] Accessible main_window() const;
     [[nodiscard]] Accessible terminal() const;
 
-    /// Opens a window from a menu of the main window, as the pointer does.
+    /// Chooses an item of a menu of the main window, as the pointer does; whether the menu has it.
+    [[nodiscard]] bool choose(XDisplay& display, std::string_view menu, std::string_view item) const;
+    /// Opens a window from a menu.
     [[nodiscard]] Accessible open(XDisplay& display, std::string_view menu, std::string_view item,
                                   std::string_view title) const;
     /// Gives the terminal pane the keyboard, with a click where it has not got it.

@@ -10,14 +10,6 @@ namespace {
 constexpr int editing_line = 15;
 constexpr int long_command_window_line = 79;
 
-std::string setup_text(const std::map<int, std::string>& values) {
-    std::string text = "$ORVIK_SETUP\n";
-    for (int line = 2; line <= 90; ++line) {
-        text += (values.contains(line) ? values.at(line) : "") + '\n';
-    }
-    return text;
-}
-
 class Keys : public OrvikTest {
   protected:
     /// Starts bash with settings of the setup file beside those that filing commands needs.

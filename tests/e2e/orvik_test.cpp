@@ -5,23 +5,36 @@
 
 namespace {
 
-/// From which menu a window is opened, and by which item.
-struct MenuEntry {
-    std::string_view title;
-    std::string_view menu;
-    std::string_view item;
-};
-
-constexpr std::array menu_entries{
-    MenuEntry{"Default Settings", "Setup", "Default Settings"},
-    MenuEntry{"Environment Setup Window", "Setup", "Environment"},
-    MenuEntry{"Define Label", "Setup", "Label"},
-    MenuEntry{"Process Information", "Setup", "Process"},
-    MenuEntry{"Status Display", "Setup", "Status Display"},
-    MenuEntry{"Message Board", "Browse", "Message Board"},
+constexpr std::array entries{
+    MenuEntry{"Help", "To Get Started", "Help"},
+    MenuEntry{"Help", "About", "About"},
+    MenuEntry{"Help", "User Guide", "Help"},
+    MenuEntry{"Help", "Buttons", "Help"},
+    MenuEntry{"Setup", "Save Setup", ""},
+    MenuEntry{"Setup", "Bookmarks", "Bookmarks"},
+    MenuEntry{"Setup", "ClearCase", "ClearCase Setup"},
+    MenuEntry{"Setup", "Command List", "Command List Setup"},
+    MenuEntry{"Setup", "Command History", "Command History Setup"},
+    MenuEntry{"Setup", "Default Settings", "Default Settings"},
+    MenuEntry{"Setup", "Environment", "Environment Setup Window"},
+    MenuEntry{"Setup", "Label", "Define Label"},
+    MenuEntry{"Setup", "Process", "Process Information"},
+    MenuEntry{"Setup", "Remote Hosts", "Remote Hosts"},
+    MenuEntry{"Setup", "Status Display", "Status Display"},
+    MenuEntry{"Setup", "Text Editor", "Text Editor Setup"},
+    MenuEntry{"Setup", "User Buttons", "User Buttons"},
+    MenuEntry{"Browse", "File Tree", "File Tree Browser"},
+    MenuEntry{"Browse", "File Tree Full Size", "File Tree Browser"},
+    MenuEntry{"Browse", "File List", "File List Browser"},
+    MenuEntry{"Browse", "Command History", "Command History Manager"},
+    MenuEntry{"Browse", "Message Board", "Message Board"},
+    MenuEntry{"Browse", "Notebook", "Notebook"},
+    MenuEntry{"Edit", "Setup", "Edit Menu Setup"},
 };
 
 }  // namespace
+
+std::span<const MenuEntry> menu_entries() { return entries; }
 
 std::string sanitizer_report(const std::string& output) {
     for (const char* const sign : {"ERROR: AddressSanitizer", "ERROR: LeakSanitizer", "runtime error:"}) {
@@ -30,6 +43,14 @@ std::string sanitizer_report(const std::string& output) {
         }
     }
     return {};
+}
+
+std::string setup_text(const std::map<int, std::string>& values) {
+    std::string text = "$ORVIK_SETUP\n";
+    for (int line = 2; line <= last_setup_line; ++line) {
+        text += (values.contains(line) ? values.at(line) : "") + '\n';
+    }
+    return text;
 }
 
 XDisplay& OrvikTest::display() {
@@ -83,7 +104,7 @@ bool OrvikTest::terminal_shows(std::string_view text) const {
 }
 
 Accessible OrvikTest::open_window(std::string_view title) const {
-    for (const MenuEntry& entry : menu_entries) {
+    for (const MenuEntry& entry : entries) {
         if (entry.title == title) {
             return program_->open(display(), entry.menu, entry.item, title);
         }
@@ -97,7 +118,15 @@ std::string OrvikTest::field(const Accessible& window, std::string_view label) {
     return (text ? text : window.find({"spin button", label})).text();
 }
 
-std::string OrvikTest::right_footer() const { return main_.find({"label", "", "right footer"}).name(); }
+std::string OrvikTest::footer(const Accessible& window, std::string_view description) {
+    return window.find({"label", "", description}).name();
+}
+
+bool OrvikTest::focus(const Accessible& window, std::string_view label) {
+    const Accessible field = window.find({"text", label});
+    display().click(field.place());
+    return wait_until([&] { return field.focused(); });
+}
 
 std::string OrvikTest::status_path(int number) const {
     return home_ / (".orvik-status" + std::to_string(number));

@@ -6,6 +6,7 @@
 #include "tests/support/wait_until.h"
 
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -21,6 +22,16 @@ auto awaited(Question question, const Answer& expected) {
     });
     return answer;
 }
+
+/// An item of the main window's menus.
+struct MenuEntry {
+    std::string_view menu;
+    std::string_view item;
+    std::string_view title;  ///< of the window that it opens; empty where it opens none
+};
+
+/// All of them, in the order of the menus.
+[[nodiscard]] std::span<const MenuEntry> menu_entries();
 
 /// The program in a scratch home, and hands on it. At the end it is asked to stop: it must do so with status
 /// 0 and without a sanitizer's report.
@@ -43,13 +54,16 @@ class OrvikTest : public testing::Test {
     void type(std::string_view text);
     [[nodiscard]] bool terminal_shows(std::string_view text) const;
 
-    /// Opens the window of that title from its menu.
+    /// Opens the window of that title from the first menu item that does.
     [[nodiscard]] Accessible open_window(std::string_view title) const;
     /// The text of a field of an open window.
     [[nodiscard]] static std::string field(const Accessible& window, std::string_view label);
     [[nodiscard]] std::string cwd() const { return field(main_, "Cwd:"); }
-    [[nodiscard]] std::string right_footer() const;
-    /// What the right footer shows for these values of host, user and process.
+    [[nodiscard]] std::string right_footer() const { return footer(main_, "right footer"); }
+    /// The text of one of a window's footers.
+    [[nodiscard]] static std::string footer(const Accessible& window, std::string_view description);
+    /// Clicks on a field or a text pane of an open window and waits until it has the keyboard.
+    [[nodiscard]] static bool focus(const Accessible& window, std::string_view label);
     [[nodiscard]] std::string own_pid() const { return std::to_string(program_->process().pid()); }
     [[nodiscard]] std::string status_path(int number = 0) const;
     /// The main window as the window manager knows it.
@@ -61,6 +75,11 @@ class OrvikTest : public testing::Test {
     Accessible main_;
     Accessible terminal_;
 };
+
+inline constexpr int last_setup_line = 90;
+
+/// A setup file with these values on its lines; the others are empty, which is 0 for a number.
+[[nodiscard]] std::string setup_text(const std::map<int, std::string>& values);
 
 /// What a sanitizer has reported in a program's output; empty when nothing.
 [[nodiscard]] std::string sanitizer_report(const std::string& output);

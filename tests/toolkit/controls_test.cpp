@@ -4,6 +4,7 @@
 #include "toolkit/fields.h"
 #include "toolkit/frame.h"
 #include "toolkit/menu_button.h"
+#include "toolkit/message_item.h"
 #include "toolkit/selection.h"
 #include "toolkit/text_pane.h"
 
@@ -11,6 +12,7 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QClipboard>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPlainTextEdit>
@@ -33,6 +35,10 @@ struct Sample : CommandFrame {
     NumberField number{panel, "Number:", 5};
     Choice choice{panel, "Choice", {"One", "Two", "Three"}, note};
     CheckBoxes boxes{panel, "Boxes", {"A", "B", "C"}, note};
+    CheckBox single{panel, "Single"};
+    TextField second{panel, {"Text:", "Text: (second)"}};
+    CheckBox other{panel, {"Single", "Single (other)"}};
+    MessageItem message{panel, "Message", "Size: 1"};
     Row row{panel};
     Button button{row, "Push & go", note};
     MenuButton menu{row, "Menu", Menu("Title", items)};
@@ -63,11 +69,19 @@ class Controls : public testing::Test {
 
 TEST_F(Controls, HaveNamesAndRolesForAssistivePrograms) {
     const std::pair<const char*, QAccessible::Role> expected[] = {
-        {"Text:", QAccessible::EditableText},       {"Number:", QAccessible::SpinBox},
-        {"Choice", QAccessible::Grouping},          {"One", QAccessible::RadioButton},
-        {"Boxes", QAccessible::Grouping},           {"A", QAccessible::CheckBox},
-        {"Push & go", QAccessible::Button},         {"Menu", QAccessible::ButtonMenu},
+        {"Text:", QAccessible::EditableText},
+        {"Number:", QAccessible::SpinBox},
+        {"Choice", QAccessible::Grouping},
+        {"One", QAccessible::RadioButton},
+        {"Boxes", QAccessible::Grouping},
+        {"A", QAccessible::CheckBox},
+        {"Push & go", QAccessible::Button},
+        {"Menu", QAccessible::ButtonMenu},
         {"Sample text", QAccessible::EditableText},
+        {"Single", QAccessible::CheckBox},
+        {"Text: (second)", QAccessible::EditableText},
+        {"Single (other)", QAccessible::CheckBox},
+        {"Size: 1", QAccessible::StaticText},
     };
     for (const auto& [name, role] : expected) {
         QWidget* widget = find<QWidget>(name);
@@ -95,8 +109,12 @@ TEST_F(Controls, ANumberIsSetAndRead) {
 TEST_F(Controls, AChoiceHasOneValueAndNotifiesItsUserOnly) {
     EXPECT_EQ(sample.choice.value(), 0);
     sample.choice.set_value(2);
-    sample.choice.set_value(3);
     EXPECT_EQ(sample.choice.value(), 2);
+    for (const int without_item : {3, -1, 2147483647, -2147483647}) {
+        sample.choice.set_value(1);
+        sample.choice.set_value(without_item);
+        EXPECT_EQ(sample.choice.value(), 0) << without_item;
+    }
     EXPECT_EQ(notified, 0);
     find<QAbstractButton>("Two")->click();
     find<QAbstractButton>("Two")->click();
@@ -113,6 +131,27 @@ TEST_F(Controls, CheckBoxesAreBits) {
     find<QAbstractButton>("B")->click();
     EXPECT_EQ(sample.boxes.value(), 7U);
     EXPECT_EQ(notified, 1);
+}
+
+TEST_F(Controls, ASingleCheckBoxIsInNoGroup) {
+    auto* box = find<QAbstractButton>("Single");
+    EXPECT_EQ(box->text(), "Single");
+    EXPECT_EQ(find<QAbstractButton>("Single (other)")->text(), "Single");
+    EXPECT_NE(QAccessible::queryAccessibleInterface(box->parentWidget())->role(), QAccessible::Grouping);
+    EXPECT_FALSE(sample.single.value());
+    box->click();
+    EXPECT_TRUE(sample.single.value());
+    EXPECT_FALSE(sample.other.value());
+    sample.single.set_value(false);
+    EXPECT_FALSE(box->isChecked());
+}
+
+TEST_F(Controls, AMessageIsNamedByItsTextAndDescribedByItsLabel) {
+    sample.message.set_text("Size: 2 &");
+    const auto* line = find<QLabel>("Size: 2 &");
+    ASSERT_NE(line, nullptr);
+    EXPECT_EQ(line->text(), "Size: 2 &");
+    EXPECT_EQ(line->accessibleDescription(), "Message");
 }
 
 TEST_F(Controls, AMenuShowsItsTitleAndCallsItsItems) {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "toolkit/frame.h"
 
+#include "toolkit/buttons.h"
+#include "toolkit/fields.h"
 #include "toolkit/notice.h"
 #include "toolkit/timer.h"
 
@@ -8,13 +10,18 @@
 #include <QApplication>
 #include <QGuiApplication>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScreen>
 #include <QTest>
 #include <QTimer>
 
+#include <array>
+#include <memory>
+
 #include <gtest/gtest.h>
+#include <xcb/xcb.h>
 
 namespace {
 
@@ -75,6 +82,47 @@ TEST_F(FrameTest, PopupOpensBesideTheMainWindow) {
         << popup.widget()->pos().x() << " " << popup.widget()->pos().y();
 }
 
+/// Moves a window as its user does: past the toolkit, by a request to the window manager.
+void move_by_window_manager(const Frame& frame, QPoint to) {
+    xcb_connection_t* server = qGuiApp->nativeInterface<QNativeInterface::QX11Application>()->connection();
+    const std::array place{static_cast<std::uint32_t>(to.x()), static_cast<std::uint32_t>(to.y())};
+    xcb_configure_window(server, static_cast<xcb_window_t>(frame.widget()->winId()),
+                         XCB_CONFIG_WINDOW_X | XCB_CONFIG_WINDOW_Y, place.data());
+    xcb_flush(server);
+}
+
+TEST_F(FrameTest, PopupComesBackWhereItsUserPutIt) {
+    CommandFrame popup("Popup");
+    const auto is_at = [&](QPoint place) {
+        return wait([&] { return popup.shown() && popup.widget()->pos() == place; });
+    };
+    const auto close = [&] { QTest::keyClick(popup.widget(), Qt::Key_Escape); };
+    const QPoint offset(740, 100);
+    // One that stands where it was put follows the main window.
+    for (const QPoint base_place : {QPoint(50, 60), QPoint(120, 90)}) {
+        base.widget()->move(base_place);
+        ASSERT_TRUE(wait([&] { return base.widget()->pos() == base_place; }));
+        popup.open();
+        ASSERT_TRUE(is_at(base_place + offset));
+        ASSERT_TRUE(wait([&] { return popup.widget()->frameGeometry() != popup.widget()->geometry(); }));
+        close();
+    }
+    popup.open();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(popup.widget()));
+    const QPoint inner_place(333, 444);  // the window without the window manager's frame
+    move_by_window_manager(popup, inner_place);
+    ASSERT_TRUE(wait([&] { return popup.widget()->geometry().topLeft() == inner_place; }));
+    const QPoint users_place = popup.widget()->pos();
+    for (int round = 0; round < 3; ++round) {
+        close();
+        ASSERT_FALSE(popup.shown());
+        base.widget()->move(10 + 20 * round, 30);
+        popup.open();
+        EXPECT_TRUE(is_at(users_place)) << round << ": " << popup.widget()->x() << " " << popup.widget()->y();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(popup.widget()));
+    }
+}
+
 TEST_F(FrameTest, PopupIsMovedBackOnTheScreen) {
     const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
     base.widget()->move(screen.right() - 420, screen.bottom() - 250);
@@ -83,6 +131,67 @@ TEST_F(FrameTest, PopupIsMovedBackOnTheScreen) {
     popup.open();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(popup.widget()));
     EXPECT_TRUE(wait([&] { return screen.contains(popup.widget()->frameGeometry()); }));
+}
+
+/// A pop-up with two fields; the second one acts on Return itself.
+struct TwoFields : CommandFrame {
+    TwoFields() : CommandFrame("Fields") {}
+    TextField plain{panel, "Plain:"};
+    TextField acting{panel, "Acting:", [] { ++other_calls; }};
+};
+
+struct WithDefaultButton : TwoFields {
+    WithDefaultButton() { button.set_default(); }
+    Button other{panel, "Other", [] { ++other_calls; }};
+    Button button{panel, "Default", [] { ++calls; }};
+};
+
+TEST_F(FrameTest, TheFirstControlHasTheKeyboard) {
+    TwoFields popup;
+    popup.open();
+    ASSERT_TRUE(wait([&] { return QApplication::activeWindow() == popup.widget(); }));
+    ASSERT_NE(QApplication::focusWidget(), nullptr);
+    EXPECT_EQ(QApplication::focusWidget()->accessibleName(), "Plain:");
+}
+
+TEST_F(FrameTest, ReturnPressesTheDefaultButtonElseGoesOn) {
+    struct Case {
+        const char* name;
+        bool default_button;
+        int presses;  ///< of Return, beginning in the first field
+        int default_calls;
+        int field_calls;
+        const char* focus;
+    };
+    constexpr Case cases[] = {
+        {"goes to the next control", false, 1, 0, 0, "Acting:"},
+        {"is the field's own", false, 3, 0, 2, "Acting:"},
+        {"presses the default button", true, 2, 2, 0, "Plain:"},
+    };
+    for (const Case& row : cases) {
+        SCOPED_TRACE(row.name);
+        calls = other_calls = 0;
+        std::unique_ptr<TwoFields> popup;
+        if (row.default_button) {
+            popup = std::make_unique<WithDefaultButton>();
+        } else {
+            popup = std::make_unique<TwoFields>();
+        }
+        popup->open();
+        for (int i = 0; i < row.presses; ++i) {
+            QTest::keyClick(popup->widget()->focusWidget(), Qt::Key_Return);
+        }
+        EXPECT_EQ(calls, row.default_calls);
+        EXPECT_EQ(other_calls, row.field_calls);
+        EXPECT_EQ(popup->widget()->focusWidget()->accessibleName(), row.focus);
+    }
+    // Beside a default button too, a field's own procedure is all that is called.
+    calls = other_calls = 0;
+    WithDefaultButton popup;
+    popup.open();
+    QTest::keyClick(popup.widget()->findChildren<QLineEdit*>()[1], Qt::Key_Enter);
+    EXPECT_EQ(calls, 0);
+    EXPECT_EQ(other_calls, 1);
 }
 
 TEST_F(FrameTest, EscapeClosesAPopupButNotTheMainWindow) {

@@ -16,6 +16,7 @@ TEST(TextConversion, GivesEveryByteBack) {
         "caf\xC3\xA9 \xE4\xBD\xA0 \xF0\x9F\x98\x80",
         "\xFF\xFE",
         "cut \xE4\xBD",
+        "\xEF\xBB\xBF\xFF\xEF\xBB\xBF byte order marks",
         "\xC0\xAF overlong",
         "\xED\xB2\x80 surrogate",
         "\xF4\x90\x80\x80 too high",

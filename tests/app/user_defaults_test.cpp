@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: MIT
+#include "app/user_defaults.h"
+
+#include "app/print.h"
+
+#include <tuple>
+#include <utility>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+TEST(UserDefaults, PreferAnEditorWithAWindowOfItsOwn) {
+    const std::tuple<const char*, const char*, const char*> cases[] = {
+        {"", "", "xdg-open"},
+        {"vi", "nano -w", "xdg-open"},
+        {"gvim -f", "kate", "gvim -f"},
+        {"vi", "/usr/bin/gedit", "/usr/bin/gedit"},
+        {"/opt/gedit/vi", "gedit2", "xdg-open"},
+        {"emacs -nw", "emacs -f x", "emacs -f x"},
+        {"emacs -t", "xemacs --no-window-system", "xdg-open"},
+        {"emacs --tty=/dev/tty", "emacs -title x", "emacs -title x"},
+    };
+    for (const auto& [visual, editor, expected] : cases) {
+        EXPECT_EQ(windowed_editor(visual, editor), expected) << visual << ", " << editor;
+    }
+}
+
+TEST(UserDefaults, KnowWhatThePromptOfAShellEndsIn) {
+    const std::pair<const char*, const char*> cases[] = {
+        {"/bin/bash", "$"}, {"ksh", "$"}, {"/bin/csh", "%"}, {"/usr/bin/tcsh", ">"}, {"zsh", "%"}, {"", "$"},
+    };
+    for (const auto& [shell, expected] : cases) {
+        EXPECT_EQ(usual_prompt_delimiter(shell, false), expected) << shell;
+        EXPECT_EQ(usual_prompt_delimiter(shell, true), "#") << shell;
+    }
+}
+
+TEST(Print, PutsPathAndNameIntoTheUsersCommandOnceEach) {
+    const std::pair<const char*, const char*> cases[] = {
+        {"", "mp -s notebook.txt /tmp/notebook.txt | lp -c"},
+        {"lp $PATH_NAME", "lp /tmp/notebook.txt"},
+        {"lp -t $FILE_NAME $PATH_NAME", "lp -t notebook.txt /tmp/notebook.txt"},
+        {"$PATH_NAME $PATH_NAME $FILE_NAME $FILE_NAME",
+         "/tmp/notebook.txt $PATH_NAME notebook.txt $FILE_NAME"},
+        {"lp", "lp"},
+    };
+    for (const auto& [command, expected] : cases) {
+        EXPECT_EQ(print_command(command, "/tmp/notebook.txt"), expected) << command;
+    }
+}
+
+}  // namespace

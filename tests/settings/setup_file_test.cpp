@@ -1,0 +1,401 @@
+// SPDX-License-Identifier: MIT
+#include "settings/setup_file.h"
+
+#include "app/process.h"
+#include "settings/notify.h"
+#include "settings/setup_table.h"
+#include "tests/support/scratch_directory.h"
+#include "toolkit/text_conversion.h"
+#include "ui/environment_setup.h"
+#include "ui/file_list_browser.h"
+#include "ui/main_window.h"
+#include "ui/message_board.h"
+#include "ui/windows.h"
+
+#include <QAccessible>
+#include <QWidget>
+
+#include <algorithm>
+#include <functional>
+#include <optional>
+#include <set>
+#include <vector>
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+namespace {
+
+using namespace std::string_literals;
+namespace fs = std::filesystem;
+
+const std::string header = "$ORVIK_SETUP\n";
+
+/// A line of the file, the control it belongs to, and another value than the built-in one.
+struct Row {
+    std::size_t line;
+    const char* window;
+    const char* control;                  ///< its accessible name
+    std::optional<std::string> value{};   ///< in the file; without one, a text of its own
+    std::optional<std::string> choice{};  ///< the items that are then checked
+
+    [[nodiscard]] std::string written() const {
+        return value.value_or("text of line " + std::to_string(line));
+    }
+    [[nodiscard]] std::string shown() const { return choice.value_or(written()); }
+};
+
+// clang-format off
+const std::vector<Row> rows{
+    {2, "Environment Setup Window", "Working Directory 1:"},
+    {3, "Environment Setup Window", "Working Directory 2:", "  two  blanks "},
+    {4, "Environment Setup Window", "Working Directory 3:"},
+    {5, "Environment Setup Window", "Working Directory 4:", "/\xC3\xBC\xE2\x80\xA6/\xF0\x9F\x98\x80"},
+    {6, "Environment Setup Window", "Environment Setup File:", "\t$HOME/a\xFF\x80.sh"},
+    {7, "File Tree Browser", "Root Directory:"},
+    {8, "Default Settings", "Print Command:", "100"},
+    {9, "Default Settings", "List Directory Command:", ""},
+    {10, "Text Editor Setup", "X coordinate:", "-2147483648"},
+    {11, "Text Editor Setup", "Y coordinate:", "7011"},
+    {12, "Text Editor Setup", "Width: (pixels)", "7012"},
+    {13, "Text Editor Setup", "Height: (pixels)", "7013"},
+    {14, "Text Editor Setup", "Font Size:", "3", "Extra large"},
+    {15, "Default Settings", "Command Line Editing", "1", "Enabled"},
+    {16, "Define Label", "Label:"},
+    {18, "Edit Menu Setup", "Hide", "2", "Directories"},
+    {19, "User Buttons", "Label1:"},
+    {20, "User Buttons", "Label2:"},
+    {21, "User Buttons", "Label3:"},
+    {22, "User Buttons", "Label4:"},
+    {23, "User Buttons", "Label5:"},
+    {24, "User Buttons", "Label6:"},
+    {25, "User Buttons", "Command1:"},
+    {26, "User Buttons", "Command2:"},
+    {27, "User Buttons", "Command3:"},
+    {28, "User Buttons", "Command4:"},
+    {29, "User Buttons", "Command5:"},
+    {30, "User Buttons", "Command6:"},
+    {31, "User Buttons", "Button Window", "0", "Hide"},
+    {32, "Command List Setup", "Commands Directory:"},
+    {33, "Command List Setup", "Follow Window Size", "0", "No"},
+    {34, "Command List Setup", "Window Width:", "7034"},
+    {35, "Command History Setup", "Store commands longer than", "7035"},
+    {36, "Command History Setup", "Insert Duplicates", "1", "Yes"},
+    {37, "Command History Setup", "Number of entries", "7037"},
+    {38, "Command History Setup", "Menu Action", "2", "Both"},
+    {39, "Command History Setup", "Save To History File", "1", "When Quitting Orvik"},
+    {40, "Command History Setup", "History File Stored", "1", "Start-up Directory"},
+    {41, "Text Editor Setup", "Width: (chars)", "7041"},
+    {42, "Text Editor Setup", "Height: (chars)", "7042"},
+    {43, "Function Keys", "Function Key 7 Command:"},
+    {44, "Function Keys", "Function Key 8 Command:"},
+    {45, "Function Keys", "Function Key 9 Command:"},
+    {46, "ClearCase Setup", "ClearTool Alias:"},
+    {47, "ClearCase Setup", "Config Spec Directory:"},
+    {48, "Command History Setup", "History List", "1", "Off"},
+    {49, "Status Display", "Display", "1", "Off"},
+    {50, "Status Display", "Enable", "9", "Clear Case View, User Name"},
+    {51, "Edit Menu Setup", "Update Directory", "1", "Current"},
+    {52, "Bookmarks", "Bookmark File:"},
+    {54, "File Tree Browser", "Font Size", "2", "Large"},
+    {55, "Default Settings", "Look For Ending Delimiter", "0"},
+    {56, "Default Settings", "Prompt Ending Delimiter:"},
+    {57, "Environment Setup Window", "Notebook Directory:"},
+    {58, "Notebook", "File Name:"},
+    {59, "Environment Setup Window", "Messageboard Directory:"},
+    {60, "Message Board", "File Name:"},
+    {61, "File Tree Browser", "Show Dot Files", "1"},
+    {62, "Text Editor Setup", "Text Editor", "3", "nedit"},
+    {63, "Text Editor Setup", "User Editor:"},
+    {64, "File Tree Browser", "Max Files", "2147483647"},
+    {65, "Remote Hosts", "Host 1:"},
+    {66, "Remote Hosts", "Host 2:"},
+    {67, "Remote Hosts", "Host 3:"},
+    {68, "Remote File Transfer", "Destination Directory:"},
+    {69, "Remote File Transfer", "Source File(s):"},
+    {70, "Remote File Transfer", "User Name:"},
+    {71, "Remote Hosts", "Host 4:"},
+    {72, "Remote Hosts", "Host 5:"},
+    {73, "Remote Hosts", "User ID: (host 1)"},
+    {74, "Remote Hosts", "User ID: (host 2)"},
+    {75, "Remote Hosts", "User ID: (host 3)"},
+    {76, "Remote Hosts", "User ID: (host 4)"},
+    {77, "Remote Hosts", "User ID: (host 5)"},
+    {78, "Generate File List", "File Name:"},
+    {79, "Default Settings", "Open Long Command Window", "1"},
+    {80, "Plot Setup Window", "Plot Command:"},
+    {81, "USB Memory", "Name:"},
+    {82, "Copy Files to Clearcase Vob", "Script File:"},
+    {83, "Default Settings", "Clear Command Line", "1"},
+    {84, "ClearCase Setup", "Enable Clearcase Usage", "1"},
+    {85, "Checkout from Repository", "Repository 1 URL:"},
+    {86, "Remote copy", "Remote Destination:"},
+    {87, "Remote copy", "Remote User:"},
+    {88, "Remote copy", "Remote Host:"},
+    {89, "Checkout from Repository", "Repository 2 URL:"},
+    {90, "Checkout from Repository", "Repository 3 URL:"},
+};
+// clang-format on
+
+/// The control of a window as assistive programs see it; null when there is not exactly one of that name.
+QAccessibleInterface* find_control(const char* window, const char* name) {
+    std::vector<QAccessibleInterface*> found;
+    for (const Frame* frame : all_windows()) {
+        for (QWidget* widget : frame->widget()->findChildren<QWidget*>()) {
+            if (frame->label() == window && widget->accessibleName() == name) {
+                found.push_back(QAccessible::queryAccessibleInterface(widget));
+            }
+        }
+    }
+    return found.size() == 1 ? found.front() : nullptr;
+}
+
+/// What such programs tell their user of a control: its text or number, "1" or "0" of a check box, the names
+/// of a group's checked items.
+std::string shown(QAccessibleInterface* control) {
+    if (control->role() == QAccessible::SpinBox) {
+        return std::to_string(control->valueInterface()->currentValue().toInt());
+    }
+    if (control->role() == QAccessible::CheckBox) {
+        return control->state().checked ? "1" : "0";
+    }
+    if (control->role() != QAccessible::Grouping) {
+        return from_qstring(control->text(QAccessible::Value));
+    }
+    std::string checked;
+    for (int i = 0; i < control->childCount(); ++i) {
+        if (control->child(i)->state().checked) {
+            checked +=
+                (checked.empty() ? "" : ", ") + control->child(i)->text(QAccessible::Name).toStdString();
+        }
+    }
+    return checked;
+}
+
+class SetupFile : public testing::Test {
+  protected:
+    void SetUp() override {
+        create_windows();
+        home_dir = home_ / "home";
+        startup_dir = home_ / "start";
+        fs::create_directory(home_dir);
+        fs::create_directory(startup_dir);
+    }
+    void TearDown() override { destroy_windows(); }
+
+    [[nodiscard]] std::string path() const { return home_ / "start/Orvik.setup"; }
+    [[nodiscard]] int load(const std::string& contents) const {
+        return load_setup(home_.write("start/Orvik.setup", contents));
+    }
+    /// What a file holds with the values that the controls have now, but for one line.
+    [[nodiscard]] static std::string file_with(std::size_t line, const std::string& value) {
+        std::array values = setup_values();
+        values.at(line - 2) = value;
+        return format_setup(values);
+    }
+
+    ScratchDirectory home_;
+};
+
+class SetupControls : public SetupFile {
+  protected:
+    void SetUp() override {
+        SetupFile::SetUp();
+        for (const Row& row : rows) {
+            controls_.push_back(find_control(row.window, row.control));
+            ASSERT_NE(controls_.back(), nullptr) << row.window << ' ' << row.control;
+        }
+    }
+
+    [[nodiscard]] std::vector<std::string> all_shown() const {
+        std::vector<std::string> texts;
+        std::ranges::transform(controls_, std::back_inserter(texts), shown);
+        return texts;
+    }
+
+  private:
+    std::vector<QAccessibleInterface*> controls_;
+};
+
+TEST_F(SetupControls, EachGetsTheValueOfItsOwnLine) {
+    const std::string built_in = file_with(17, "");
+    const std::vector<std::string> before = all_shown();
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        ASSERT_NE(rows[i].shown(), before[i]) << "line " << rows[i].line;
+        ASSERT_EQ(load(built_in), 1);
+        ASSERT_EQ(load(file_with(rows[i].line, rows[i].written())), 1);
+        std::vector<std::string> expected = before;
+        expected[i] = rows[i].shown();
+        EXPECT_EQ(all_shown(), expected) << "line " << rows[i].line;
+    }
+}
+
+TEST_F(SetupControls, AllComeBackFromTheFileByteForByte) {
+    std::array<std::string, setup_lines - 1> values;
+    values[53 - 2] = "0";
+    std::vector<std::string> expected;
+    for (const Row& row : rows) {
+        values.at(row.line - 2) = row.written();
+        expected.push_back(row.shown());
+    }
+    ASSERT_EQ(load(format_setup(values)), 1);
+    EXPECT_EQ(all_shown(), expected);
+    EXPECT_EQ(loaded_setup_file(), path());
+    ASSERT_EQ(save_setup(home_ / "copy"), 1);
+    EXPECT_EQ(read_file(home_ / "copy"), format_setup(values));
+}
+
+TEST_F(SetupFile, HasALineForEachControl) {
+    std::size_t line = 2;
+    std::set<const void*> controls;
+    std::size_t unused = 0;
+    for (const SetupEntry& entry : setup_table()) {
+        EXPECT_EQ(entry.line, line++);
+        if (std::holds_alternative<UnusedLine>(entry.control)) {
+            ++unused;
+            continue;
+        }
+        std::visit(
+            [&]<typename Control>(const Control& control) {
+                if constexpr (std::is_pointer_v<Control>) {
+                    EXPECT_TRUE(controls.insert(control).second) << entry.line;
+                }
+            },
+            entry.control);
+    }
+    EXPECT_EQ(controls.size(), rows.size());
+    EXPECT_EQ(unused, 2U);
+}
+
+TEST_F(SetupFile, IsNotLoadedWhereThereIsNone) {
+    const std::vector<std::pair<int, std::function<void(const std::string&)>>> cases{
+        {0, [](const std::string& /*nothing is made*/) {}},
+        {0, [](const std::string& place) { fs::create_directory(place); }},
+        {0, [](const std::string& place) { mkfifo(place.c_str(), 0600); }},
+        {-1,
+         [&](const std::string& /*path*/) { home_.write("start/Orvik.setup", "ORVIK SETUP\nchanged\n"); }},
+        {-1, [&](const std::string& /*path*/) { home_.write("start/Orvik.setup", ""); }},
+    };
+    const std::array before = setup_values();
+    for (std::size_t i = 0; i < cases.size(); ++i) {
+        fs::remove(path());
+        cases[i].second(path());
+        EXPECT_EQ(load_setup(path()), cases[i].first) << i;
+        EXPECT_EQ(setup_values(), before) << i;
+    }
+}
+
+TEST_F(SetupFile, SetsWhatItDoesNotSayToNothing) {
+    ASSERT_EQ(load(header + "only this"), 1);
+    for (const SetupEntry& entry : setup_table()) {
+        const bool is_text = std::holds_alternative<TextField*>(entry.control) || entry.line == 17;
+        EXPECT_EQ(setup_values().at(entry.line - 2), entry.line == 2 ? "only this"
+                                                     : is_text       ? ""
+                                                                     : "0")
+            << entry.line;
+    }
+}
+
+TEST_F(SetupFile, TakesTheNearestValueThatAControlCanHave) {
+    const std::vector<std::tuple<std::size_t, std::string, std::string>> cases{
+        {10, "none", "0"}, {10, "", "0"},   {10, " -7 8", "-7"}, {62, "7", "0"},
+        {62, "-1", "0"},   {62, "6x", "6"}, {50, "255", "15"},   {55, "2", "1"},
+        {55, "-1", "1"},   {17, "x", ""},   {53, "7", "0"},      {2, "a\r", "a\r"},
+    };
+    for (const auto& [line, written, kept] : cases) {
+        ASSERT_EQ(load(file_with(line, written)), 1);
+        EXPECT_EQ(setup_values().at(line - 2), kept) << line << ' ' << written;
+    }
+}
+
+TEST_F(SetupFile, IsTakenFromTheStartupDirectoryOrElseFromHome) {
+    struct Case {
+        std::optional<std::string> start;
+        std::optional<std::string> home;
+        int result;
+        std::string value;
+        std::string message;
+    };
+    const std::string invalid = "Not a valid setup file\n";
+    const std::string missing = "Setup file not found\n";
+    const std::vector<Case> cases{
+        {header + "start\n", header + "home\n", 1, "start", ""},
+        {{}, header + "home\n", 1, "home", ""},
+        {"no setup\n", header + "home\n", 1, "home", ""},
+        {{}, {}, 0, "built-in", missing},
+        {"no setup\n", {}, 0, "built-in", missing},
+        {{}, "no setup\n", -1, "built-in", invalid},
+    };
+    for (const auto& [start, home, result, value, message] : cases) {
+        for (const auto& [name, contents] :
+             {std::pair{"start/Orvik.setup", start}, {"home/Orvik.setup", home}}) {
+            fs::remove(home_ / name);
+            if (contents) {
+                home_.write(name, *contents);
+            }
+        }
+        environment_setup().working_directory_1.set_text("built-in");
+        message_board().text.set_text("");
+        EXPECT_EQ(load_setup_at_startup(), result);
+        EXPECT_EQ(environment_setup().working_directory_1.text(), value);
+        EXPECT_EQ(message_board().text.text(), message);
+    }
+}
+
+TEST_F(SetupFile, IsSavedInTheStartupDirectoryAsItsFile) {
+    const std::string file = home_.write("far/file", "old");
+    ASSERT_EQ(chmod(file.c_str(), 0640), 0);
+    fs::create_symlink(file, path());
+    Save_current_setup();
+    EXPECT_EQ(main_window().left_footer(), "Setup saved to " + path());
+    EXPECT_EQ(message_board().text.text(), "");
+    EXPECT_EQ(read_file(fs::path(file)), format_setup(setup_values()));
+    EXPECT_TRUE(fs::is_symlink(path()));
+    EXPECT_EQ(fs::status(file).permissions(), fs::perms{0640});
+}
+
+TEST_F(SetupFile, StaysWhereItCannotBeSaved) {
+    constexpr const char* failure = "Could not save Orvik.setup";
+    fs::create_directory(path());
+    Save_current_setup();
+    EXPECT_EQ(main_window().left_footer(), failure);
+    EXPECT_EQ(message_board().text.text(), path() + " not written: Is a directory\n");
+    fs::remove(path());
+    home_.write("start/Orvik.setup", "old");
+    for (const std::string& value : {"a\nb"s, std::string(1023, 'x')}) {
+        message_board().text.set_text("");
+        environment_setup().working_directory_2.set_text(value);
+        main_window().set_left_footer("");
+        Save_current_setup();
+        EXPECT_EQ(main_window().left_footer(), failure);
+        EXPECT_EQ(message_board().text.text(),
+                  path() + " not written: line 3 would be too long or hold a line end\n");
+        EXPECT_EQ(read_file(fs::path(path())), "old");
+    }
+    environment_setup().working_directory_2.set_text(std::string(1022, 'x'));
+    EXPECT_EQ(save_setup(path()), 1);
+}
+
+TEST_F(SetupFile, IsLoadedFromTheFileListBrowser) {
+    home_.write("good", header + "value\n");
+    home_.write("bad", "no setup\n");
+    const std::string directory = home_.path();
+    const std::vector<std::tuple<std::string, std::string, std::string>> cases{
+        {directory, "", "File name not specified"},
+        {"", "", "File name not specified"},
+        {"", "good", "Directory name not specified"},
+        {directory, "missing", "Setup file not found"},
+        {directory, "bad", "Not a valid setup file"},
+        {directory, "good", "Setup loaded from " + directory + "/good"},
+    };
+    for (const auto& [folder, name, footer] : cases) {
+        EXPECT_EQ(environment_setup().working_directory_1.text(), "");
+        file_list_browser().directory.set_text(folder);
+        file_list_browser().file_name.set_text(name);
+        FileListLoadSetup();
+        EXPECT_EQ(file_list_browser().left_footer(), footer);
+    }
+    EXPECT_EQ(environment_setup().working_directory_1.text(), "value");
+}
+
+}  // namespace
