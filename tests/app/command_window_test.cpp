@@ -117,6 +117,32 @@ TEST_F(CommandWindowTest, CopyMovesTheCommandOutOfTheShellsLine) {
     }
 }
 
+TEST(CommandWindow, CopyLeavesTheLineOfARealShellEmpty) {
+    create_windows();
+    default_settings().prompt_ending_delimiter.set_text(">");
+    TerminalPane& pane = main_window().termpane;
+    pane.start(
+        {"/bin/bash", {"bash", "--norc", "-i"}, {"PATH=/usr/bin:/bin", "TERM=xterm", "PS1=there> "}, "/"});
+    const auto becomes = [&pane](const std::string& before, const std::string& behind) {
+        return wait_until(
+            [&] {
+                const TerminalPane::CurrentLine line = pane.current_line();
+                return line.before == before && line.behind == behind;
+            },
+            patience, [] { QTest::qWait(5); });
+    };
+    ASSERT_TRUE(becomes("there> ", ""));
+    EXPECT_EQ(type_text("echo one two"), "");
+    for (int back = 0; back < 3; ++back) {
+        type_control('B');
+    }
+    ASSERT_TRUE(becomes("there> echo one ", "two"));
+    CommandWindowCopy();
+    EXPECT_EQ(command_window().command.text(), "echo one two");
+    EXPECT_TRUE(becomes("there> ", ""));
+    destroy_windows();
+}
+
 TEST_F(CommandWindowTest, NoCommandIsTakenFromAFullScreenProgram) {
     default_settings().prompt_ending_delimiter.set_text("$");
     ttysw_output(main_window().termpane, "\x1b[?1049h$ ls");
