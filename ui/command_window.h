@@ -11,7 +11,7 @@
 /// "Command Window": a line for commands that floats beside the terminal.
 struct CommandWindow : CommandFrame {
     CommandWindow() : CommandFrame("Command Window") {
-        command.set_display_length(80);
+        command.set_display_length(96);
         push.set_tool_tip("change to the selected directory and remember this one (pushd)");
         pop.set_tool_tip("go back to the directory remembered last (popd)");
         remove_button.set_tool_tip("remove the files named in the line (rm)");
