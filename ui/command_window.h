@@ -11,7 +11,7 @@
 /// "Command Window": a line for commands that floats beside the terminal.
 struct CommandWindow : CommandFrame {
     CommandWindow() : CommandFrame("Command Window") {
-        command.set_display_length(96);
+        command.set_display_length(60);
         push.set_tool_tip("change to the selected directory and remember this one (pushd)");
         pop.set_tool_tip("go back to the directory remembered last (popd)");
         remove_button.set_tool_tip("remove the files named in the line (rm)");
@@ -21,7 +21,6 @@ struct CommandWindow : CommandFrame {
         clear.set_tool_tip("empty the line");
         copy.set_tool_tip("move the command that is being typed in the terminal here");
         for (Button* button : {&push, &pop, &remove_button, &run, &last, &get, &clear, &copy}) {
-            button->share_width();
             button->leave_focus();
         }
     }
@@ -36,6 +35,7 @@ struct CommandWindow : CommandFrame {
     Button get{buttons, "Get", CommandWindowGet};
     Button clear{buttons, "Clear", CommandWindowClearButton};
     Button copy{buttons, "Copy", CommandWindowCopy};
+    Stretch behind_buttons{buttons};
 };
 
 inline std::unique_ptr<CommandWindow> Orvik_popup47;
