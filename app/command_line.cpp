@@ -135,13 +135,18 @@ void BaseWindowClearCommand() {
 void BaseWindowScrollUp() {
     main_window().set_left_footer("");
     history_previous(HistoryWalker::button);
+    main_window().command.set_focus();
 }
 
 void BaseWindowScrollDown() {
     main_window().set_left_footer("");
     history_next(HistoryWalker::button);
+    main_window().command.set_focus();
 }
 
-void BaseWindowLastCommand() { recall_last_command(); }
+void BaseWindowLastCommand() {
+    recall_last_command();
+    main_window().command.set_focus();
+}
 
 void BaseWindowMoveButton() { move_typed_command(CommandAsker::move_button); }

@@ -192,6 +192,7 @@ void my_action_proc3(const std::string& item) {
     }
     if (action != execute) {
         main_window().command.set_text(item);
+        main_window().command.set_focus();  // there it is edited and run
     }
 }
 

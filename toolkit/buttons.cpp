@@ -62,7 +62,7 @@ ImageButton::ImageButton(Container& parent, std::string_view accessible_name, st
     button->setToolTip(to_qstring(accessible_name));
     button->setIcon(button_picture(picture));
     button->setIconSize({picture_size, picture_size});
-    button->setFocusPolicy(Qt::StrongFocus);
+    button->setFocusPolicy(Qt::TabFocus);  // a click leaves the keyboard where it is
     parent.add({}, button, Place::line);
     QObject::connect(button, &QToolButton::clicked, button, [notify] { notify(); });
 }

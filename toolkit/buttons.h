@@ -26,7 +26,7 @@ class Button {
     QPushButton* widget_;
 };
 
-/// A push button with a picture; its name is its tool tip too.
+/// A push button with a picture; its name is its tool tip too. A click on it leaves the keyboard where it is.
 class ImageButton {
   public:
     /// The picture is a file of that name, without ".svg", in the picture directory.

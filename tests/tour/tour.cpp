@@ -3,6 +3,7 @@
 // usage: tour PROGRAM FOLDER [OPTION]...
 #include "tests/drive/program.h"
 #include "tests/support/scratch_directory.h"
+#include "tests/support/setup_text.h"
 #include "tests/support/wait_until.h"
 
 #include <array>
@@ -28,6 +29,35 @@ git checkout -q main && printf 'clean:\n\trm -f greet\n' >>Makefile && git commi
 git merge -q --no-edit names
 )";
 
+/// What a user might have saved, by the setup file's lines.
+const std::map<int, std::string> settings{
+    {8, "lp $PATH_NAME"},
+    {9, "ls -aF"},
+    {15, "1"},  // command line editing
+    {19, "Status"},
+    {20, "Log"},
+    {21, "Diff"},
+    {22, "Build"},
+    {23, "Find"},
+    {24, "Edit"},
+    {25, "git status"},
+    {26, "git log --oneline"},
+    {27, "git diff"},
+    {28, "make"},
+    {29, "grep -rn '$$$' ."},
+    {30, "vi '$$$'"},
+    {31, "1"},  // the user buttons are shown
+    {35, "3"},
+    {37, "20"},
+    {38, "1"},
+    {43, "git pull"},
+    {50, "14"},  // host, process and user in the footer
+    {55, "1"},
+    {56, "$"},  // the prompt's last character
+    {62, "6"},
+    {63, "gvim"},
+};
+
 struct Stop {
     const char* menu;
     const char* item;
@@ -46,6 +76,7 @@ constexpr std::array stops{
     Stop{"Setup", "Text Editor", "Text Editor Setup", "text-editor"},
     Stop{"Setup", "User Buttons", "User Buttons", "user-buttons"},
     Stop{"Setup", "Status Display", "Status Display", "status-display"},
+    Stop{"Browse", "Command History", "Command History Manager", "command-history"},
     Stop{"Browse", "Message Board", "Message Board", "message-board"},
     Stop{"Browse", "Notebook", "Notebook", "notebook"},
 };
@@ -87,6 +118,13 @@ class Tour {
         if (!wait_until([&] { return !program_.shows(stop.title); })) {
             give_up(std::string("Escape does not close \"") + stop.title + "\"");
         }
+    }
+    void show_command_window() {
+        if (!program_.main_window().find({"push button", "floating command line"}).press() ||
+            !program_.window("Command Window")) {
+            give_up("the command window does not open");
+        }
+        take_window("Command Window", "command-window");
     }
     void take_window(const std::string& title, const std::string& picture) {
         const auto window = display_.window(program_.process().pid(), title);
@@ -132,6 +170,7 @@ void play(Tour& tour, const fs::path& home) {
     for (const Stop& stop : stops) {
         tour.show_popup(stop);
     }
+    tour.show_command_window();
     tour.take_desktop("desktop");
 }
 
@@ -143,6 +182,7 @@ int main(int argc, char** argv) {
     }
     const ScratchDirectory home;
     home.write(".bash_profile", "PS1='\\[\\e[1;34m\\]\\w\\[\\e[0m\\] $ '\n");
+    home.write("Orvik.setup", setup_text(settings));
     home.write("make-repository", make_repository);
     if (std::system(
             ("cd '" + home.path().string() + "' && sh make-repository && rm make-repository").c_str()) != 0) {
