@@ -29,9 +29,7 @@ class Mixer {
             case 3:
                 return string();
             case 4:
-                return std::string("\x1b") + pick(
-                                                 "78=>DEHMNOZcno6"
-                                                 "9");
+                return std::string("\033") + pick("78=>DEHMNOZcno69");
             default:
                 return sequence();
         }
@@ -62,7 +60,7 @@ class Mixer {
     }
     std::string sequence() {
         constexpr std::array<int, 12> modes = {1, 4, 5, 6, 7, 20, 45, 47, 69, 1047, 1049, 2026};
-        std::string out = "\x1b[";
+        std::string out = "\033[";
         if (below(4) == 0) {
             return out + (below(4) == 0 ? "" : "?") + std::to_string(modes[random_() % modes.size()]) +
                    pick("hlp");
@@ -78,8 +76,8 @@ class Mixer {
     std::string string() {
         constexpr std::array<std::string_view, 8> heads = {"]0;", "]8;;http://", "]4;1;?", "]10;?",
                                                            "P$q", "]104",        "_",      "P+q"};
-        return std::string("\x1b").append(heads[random_() % heads.size()]) + text() +
-               (below(2) == 0 ? "\x07" : "\x1b\\");
+        return std::string("\033").append(heads[random_() % heads.size()]) + text() +
+               (below(2) == 0 ? "\a" : "\033\\");
     }
 
     std::mt19937 random_;
