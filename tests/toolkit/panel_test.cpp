@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "toolkit/panel.h"
 
+#include "tests/toolkit/find_widget.h"
 #include "toolkit/buttons.h"
 #include "toolkit/choices.h"
 #include "toolkit/fields.h"
@@ -41,13 +42,9 @@ class PanelTest : public testing::Test {
 
     /// Where a control is in the window.
     [[nodiscard]] QRect place(const QString& name) const {
-        for (const QWidget* widget : sample.widget()->findChildren<QWidget*>()) {
-            if (widget->accessibleName() == name) {
-                return {widget->mapTo(sample.widget(), QPoint(0, 0)), widget->size()};
-            }
-        }
-        ADD_FAILURE() << name.toStdString();
-        return {};
+        const auto* widget = find_widget<QWidget>(sample.widget(), name);
+        EXPECT_NE(widget, nullptr) << name.toStdString();
+        return widget == nullptr ? QRect() : QRect(widget->mapTo(sample.widget(), QPoint()), widget->size());
     }
     [[nodiscard]] int middle(const QString& name) const { return place(name).center().y(); }
 
@@ -56,12 +53,13 @@ class PanelTest : public testing::Test {
 };
 
 TEST_F(PanelTest, FieldsFillTheLinesFromLeftToRight) {
+    // "Whole line:" takes a line of its own; so does "Box", which has no label beside it.
     const std::vector<std::vector<const char*>> lines{
         {"First:", "Second label:"},
         {"Third:"},
-        {"Whole line:"},  // takes a line of its own
+        {"Whole line:"},
         {"Fourth:"},
-        {"Box"},  // without a label beside it: a new line, and no field of it
+        {"Box"},
         {"Fifth:"},
         {"Few"},
         {"Many"},
@@ -112,14 +110,11 @@ TEST_F(PanelTest, MoreThanFiveItemsTakeTwoLines) {
     for (const char* name : {"2", "3", "4", "5"}) {
         EXPECT_EQ(middle(name), middle("1")) << name;
     }
-    const std::vector<const char*> upper{"a", "b", "c", "d"};
-    const std::vector<const char*> lower{"e", "f", "g"};
-    for (std::size_t i = 0; i < upper.size(); ++i) {
-        EXPECT_EQ(middle(upper[i]), middle("a")) << upper[i];
-    }
-    for (std::size_t i = 0; i < lower.size(); ++i) {
-        EXPECT_GT(place(lower[i]).top(), place("a").bottom()) << lower[i];
-        EXPECT_EQ(place(lower[i]).left(), place(upper[i]).left()) << lower[i];
+    const std::pair<const char*, const char*> columns[] = {{"a", "e"}, {"b", "f"}, {"c", "g"}};
+    for (const auto& [upper, lower] : columns) {
+        EXPECT_EQ(middle(upper), middle("d")) << upper;
+        EXPECT_GT(place(lower).top(), place("a").bottom()) << lower;
+        EXPECT_EQ(place(lower).left(), place(upper).left()) << lower;
     }
 }
 

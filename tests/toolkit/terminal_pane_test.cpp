@@ -35,45 +35,24 @@ TEST_F(TerminalPaneTest, KeysReachTheProgramAndNotTheWindowsShortcuts) {
     press(Qt::Key_Backspace);
     press(Qt::Key_Space, Qt::ControlModifier);
     press(Qt::Key_Escape);
-    EXPECT_TRUE(wait_for_echo("a^[[A^C^I^[[Z^[OP^[x^[[1;5C^?^@^[")) << echoed();
+    QInputMethodEvent event;
+    event.setCommitString(QStringLiteral("\u00e9"));
+    QCoreApplication::sendEvent(&view(), &event);
+    EXPECT_TRUE(wait_for_echo("a^[[A^C^I^[[Z^[OP^[x^[[1;5C^?^@^[M-CM-)")) << echoed();
     EXPECT_EQ(triggered, 0);
     EXPECT_TRUE(view().hasFocus());
-}
-
-TEST_F(TerminalPaneTest, ControlTabMovesTheFocus) {
-    auto* field = new QLineEdit(&window);
-    field->show();
+    (new QLineEdit(&window))->show();
     press(Qt::Key_Tab, Qt::ControlModifier);
     EXPECT_FALSE(view().hasFocus());
 }
 
-TEST_F(TerminalPaneTest, InputMethodTextIsTyped) {
-    start_echo();
-    QInputMethodEvent event;
-    event.setCommitString(QStringLiteral("\u00e9"));
-    QCoreApplication::sendEvent(&view(), &event);
-    EXPECT_TRUE(wait_for_echo("M-CM-)")) << echoed();
-}
-
-TEST_F(TerminalPaneTest, InputBeforeTheStartWaitsAndKeepsItsOrder) {
+TEST_F(TerminalPaneTest, InputBeforeTheStartWaitsAndOutputOfTheToolIsShownAtOnce) {
     ttysw_input(pane, "one\n");
     ttysw_input(pane, "two\n");
     start("read a; read b; echo got $a $b");
+    ttysw_output(pane, "shown\n");
     EXPECT_TRUE(wait_for_text("got one two")) << text();
-}
-
-TEST_F(TerminalPaneTest, LargeInputArrivesWhole) {
-    start("stty raw -echo; echo ready; head -c 400000 | sha1sum");
-    ASSERT_TRUE(wait_for_text("ready"));
-    std::string input;
-    while (input.size() < 400'000) {
-        input += "0123456789abcde\n";
-    }
-    for (std::size_t at = 0; at < input.size(); at += 7'000) {
-        ttysw_input(pane, std::string_view(input).substr(at, 7'000));
-    }
-    // sha1sum of 25,000 such lines
-    EXPECT_TRUE(wait_for_text("a3eef4c89c633699b73895581f05cb4bdc44695a")) << text();
+    EXPECT_TRUE(text().starts_with("shown\n")) << text();
 }
 
 TEST_F(TerminalPaneTest, InterposerSeesConsumesAndRecodesKeys) {
@@ -95,14 +74,6 @@ TEST_F(TerminalPaneTest, InterposerSeesConsumesAndRecodesKeys) {
     EXPECT_EQ(seen[1].kind, KeyEvent::Kind::release);
     EXPECT_EQ(seen[2], (KeyEvent{.key = Key::up}));
     EXPECT_EQ(seen[4], (KeyEvent{.modifiers = {.shift = true}, .text = "X"}));
-}
-
-TEST_F(TerminalPaneTest, OutputOfTheToolIsNotSeenByTheProgram) {
-    start("read a; echo got $a");
-    ttysw_output(pane, "shown\n");
-    ttysw_input(pane, "typed\n");
-    EXPECT_TRUE(wait_for_text("got typed")) << text();
-    EXPECT_TRUE(text().starts_with("shown\n")) << text();
 }
 
 TEST_F(TerminalPaneTest, EndOfTheShellIsAnnouncedAndReturnStartsANewOne) {
@@ -136,8 +107,8 @@ TEST_F(TerminalPaneTest, QuestionAtTheStartIsLeftToTheUser) {
     start("stty -echo; printf 'password: '; read a; stty echo; echo; read b; echo \"got $a, $b\"");
     ttysw_input(pane, "command\n");
     ASSERT_TRUE(wait_for_text("password: "));
+    EXPECT_FALSE(QTest::qWaitFor([&ready] { return ready > 0; }, 300)) << "however long it takes";
     press(Qt::Key_X);
-    EXPECT_EQ(ready, 0);
     press(Qt::Key_Return);
     EXPECT_TRUE(wait_for_text("got x, command")) << text();
     EXPECT_EQ(ready, 1);
@@ -157,12 +128,6 @@ TEST_F(TerminalPaneTest, KilledFullScreenProgramLeavesATidyTerminal) {
 TEST_F(TerminalPaneTest, JobLeftBehindDoesNotHideTheEnd) {
     start("sleep 60 & exit 0");
     EXPECT_TRUE(wait_for_text("[shell ended with status 0;")) << text();
-}
-
-TEST_F(TerminalPaneTest, ShellThatCannotBeStartedSaysSo) {
-    pane.start({"/nonexistent/shell", {"shell"}, {}, "/"});
-    EXPECT_TRUE(wait_for_text("/nonexistent/shell: No such file or directory\n[shell ended with status 127;"))
-        << text();
 }
 
 /// Counts what is painted.
@@ -187,9 +152,9 @@ TEST_F(TerminalPaneTest, FloodLeavesKeysAndPaintingAlive) {
     EXPECT_TRUE(wait_for_text("answered k"));
 }
 
-TEST_F(TerminalPaneTest, ViewStaysWhereTheUserScrolledIt) {
-    start("i=0; while [ $i -lt 200 ]; do echo line $i; i=$((i+1)); done; read a; seq 1000 1100; exec cat");
-    ASSERT_TRUE(wait_for_text("line 199"));
+TEST_F(TerminalPaneTest, ViewStaysWhereTheUserScrolledItUntilAKeyIsTyped) {
+    start("seq 1 200; read a; seq 1000 1100; exec cat");
+    ASSERT_TRUE(wait_for_text("200"));
     QTest::qWait(0);
     press(Qt::Key_PageUp, Qt::ShiftModifier);
     const terminal::RowId top = view().position_at({0, 0}).row;
@@ -197,16 +162,12 @@ TEST_F(TerminalPaneTest, ViewStaysWhereTheUserScrolledIt) {
     ttysw_input(pane, "\n");
     ASSERT_TRUE(wait_for_text("1100"));
     EXPECT_EQ(view().position_at({0, 0}).row, top) << "output";
+    auto* bar = pane.widget()->findChild<QScrollBar*>();
+    EXPECT_LT(bar->value(), bar->maximum());
     press(Qt::Key_Home, Qt::ShiftModifier);
     EXPECT_EQ(view().position_at({0, 0}).row, view().terminal().first_row());
     press(Qt::Key_A);
     EXPECT_EQ(view().position_at({0, 0}).row, view().terminal().screen_top()) << "typing";
-}
-
-TEST_F(TerminalPaneTest, ScrollBarFollowsAndScrolls) {
-    start("seq 1 300; exec cat");
-    ASSERT_TRUE(wait_for_text("300"));
-    auto* bar = pane.widget()->findChild<QScrollBar*>();
     ASSERT_TRUE(wait([bar] { return bar->maximum() > 200 && bar->value() == bar->maximum(); }));
     bar->setValue(0);
     EXPECT_EQ(view().position_at({0, 0}).row, view().terminal().first_row());
@@ -230,8 +191,11 @@ TEST_F(TerminalPaneTest, ProgramIsToldTheNewSize) {
 }
 
 TEST_F(TerminalPaneTest, StateOfTheShellIsKnown) {
-    start("printf 'one\\nprompt> '; read a; stty -icanon; echo raw; exec cat");
+    int bells = 0;
+    pane.set_events({.bell = [&bells] { ++bells; }});
+    start("printf 'one\\a\\nprompt> '; read a; stty -icanon; echo raw; exec cat");
     ASSERT_TRUE(wait_for_text("prompt> "));
+    EXPECT_EQ(bells, 1);
     EXPECT_EQ(pane.current_line().before, "prompt> ");
     EXPECT_TRUE(pane.reads_lines());
     press(Qt::Key_Return);
@@ -239,13 +203,6 @@ TEST_F(TerminalPaneTest, StateOfTheShellIsKnown) {
     EXPECT_FALSE(pane.reads_lines());
     pane.clear();
     EXPECT_EQ(text(), "");
-}
-
-TEST_F(TerminalPaneTest, BellIsPassedOn) {
-    int bells = 0;
-    pane.set_events({.bell = [&bells] { ++bells; }});
-    start("printf '\\a'");
-    EXPECT_TRUE(wait([&bells] { return bells == 1; }));
 }
 
 }  // namespace

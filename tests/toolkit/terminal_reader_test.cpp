@@ -20,13 +20,10 @@ class TerminalReaderTest : public TerminalFixture {
     }
 };
 
-TEST_F(TerminalReaderTest, PaneIsATerminalByItsName) {
+TEST_F(TerminalReaderTest, PaneIsATerminalByItsNameWithTextOfLogicalLines) {
     QAccessibleInterface* const interface = QAccessible::queryAccessibleInterface(&view());
     EXPECT_EQ(interface->role(), QAccessible::Terminal);
     EXPECT_EQ(interface->text(QAccessible::Name), "terminal");
-}
-
-TEST_F(TerminalReaderTest, TextIsMadeOfLogicalLines) {
     const std::string longer(static_cast<std::size_t>(pane.columns()) * 2 + 3, 'w');
     show_text("first   \n\n" + longer + "\nwide \u4e2d\U0001f600 e\u0301\nprompt  ");
     EXPECT_EQ(text(), "first\n\n" + longer + "\nwide \u4e2d\U0001f600 e\u0301\nprompt  ");
@@ -70,14 +67,15 @@ TEST_F(TerminalReaderTest, AlternateScreenHasATextOfItsOwn) {
 
 TEST_F(TerminalReaderTest, PartsOfTheTextAreFoundAtAnOffset) {
     show_text("one two\nthree");
-    EXPECT_EQ(part(QAccessible::LineBoundary, 2), "one two\n");
-    EXPECT_EQ(part(QAccessible::LineBoundary, 9), "three");
-    EXPECT_EQ(part(QAccessible::WordBoundary, 5), "two");
-    EXPECT_EQ(part(QAccessible::WordBoundary, 4), "two");
-    EXPECT_EQ(part(QAccessible::CharBoundary, 0), "o");
-    EXPECT_EQ(part(QAccessible::CharBoundary, 7), "\n");
-    EXPECT_EQ(part(QAccessible::CharBoundary, 8), "t");
-    EXPECT_EQ(part(QAccessible::NoBoundary, 0), "one two\nthree");
+    const std::tuple<QAccessible::TextBoundaryType, int, const char*> cases[] = {
+        {QAccessible::LineBoundary, 2, "one two\n"},    {QAccessible::LineBoundary, 9, "three"},
+        {QAccessible::WordBoundary, 5, "two"},          {QAccessible::WordBoundary, 4, "two"},
+        {QAccessible::CharBoundary, 7, "\n"},           {QAccessible::CharBoundary, 8, "t"},
+        {QAccessible::NoBoundary, 0, "one two\nthree"},
+    };
+    for (const auto& [type, offset, expected] : cases) {
+        EXPECT_EQ(part(type, offset), expected) << offset;
+    }
     int begin = 0;
     int end = 0;
     EXPECT_EQ(accessible().textBeforeOffset(9, QAccessible::LineBoundary, &begin, &end), "one two\n");
@@ -144,10 +142,10 @@ TEST_F(TerminalReaderTest, WhatChangesIsTold) {
     const auto told = [this] {
         return wait([this] { return QString::fromStdU16String(heard).toStdString() == text(); });
     };
-    ttysw_output(pane, "more");
-    EXPECT_TRUE(told()) << QString::fromStdU16String(heard).toStdString();
-    ttysw_output(pane, "\b\b\033[K\nnext");
-    EXPECT_TRUE(told()) << QString::fromStdU16String(heard).toStdString();
+    for (const char* output : {"more", "\b\b\033[K\nnext"}) {
+        ttysw_output(pane, output);
+        EXPECT_TRUE(told()) << QString::fromStdU16String(heard).toStdString();
+    }
     for (int line = 0; line < 300; ++line) {
         ttysw_output(pane, "line " + std::to_string(line) + "\n");
         if (line % 50 == 0) {

@@ -27,9 +27,6 @@ TEST(TextConversion, GivesEveryByteBack) {
     for (const std::string& text : texts) {
         EXPECT_EQ(from_qstring(to_qstring(text)), text);
     }
-}
-
-TEST(TextConversion, DecodesValidText) {
     EXPECT_EQ(to_qstring("\xC3\xA9\xF0\x9F\x98\x80"), u"\u00e9\U0001F600");
 }
 
@@ -39,12 +36,11 @@ TEST(TextConversion, MakesControlCharactersVisible) {
     EXPECT_EQ(visible_text("\xF0\x9F\x98\x80"), u"\U0001F600");
 }
 
-TEST(TextConversion, ToolTipsShowMarkupAsItIs) {
+TEST(TextConversion, ToolTipsAndLabelsShowMarkupAsItIs) {
     EXPECT_EQ(plain_tool_tip("cmp <b>a</b>  & b"),
               u"<p style=\"white-space:pre-wrap\">cmp &lt;b&gt;a&lt;/b&gt;  &amp; b</p>");
     EXPECT_EQ(plain_tool_tip(""), u"");
+    EXPECT_EQ(without_mnemonic("a&b"), u"a&&b");
 }
-
-TEST(TextConversion, KeepsAmpersandsOfLabels) { EXPECT_EQ(without_mnemonic("a&b"), u"a&&b"); }
 
 }  // namespace
