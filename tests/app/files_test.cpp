@@ -7,6 +7,7 @@
 #include <cerrno>
 #include <fstream>
 #include <functional>
+#include <tuple>
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
@@ -58,6 +59,11 @@ int in_child(const std::function<int()>& body) {
 /// Makes root an ordinary user; anybody else is one.
 bool become_ordinary() { return geteuid() != 0 || (setgid(nobody) == 0 && setuid(nobody) == 0); }
 
+/// Replaces a file in a process that root has left; anybody else is one who is not root.
+int replace_as_ordinary(const std::string& path) {
+    return in_child([&] { return become_ordinary() ? replace_file(path, "new") : -1; });
+}
+
 TEST(ReadFile, GivesAllBytesUpToTheLimit) {
     const ScratchDirectory home;
     const std::string text = "a\0b\xff\n"s + std::string(200'000, 'x');
@@ -81,14 +87,11 @@ TEST(ReadFile, RefusesWhatIsNoRegularFileWithoutWaiting) {
 }
 
 TEST(ReplaceFile, KeepsTheModeOrTakesTheOneAskedFor) {
-    struct Case {
-        std::string name;
-        ReplaceOptions options;
-        mode_t mode;
-    };
-    const std::vector<Case> cases{
-        {"old", {}, 0755},     {"old", {.new_mode = 0600}, 0755},    {"old", {.exact_mode = 0606}, 0606},
-        {"new\xff", {}, 0640}, {"script", {.new_mode = 0777}, 0750}, {"exact", {.exact_mode = 0666}, 0666}};
+    const std::tuple<std::string, ReplaceOptions, mode_t> cases[] = {{"old", {.new_mode = 0600}, 0755},
+                                                                     {"old", {.exact_mode = 0606}, 0606},
+                                                                     {"new\xff", {}, 0640},
+                                                                     {"script", {.new_mode = 0777}, 0750},
+                                                                     {"exact", {.exact_mode = 0666}, 0666}};
     const ScratchDirectory home;
     ASSERT_EQ(chmod(home.write("old", "old").c_str(), 04755), 0);
     const mode_t before = umask(027);
@@ -125,17 +128,9 @@ TEST(ReplaceFile, FollowsNoLinkThatSomebodyElsePutIntoASharedDirectory) {
         GTEST_SKIP() << "only root can make a link of somebody else's";
     }
     constexpr uid_t other = nobody - 1;
-    struct Case {
-        mode_t mode;
-        uid_t directory_owner;
-        uid_t link_owner;
-        int error;
-    };
-    const std::vector<Case> cases{
-        {01777, 0, other, EACCES}, {01777, 0, nobody, 0},          {01777, 0, 0, 0},
-        {01777, other, other, 0},  {01777, nobody, other, EACCES}, {0777, 0, other, 0},
-        {01775, nobody, other, 0},
-    };
+    const std::tuple<mode_t, uid_t, uid_t, int> cases[] = {
+        {01777, 0, other, EACCES},      {01777, 0, nobody, 0}, {01777, other, other, 0},
+        {01777, nobody, other, EACCES}, {0777, 0, other, 0},   {01775, nobody, other, 0}};
     for (const auto& [mode, directory_owner, link_owner, error] : cases) {
         const ScratchDirectory home;
         fs::create_directory(home / "shared");
@@ -147,10 +142,7 @@ TEST(ReplaceFile, FollowsNoLinkThatSomebodyElsePutIntoASharedDirectory) {
         ASSERT_EQ(lchown((home / "shared/link").c_str(), link_owner, link_owner), 0);
         ASSERT_EQ(chown((home / "shared").c_str(), directory_owner, directory_owner), 0);
         ASSERT_EQ(chmod((home / "shared").c_str(), mode), 0);
-        const auto replace = [&](const std::string& path) {
-            return in_child([&] { return become_ordinary() ? replace_file(path, "new") : -1; });
-        };
-        EXPECT_EQ(replace(home / "shared/link"), error)
+        EXPECT_EQ(replace_as_ordinary(home / "shared/link"), error)
             << mode << ' ' << directory_owner << ' ' << link_owner;
         EXPECT_EQ(read_file(home / "own/target"), error == 0 ? "new" : "old");
     }
@@ -162,12 +154,10 @@ TEST(ReplaceFile, RefusesWhatIsNoRegularFile) {
     fs::create_symlink("directory", home / "link");
     fs::create_symlink("loop", home / "loop");
     ASSERT_EQ(mkfifo((home / "fifo").c_str(), 0600), 0);
-    const std::vector<std::pair<std::string, int>> cases{
-        {"directory", EISDIR}, {"link", EISDIR},
-        {"loop", ELOOP},       {"fifo", EINVAL},
-        {"a\0b"s, EINVAL},     {"missing/file", ENOENT},
-        {"fifo/a", ENOTDIR},   {std::string(300, 'n'), ENAMETOOLONG},
-    };
+    const std::pair<std::string, int> cases[] = {
+        {"link", EISDIR},         {"loop", ELOOP},      {"fifo", EINVAL},
+        {"a\0b"s, EINVAL},        {"fifo/a", ENOTDIR},  {std::string(300, 'n'), ENAMETOOLONG},
+        {"missing/file", ENOENT}, {"directory", EISDIR}};
     for (const auto& [name, error] : cases) {
         EXPECT_EQ(replace_file((home / name).native(), "new"), error) << name;
     }
@@ -181,7 +171,7 @@ TEST(ReplaceFile, LeavesAFileThatMayNotBeWritten) {
     const std::string file = home.write("file", "old");
     ASSERT_EQ(chmod(file.c_str(), 0444), 0);
     ASSERT_EQ(chmod(home.path().c_str(), 0777), 0);
-    EXPECT_EQ(in_child([&] { return become_ordinary() ? replace_file(file, "new") : -1; }), EACCES);
+    EXPECT_EQ(replace_as_ordinary(file), EACCES);
     EXPECT_EQ(read_file(home / "file"), "old");
     EXPECT_EQ(listing(home.path()), Names{"file"});
 }
@@ -196,7 +186,7 @@ TEST(ReplaceFile, GivesNobodyMoreRightsWhereTheGroupIsLost) {
     for (const auto& [before, after] : {std::pair{0664U, 0644U}, {0640U, 0600U}, {0606U, 0600U}}) {
         ASSERT_EQ(chown(file.c_str(), nobody, 0), 0);
         ASSERT_EQ(chmod(file.c_str(), before), 0);
-        EXPECT_EQ(in_child([&] { return become_ordinary() ? replace_file(file, "new") : -1; }), 0);
+        EXPECT_EQ(replace_as_ordinary(file), 0);
         EXPECT_EQ(mode_of(file), after);
     }
     ASSERT_EQ(chown(file.c_str(), nobody, nobody), 0);

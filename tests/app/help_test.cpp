@@ -18,16 +18,6 @@ namespace fs = std::filesystem;
 
 const fs::path data_directory = ORVIK_DATA;
 
-std::vector<fs::path> pages() {
-    std::vector<fs::path> found;
-    for (const fs::directory_entry& entry : fs::directory_iterator(data_directory / "help")) {
-        if (entry.path().extension() == ".html") {
-            found.push_back(entry.path());
-        }
-    }
-    return found;
-}
-
 /// The values that an attribute has in a page.
 std::vector<std::string> values_of(const std::string& attribute, const std::string& page) {
     const std::regex pattern("\\b" + attribute + R"(\s*=\s*"([^"]*)\")");
@@ -39,32 +29,32 @@ std::vector<std::string> values_of(const std::string& attribute, const std::stri
     return values;
 }
 
-TEST(HelpPages, LinkToPagesAndPlacesThatAreThere) {
+TEST(HelpPages, LinkToPagesPlacesAndPicturesThatAreThere) {
     std::size_t links = 0;
-    for (const fs::path& page : pages()) {
-        for (const std::string& link : values_of("href", read_file(page))) {
+    std::size_t pictures = 0;
+    for (const fs::directory_entry& entry : fs::directory_iterator(data_directory / "help")) {
+        SCOPED_TRACE(entry.path());
+        if (entry.path().extension() != ".html") {
+            continue;
+        }
+        const std::string page = read_file(entry.path());
+        for (const std::string& link : values_of("href", page)) {
             const std::size_t hash = link.find('#');
-            const fs::path target = hash == 0 ? page : page.parent_path() / link.substr(0, hash);
-            EXPECT_TRUE(fs::is_regular_file(target)) << page << " links to " << link;
+            const fs::path target =
+                hash == 0 ? entry.path() : entry.path().parent_path() / link.substr(0, hash);
+            EXPECT_TRUE(fs::is_regular_file(target)) << link;
             if (hash != std::string::npos) {
                 const std::vector<std::string> places = values_of("name", read_file(target));
-                EXPECT_EQ(std::ranges::count(places, link.substr(hash + 1)), 1)
-                    << page << " links to " << link;
+                EXPECT_EQ(std::ranges::count(places, link.substr(hash + 1)), 1) << link;
             }
             ++links;
         }
-    }
-    EXPECT_GT(links, pages().size());
-}
-
-TEST(HelpPages, ShowPicturesThatAreThere) {
-    std::size_t pictures = 0;
-    for (const fs::path& page : pages()) {
-        for (const std::string& picture : values_of("src", read_file(page))) {
-            EXPECT_TRUE(fs::is_regular_file(page.parent_path() / picture)) << page << " shows " << picture;
+        for (const std::string& picture : values_of("src", page)) {
+            EXPECT_TRUE(fs::is_regular_file(entry.path().parent_path() / picture)) << picture;
             ++pictures;
         }
     }
+    EXPECT_GT(links, 3U);
     EXPECT_GT(pictures, 0U);
 }
 

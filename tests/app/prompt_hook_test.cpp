@@ -5,49 +5,42 @@
 
 namespace {
 
-constexpr const char* status_path = "/home/u/.orvik-status0";
-
-const std::string csh_on =
-    R"(alias precmd 'printf "P:%s\nC:%s\nH:%s\nU:%s\nV:%s\n" "$prompt" "$cwd" "$HOST" "$USER" "$CLEARCASE_ROOT" >! /home/u/.orvik-status0')";
-const std::string csh_off =
-    R"(alias precmd 'printf "P:%s\nC:%s\nH:%s\nU:%s\nV:Not_used\n" "$prompt" "$cwd" "$HOST" "$USER"  >! /home/u/.orvik-status0')";
-const std::string bash_on =
-    R"(PROMPT_COMMAND='printf "P:%s\nC:%s\nH:%s\nU:%s\nV:%s\n" "$PS1" "$PWD" "$HOSTNAME" "$USER" "$CLEARCASE_ROOT" > /home/u/.orvik-status0')";
-const std::string bash_off =
-    R"(PROMPT_COMMAND='printf "P:%s\nC:%s\nH:%s\nU:%s\nV:Not_used\n" "$PS1" "$PWD" "$HOSTNAME" "$USER" > /home/u/.orvik-status0')";
-
-struct Case {
-    const char* shell;
-    ClearCaseUsage usage;
-    std::vector<PromptHook> expected;
-};
-
 TEST(PromptHook, IsChosenByTheShellsName) {
-    const PromptHook for_csh[] = {{HookKind::csh, csh_off}, {HookKind::csh, csh_on}};
-    const PromptHook for_bash[] = {{HookKind::bash, bash_off}, {HookKind::bash, bash_on}};
-    const Case cases[] = {
-        {"/bin/csh", ClearCaseUsage::off, {for_csh[0]}},
-        {"/bin/tcsh", ClearCaseUsage::on, {for_csh[1]}},
-        {"/bin/bash", ClearCaseUsage::off, {for_bash[0]}},
-        {"/bin/ksh93", ClearCaseUsage::on, {for_bash[1]}},
-        {"/bin/ksh", ClearCaseUsage::off, {for_bash[0]}},
-        {"/bin/zsh", ClearCaseUsage::off, {}},
-        {"/bin/sh", ClearCaseUsage::on, {}},
-        {"/opt/bash/csh", ClearCaseUsage::off, {for_csh[0], for_bash[0]}},
+    const std::string path = "/home/u/.orvik-status0";
+    const PromptHook csh_on{
+        HookKind::csh,
+        R"(alias precmd 'printf "P:%s\nC:%s\nH:%s\nU:%s\nV:%s\n" "$prompt" "$cwd" "$HOST" "$USER" "$CLEARCASE_ROOT" >! /home/u/.orvik-status0')"};
+    const PromptHook csh_off{
+        HookKind::csh,
+        R"(alias precmd 'printf "P:%s\nC:%s\nH:%s\nU:%s\nV:Not_used\n" "$prompt" "$cwd" "$HOST" "$USER"  >! /home/u/.orvik-status0')"};
+    const PromptHook bash_on{
+        HookKind::bash,
+        R"(PROMPT_COMMAND='printf "P:%s\nC:%s\nH:%s\nU:%s\nV:%s\n" "$PS1" "$PWD" "$HOSTNAME" "$USER" "$CLEARCASE_ROOT" > /home/u/.orvik-status0')"};
+    const PromptHook bash_off{
+        HookKind::bash,
+        R"(PROMPT_COMMAND='printf "P:%s\nC:%s\nH:%s\nU:%s\nV:Not_used\n" "$PS1" "$PWD" "$HOSTNAME" "$USER" > /home/u/.orvik-status0')"};
+    const PromptHook quoted{
+        HookKind::bash,
+        R"(PROMPT_COMMAND='printf "P:%s\nC:%s\nH:%s\nU:%s\nV:Not_used\n" "$PS1" "$PWD" "$HOSTNAME" "$USER" > '\''/a b'\''')"};
+    const struct {
+        const char* shell;
+        ClearCaseUsage usage;
+        std::string status_path;
+        std::vector<PromptHook> expected;
+    } cases[] = {
+        {"/bin/csh", ClearCaseUsage::off, path, {csh_off}},
+        {"/bin/tcsh", ClearCaseUsage::on, path, {csh_on}},
+        {"/bin/bash", ClearCaseUsage::off, path, {bash_off}},
+        {"/bin/ksh93", ClearCaseUsage::on, path, {bash_on}},
+        {"/bin/zsh", ClearCaseUsage::off, path, {}},
+        {"/bin/sh", ClearCaseUsage::on, path, {}},
+        {"/opt/bash/csh", ClearCaseUsage::off, path, {csh_off, bash_off}},
+        {"/bin/bash", ClearCaseUsage::off, "/a b", {quoted}},
+        {"/bin/bash", ClearCaseUsage::off, "", {}},
     };
-    for (const Case& c : cases) {
-        EXPECT_EQ(prompt_hooks(c.shell, c.usage, status_path), c.expected) << c.shell;
+    for (const auto& [shell, usage, status_path, expected] : cases) {
+        EXPECT_EQ(prompt_hooks(shell, usage, status_path), expected) << shell << ' ' << status_path;
     }
-}
-
-TEST(PromptHook, QuotesAStatusPathThatTheShellWouldSplit) {
-    const auto hooks = prompt_hooks("/bin/bash", ClearCaseUsage::off, "/home/a b/.orvik-status0");
-    ASSERT_EQ(hooks.size(), 1U);
-    EXPECT_TRUE(hooks[0].text.ends_with(R"( > '\''/home/a b/.orvik-status0'\''')")) << hooks[0].text;
-}
-
-TEST(PromptHook, IsNotMadeWithoutAStatusFile) {
-    EXPECT_EQ(prompt_hooks("/bin/bash", ClearCaseUsage::off, ""), std::vector<PromptHook>());
 }
 
 }  // namespace

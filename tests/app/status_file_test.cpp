@@ -4,45 +4,40 @@
 #include "tests/support/scratch_directory.h"
 
 #include <filesystem>
-#include <fstream>
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
 namespace {
 
+using namespace std::string_literals;
 namespace fs = std::filesystem;
 
-struct Case {
-    const char* name;
-    std::string contents;
-    ShellStatus expected;
-};
-
-class StatusFile : public testing::TestWithParam<Case> {};
-
-TEST_P(StatusFile, IsParsed) { EXPECT_EQ(parse_status(GetParam().contents), GetParam().expected); }
-
-INSTANTIATE_TEST_SUITE_P(
-    All, StatusFile,
-    testing::Values(Case{"Whole", "P:$ \nC:/tmp\nH:h\nU:u\nV:/view/v\n", {"$ ", "/tmp", "h", "u", "/view/v"}},
-                    Case{"Empty", "", {}}, Case{"HalfWritten", "P:$ \nC:/tm", {.prompt = "$ ", .cwd = "/tm"}},
-                    Case{"ValuesMissing", "P:\nC:\nH:h\nU\nV:\n", {.host = "h"}},
-                    Case{"KeyAnywhereInTheLine", "xP:a\n", {.prompt = "a"}},
-                    Case{"DirectoryHoldingAKeyIsTakenForIt",
-                         "P:$\nC:/tmp/P:x\nH:h\n",
-                         {.prompt = "/tmp/P:x", .host = "h"}},
-                    Case{"LastLineOfAKeyHolds", "C:/a\nC:/b\n", {.cwd = "/b"}},
-                    Case{"ColonsInTheValueStay", "C:/a:b:c\n", {.cwd = "/a:b:c"}},
-                    Case{"ColonsInFrontAreSkipped", "::C:/a\n", {.cwd = "/a"}},
-                    Case{"NulEndsTheLine", std::string("C:/a\0b\nH:h\n", 11), {.cwd = "/a", .host = "h"}},
-                    Case{"LongValuesAreCut",
-                         "H:" + std::string(200, 'h') + "\nV:" + std::string(200, 'v') + "\n",
-                         {.host = std::string(79, 'h'), .view = std::string(99, 'v')}},
-                    Case{"LongLineIsTakenInPieces",
-                         "C:/" + std::string(1020, 'd') + "H:in the second piece\n",
-                         {.cwd = "/" + std::string(1020, 'd'), .host = "in the second piece"}}),
-    [](const auto& test) { return test.param.name; });
+TEST(StatusFile, IsParsed) {
+    const struct {
+        const char* name;
+        std::string contents;
+        ShellStatus expected;
+    } cases[] = {
+        {"whole", "P:$ \nC:/tmp\nH:h\nU:u\nV:/view/v\n", {"$ ", "/tmp", "h", "u", "/view/v"}},
+        {"half written", "P:$ \nC:/tm", {.prompt = "$ ", .cwd = "/tm"}},
+        {"values missing", "P:\nC:\nH:h\nU\nV:\n", {.host = "h"}},
+        {"key anywhere in the line", "xP:a\n", {.prompt = "a"}},
+        {"directory holding a key", "P:$\nC:/tmp/P:x\nH:h\n", {.prompt = "/tmp/P:x", .host = "h"}},
+        {"last line of a key holds", "C:/a\nC:/b\n", {.cwd = "/b"}},
+        {"colons in the value stay", "::C:/a:b:c\n", {.cwd = "/a:b:c"}},
+        {"NUL ends the line", "C:/a\0b\nH:h\n"s, {.cwd = "/a", .host = "h"}},
+        {"long values are cut",
+         "H:" + std::string(200, 'h') + "\nV:" + std::string(200, 'v') + "\n",
+         {.host = std::string(79, 'h'), .view = std::string(99, 'v')}},
+        {"long line is taken in pieces",
+         "C:/" + std::string(1020, 'd') + "H:in the second piece\n",
+         {.cwd = "/" + std::string(1020, 'd'), .host = "in the second piece"}},
+    };
+    for (const auto& [name, contents, expected] : cases) {
+        EXPECT_EQ(parse_status(contents), expected) << name;
+    }
+}
 
 TEST(StatusLine, ShowsWhatIsEnabledInItsOrder) {
     const ShellStatus status{.host = "h", .user = "u", .view = "/view/v"};
@@ -52,46 +47,37 @@ TEST(StatusLine, ShowsWhatIsEnabledInItsOrder) {
     EXPECT_EQ(status_line(status, 0, 1), "");
 }
 
-TEST(StatusFileCreation, TakesTheSmallestFreeNumberForItsOwnerOnly) {
+TEST(StatusFileCreation, TakesTheSmallestFreeNumberForItsOwnerOnlyAndFollowsNoLink) {
     const ScratchDirectory home;
-    std::ofstream(home.path() / ".orvik-status0") << "of another";
+    home.write(".orvik-status0", "of another");
+    fs::create_symlink(home / "target", home / ".orvik-status1");
+    home.write(".orvik-status3", "");
     const std::string path = create_status_file(home.path());
-    EXPECT_EQ(path, home.path() / ".orvik-status1");
-    struct stat info {};
-    ASSERT_EQ(stat(path.c_str(), &info), 0);
-    EXPECT_EQ(info.st_mode & 0777U, 0600U);
-    EXPECT_EQ(info.st_size, 0);
-    EXPECT_EQ(fs::file_size(home.path() / ".orvik-status0"), 10U);
-}
-
-TEST(StatusFileCreation, FollowsNoLink) {
-    const ScratchDirectory home;
-    fs::create_symlink(home.path() / "target", home.path() / ".orvik-status0");
-    EXPECT_EQ(create_status_file(home.path()), home.path() / ".orvik-status1");
-    EXPECT_FALSE(fs::exists(home.path() / "target"));
+    EXPECT_EQ(path, home / ".orvik-status2");
+    EXPECT_EQ(fs::status(path).permissions(), fs::perms{0600});
+    EXPECT_EQ(fs::file_size(path), 0U);
+    EXPECT_EQ(read_file(home / ".orvik-status0"), "of another");
+    EXPECT_FALSE(fs::exists(home / "target"));
 }
 
 TEST(StatusFileCreation, GivesUpWhenAllNumbersAreTaken) {
     const ScratchDirectory home;
     for (int number = 0; number < 199; ++number) {
-        std::ofstream(home.path() / (".orvik-status" + std::to_string(number)));
+        home.write(".orvik-status" + std::to_string(number), "");
     }
-    EXPECT_EQ(create_status_file(home.path()), home.path() / ".orvik-status199");
+    EXPECT_EQ(create_status_file(home.path()), home / ".orvik-status199");
     EXPECT_EQ(create_status_file(home.path()), "");
-    EXPECT_EQ(create_status_file(home.path() / "missing"), "");
+    EXPECT_EQ(create_status_file(home / "missing"), "");
 }
 
 TEST(StatusFileReading, TakesRegularFilesOnly) {
     const ScratchDirectory home;
-    const std::string fifo = home.path() / "fifo";
-    ASSERT_EQ(mkfifo(fifo.c_str(), 0600), 0);
-    std::ofstream(home.path() / "file") << "C:/tmp\n";
-    EXPECT_EQ(read_status_file(home.path() / "file"), "C:/tmp\n");
+    ASSERT_EQ(mkfifo((home / "fifo").c_str(), 0600), 0);
+    EXPECT_EQ(read_status_file(home.write("file", "C:/tmp\n")), "C:/tmp\n");
     EXPECT_EQ(read_status_file(home.write("huge", std::string(70'000, 'x'))), std::string(65'536, 'x'));
-    EXPECT_EQ(read_status_file(fifo), std::nullopt);
-    EXPECT_EQ(read_status_file(home.path()), std::nullopt);
-    EXPECT_EQ(read_status_file(home.path() / "missing"), std::nullopt);
-    EXPECT_EQ(read_status_file(""), std::nullopt);
+    for (const std::string path : {home / "fifo", home.path(), home / "missing", fs::path()}) {
+        EXPECT_EQ(read_status_file(path), std::nullopt) << path;
+    }
 }
 
 }  // namespace

@@ -53,18 +53,29 @@ TEST_F(StatusDisplayTest, TheTimerShowsWhatTheShellWrote) {
         [] { return main_window().right_footer() == "Host: h   User: u   PID: 123   View: v   "; }, 5000));
 }
 
-TEST_F(StatusDisplayTest, ALaterTimerReplacesAPendingOne) {
+TEST_F(StatusDisplayTest, ALaterTimerReplacesAPendingOneAndDisplayOffArmsNone) {
+    constexpr int off = 1;
     shell_writes("C:/first\n");
+    status_display().set_left_footer("text");
+    status_display().display.set_value(off);
+    StatusDisplayOnOff();
+    EXPECT_EQ(status_display().left_footer(), "");
+    SetupTimer(1);
+    status_display().display.set_value(0);
+    const auto stays_empty_for = [](int milliseconds) {
+        bool over = false;
+        QTimer::singleShot(milliseconds, [&] { over = true; });
+        EXPECT_TRUE(QTest::qWaitFor([&] { return over; }, 5000));
+        return main_window().cwd.text().empty();
+    };
+    EXPECT_TRUE(stays_empty_for(100));
     SetupTimer(100);
     SetupTimer(400);
-    bool first_period_over = false;
-    QTimer::singleShot(250, [&] { first_period_over = true; });
-    ASSERT_TRUE(QTest::qWaitFor([&] { return first_period_over; }, 5000));
-    EXPECT_EQ(main_window().cwd.text(), "");
+    EXPECT_TRUE(stays_empty_for(250));
     EXPECT_TRUE(cwd_becomes("/first"));
 }
 
-TEST_F(StatusDisplayTest, WithoutAFileNothingChanges) {
+TEST_F(StatusDisplayTest, WithoutAFileNothingChangesAndTheEndRemovesIt) {
     shell_writes("C:/tmp\n");
     DisplayStatusTimer();
     std::filesystem::remove(file());
@@ -73,25 +84,6 @@ TEST_F(StatusDisplayTest, WithoutAFileNothingChanges) {
     shell_writes("");
     DisplayStatusTimer();
     EXPECT_EQ(main_window().cwd.text(), "");
-}
-
-TEST_F(StatusDisplayTest, DisplayOffArmsNoTimer) {
-    constexpr int off = 1;
-    shell_writes("C:/tmp\n");
-    status_display().set_left_footer("text");
-    status_display().display.set_value(off);
-    StatusDisplayOnOff();
-    EXPECT_EQ(status_display().left_footer(), "");
-    SetupTimer(1);
-    bool later = false;
-    QTimer::singleShot(100, [&] { later = true; });
-    ASSERT_TRUE(QTest::qWaitFor([&] { return later; }, 5000));
-    EXPECT_EQ(main_window().cwd.text(), "");
-}
-
-TEST_F(StatusDisplayTest, EndsWithItsFile) {
-    shell_writes("C:/tmp\n");
-    SetupTimer(1);
     end_status_display();
     EXPECT_FALSE(std::filesystem::exists(file()));
 }
