@@ -1,10 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/messages.h"
 #include "settings/history.h"
-#include "settings/notify.h"
-#include "tests/app/recorded_windows.h"
-#include "ui/command_history_manager.h"
-#include "ui/command_history_setup.h"
+#include "tests/settings/history_windows.h"
 #include "ui/message_board.h"
 #include "ui/text_editor_setup.h"
 
@@ -13,21 +10,14 @@
 
 namespace {
 
-using Rows = std::vector<std::string>;
-
-const std::string header = "$ORVIK_HISTORY\n";
-
-class HistoryManagerTest : public RecordedWindows {
+class HistoryManagerTest : public HistoryWindows {
   protected:
     void SetUp() override {
-        RecordedWindows::SetUp();
-        CommandHistorySetupInsertDup();
+        HistoryWindows::SetUp();
         multiclick_timeout = 400'000;
         drag_threshold = 5;
     }
 
-    [[nodiscard]] std::string file() const { return home / ".orvik-history"; }
-    static CommandHistoryManager& manager() { return command_history_manager(); }
     static QListView& view() { return control<QListView>(manager(), "Command History Manager list"); }
     static QPoint middle_of(int row) { return view().visualRect(view().model()->index(row, 0)).center(); }
     static void click(int row) { QTest::mouseClick(view().viewport(), Qt::LeftButton, {}, middle_of(row)); }
@@ -49,8 +39,8 @@ class HistoryManagerTest : public RecordedWindows {
     }
 };
 
-TEST_F(HistoryManagerTest, ClickTakesARowDoubleClickRunsIt) {
-    manager().list.set_rows({"one", "two", "", "a\x1b[b"});
+TEST_F(HistoryManagerTest, ClickAndKeysTakeARowDoubleClickAndReturnRunIt) {
+    list().set_rows({"one", "two", "", "a\x1b[b"});
     show();
     manager().set_left_footer("old");
     main_window().set_left_footer("old");
@@ -60,6 +50,11 @@ TEST_F(HistoryManagerTest, ClickTakesARowDoubleClickRunsIt) {
     double_click(0);
     EXPECT_EQ(main_window().command.text(), "");
     EXPECT_EQ(typed(), "one\n");
+    QTest::keyClick(&view(), Qt::Key_Down);
+    EXPECT_EQ(main_window().command.text(), "two");
+    QTest::keyClick(&view(), Qt::Key_Return);
+    EXPECT_EQ(main_window().command.text(), "");
+    EXPECT_EQ(typed(), "two\n");
     double_click(2);
     EXPECT_EQ(manager().left_footer(), "No command specified");
     double_click(3);
@@ -68,109 +63,93 @@ TEST_F(HistoryManagerTest, ClickTakesARowDoubleClickRunsIt) {
     EXPECT_EQ(typed(), "");
 }
 
-TEST_F(HistoryManagerTest, KeysTakeAndRunRows) {
-    manager().list.set_rows({"one", "two"});
-    show();
-    manager().list.select(0);
-    QTest::keyClick(&view(), Qt::Key_Down);
-    EXPECT_EQ(main_window().command.text(), "two");
-    QTest::keyClick(&view(), Qt::Key_Return);
-    EXPECT_EQ(main_window().command.text(), "");
-    EXPECT_EQ(typed(), "two\n");
-}
-
 TEST_F(HistoryManagerTest, BeginEndAndPositionSelectRows) {
     EXPECT_EQ(after(CommandHistoryBegin), Outcome("", 0, std::nullopt));
     EXPECT_EQ(after(CommandHistoryEnd), Outcome("", 0, std::nullopt));
-    manager().list.set_rows({"a", "b", "c"});
+    list().set_rows({"a", "b", "c"});
     EXPECT_EQ(after(CommandHistoryEnd), Outcome("", 2, 2));
     EXPECT_EQ(after(CommandHistoryBegin), Outcome("", 0, 0));
-    for (const auto& [typed_position, outcome] :
-         {std::pair(1, Outcome("", 1, 1)), std::pair(3, Outcome("", 3, 1)),
-          std::pair(4, Outcome("There is no such row", 4, 1)),
-          std::pair(-1, Outcome("There is no such row", -1, 1))}) {
-        manager().position.set_value(typed_position);
-        EXPECT_EQ(after(CommandHistoryPosition), outcome);
+    for (const auto& [position, footer] :
+         {std::pair(1, ""), {3, ""}, {4, "There is no such row"}, {-1, "There is no such row"}}) {
+        manager().position.set_value(position);
+        EXPECT_EQ(after(CommandHistoryPosition), Outcome(footer, position, 1));
     }
     auto& field = control<QSpinBox>(manager(), "Position");
     manager().position.set_value(1);
     QTest::keyClick(&field, Qt::Key_Up);
-    EXPECT_EQ(manager().list.selected(), 2);
+    EXPECT_EQ(list().selected(), 2);
     manager().position.set_value(0);
     QTest::keyClick(&field, Qt::Key_Return);
-    EXPECT_EQ(manager().list.selected(), 0);
+    EXPECT_EQ(list().selected(), 0);
 }
 
 TEST_F(HistoryManagerTest, FindsRows) {
     EXPECT_EQ(after(CommandHistoryFindNext), Outcome("Nothing to search for", 0, std::nullopt));
     manager().find_text.set_text("ak");
     EXPECT_EQ(after(CommandHistoryFind), Outcome("List is empty", 0, std::nullopt));
-    manager().list.set_rows({"ls", "make", "AK", "make all"});
+    list().set_rows({"ls", "make", "AK", "make all"});
     EXPECT_EQ(after(CommandHistoryFindNext), Outcome("Use find first", 0, std::nullopt));
     EXPECT_EQ(after(CommandHistoryFind), Outcome("", 1, 1));
     EXPECT_EQ(after(CommandHistoryFindNext), Outcome("", 3, 3));
     EXPECT_EQ(after(CommandHistoryFindNext), Outcome("Text not found", 3, 3));
     EXPECT_EQ(after(CommandHistoryFindText), Outcome("", 1, 1));
-    manager().list.set_rows({"make"});
+    list().set_rows({"make"});
     EXPECT_EQ(after(CommandHistoryFindNext), Outcome("Use find first", 1, std::nullopt));
-    manager().find_text.set_text("make it");
-    EXPECT_EQ(after(CommandHistoryFind), Outcome("Text not found", 1, std::nullopt));
 }
 
 TEST_F(HistoryManagerTest, SortsByBytesWhatIsNotTooMuch) {
-    manager().list.set_rows({"one"});
-    EXPECT_EQ(std::get<0>(after(CommandHistorySort)), "Nothing to sort");
-    manager().list.set_rows({"b", "\xC3\xA9", "B", "a", "a"});
-    EXPECT_EQ(std::get<0>(after(CommandHistorySort)), "");
-    EXPECT_EQ(manager().list.all_rows(), (Rows{"B", "a", "a", "b", "\xC3\xA9"}));
+    list().set_rows({"one"});
+    EXPECT_EQ(after(CommandHistorySort), Outcome("Nothing to sort", 0, std::nullopt));
+    list().set_rows({"b", "\xC3\xA9", "B", "a", "a"});
+    EXPECT_EQ(after(CommandHistorySort), Outcome("", 0, std::nullopt));
+    EXPECT_EQ(list().all_rows(), (Rows{"B", "a", "a", "b", "\xC3\xA9"}));
     Rows rows;
     for (int i = 10'000 + 8196; i > 10'000; --i) {
         rows.push_back(std::to_string(i));
     }
-    manager().list.set_rows(rows);
-    EXPECT_EQ(std::get<0>(after(CommandHistorySort)), "Too many commands to sort");
-    EXPECT_EQ(manager().list.all_rows(), rows);
+    list().set_rows(rows);
+    EXPECT_EQ(after(CommandHistorySort), Outcome("Too many commands to sort", 0, std::nullopt));
+    EXPECT_EQ(list().all_rows(), rows);
     rows.pop_back();
-    manager().list.set_rows(rows);
-    EXPECT_EQ(std::get<0>(after(CommandHistorySort)), "");
+    list().set_rows(rows);
+    EXPECT_EQ(after(CommandHistorySort), Outcome("", 0, std::nullopt));
     std::ranges::reverse(rows);
-    EXPECT_EQ(manager().list.all_rows(), rows);
+    EXPECT_EQ(list().all_rows(), rows);
 }
 
 TEST_F(HistoryManagerTest, SavesAndUpdates) {
-    manager().list.set_rows({"make"});
-    EXPECT_EQ(std::get<0>(after(CommandHistorySaveButton)), "");
+    list().set_rows({"make"});
+    EXPECT_EQ(after(CommandHistorySaveButton), Outcome("", 0, std::nullopt));
     EXPECT_EQ(read_file(file()), header + "make\n");
     EXPECT_EQ(command_history_setup().history_file_loaded.text(), file());
-    command_history_setup().insert_duplicates.set_value(1);
-    CommandHistorySetupInsertDup();
     EXPECT_EQ(after(UpdateCommandHistory), Outcome("", 1, std::nullopt));
-    EXPECT_EQ(manager().list.all_rows(), Rows{"make"});
+    EXPECT_EQ(list().all_rows(), Rows{"make"});
     home.write(".orvik-history", "make\n");
-    EXPECT_EQ(std::get<0>(after(UpdateCommandHistory)), "Not a valid history file");
+    EXPECT_EQ(after(UpdateCommandHistory), Outcome("Not a valid history file", 1, std::nullopt));
     std::filesystem::remove(file());
-    EXPECT_EQ(std::get<0>(after(UpdateCommandHistory)), "History file not found");
+    EXPECT_EQ(after(UpdateCommandHistory), Outcome("History file not found", 1, std::nullopt));
     std::filesystem::create_directory(file());
-    EXPECT_EQ(std::get<0>(after(CommandHistorySaveButton)), "Can't save history file");
+    EXPECT_EQ(after(CommandHistorySaveButton), Outcome("Can't save history file", 1, std::nullopt));
 }
 
 TEST_F(HistoryManagerTest, EditOpensTheSavedFileInTheUsersEditor) {
-    const std::string editor = home.write_script("editor", "#!/bin/sh\nprintf %s \"$2\" >\"$1\"\n");
+    const std::string editor = home.write_script("editor", "#!/bin/sh\nprintf %s \"$2\" >\"$1\"\n").string() +
+                               " " + (home / "opened").string();
     home_dir = home / "it's $(id)";
     const std::string path = home_dir + "/.orvik-history";
-    manager().list.set_rows({"make"});
+    list().set_rows({"make"});
     text_editor_setup().user_editor.set_text("");
-    EXPECT_EQ(std::get<0>(after(EditCommandHistory)), "User editor not specified");
-    text_editor_setup().user_editor.set_text(editor + " " + (home / "opened").string());
-    EXPECT_EQ(std::get<0>(after(EditCommandHistory)), "Can't save history file");
+    EXPECT_EQ(after(EditCommandHistory), Outcome("User editor not specified", 0, std::nullopt));
+    text_editor_setup().user_editor.set_text(editor);
+    EXPECT_EQ(after(EditCommandHistory), Outcome("Can't save history file", 0, std::nullopt));
     std::filesystem::create_directory(home_dir);
     clear_window(message_board().text);
-    EXPECT_EQ(std::get<0>(after(EditCommandHistory)), "");
+    EXPECT_EQ(after(EditCommandHistory), Outcome("", 0, std::nullopt));
     EXPECT_EQ(command_history_setup().history_file_loaded.text(), path);
     EXPECT_EQ(read_file(path), header + "make\n");
     EXPECT_TRUE(wait([&] { return read_file(home / "opened") == path; })) << read_file(home / "opened");
-    EXPECT_EQ(message_board().text.text(), editor + " " + (home / "opened").string() + " '" +
-                                               (home / "it'\\''s $(id)").string() + "/.orvik-history' &\n");
+    EXPECT_EQ(message_board().text.text(),
+              editor + " '" + (home / "it'\\''s $(id)").string() + "/.orvik-history' &\n");
 }
 
 }  // namespace

@@ -16,9 +16,8 @@
 #include <QWidget>
 
 #include <algorithm>
-#include <functional>
 #include <optional>
-#include <set>
+#include <tuple>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -31,111 +30,83 @@ namespace fs = std::filesystem;
 
 const std::string header = "$ORVIK_SETUP\n";
 
-/// A line of the file, the control it belongs to, and another value than the built-in one.
-struct Row {
-    std::size_t line;
+/// A control of a line of the file, and another value than the built-in one.
+struct Control {
+    Control(const char* its_name) : name(its_name) {}  // NOLINT: a name says it all
+    Control(const char* its_name, std::string its_value, std::string its_choice = "")
+        : name(its_name), value(std::move(its_value)), choice(std::move(its_choice)) {}
+
+    const char* name;                  ///< its accessible name
+    std::optional<std::string> value;  ///< in the file; without one, made of the line's number
+    std::string choice;                ///< the items that are then checked
+};
+
+/// Controls of a window that have lines one after the other.
+struct Block {
+    std::size_t first_line;
     const char* window;
-    const char* control;                  ///< its accessible name
-    std::optional<std::string> value{};   ///< in the file; without one, a text of its own
-    std::optional<std::string> choice{};  ///< the items that are then checked
-
-    [[nodiscard]] std::string written() const {
-        return value.value_or("text of line " + std::to_string(line));
-    }
-    [[nodiscard]] std::string shown() const { return choice.value_or(written()); }
+    std::vector<Control> controls;
 };
 
-// clang-format off
-const std::vector<Row> rows{
-    {2, "Environment Setup Window", "Working Directory 1:"},
-    {3, "Environment Setup Window", "Working Directory 2:", "  two  blanks "},
-    {4, "Environment Setup Window", "Working Directory 3:"},
-    {5, "Environment Setup Window", "Working Directory 4:", "/\xC3\xBC\xE2\x80\xA6/\xF0\x9F\x98\x80"},
-    {6, "Environment Setup Window", "Environment Setup File:", "\t$HOME/a\xFF\x80.sh"},
-    {7, "File Tree Browser", "Root Directory:"},
-    {8, "Default Settings", "Print Command:", "100"},
-    {9, "Default Settings", "List Directory Command:", ""},
-    {10, "Text Editor Setup", "X coordinate:", "-2147483648"},
-    {11, "Text Editor Setup", "Y coordinate:", "7011"},
-    {12, "Text Editor Setup", "Width: (pixels)", "7012"},
-    {13, "Text Editor Setup", "Height: (pixels)", "7013"},
-    {14, "Text Editor Setup", "Font Size:", "3", "Extra large"},
-    {15, "Default Settings", "Command Line Editing", "1", "Enabled"},
-    {16, "Define Label", "Label:"},
-    {18, "Edit Menu Setup", "Hide", "2", "Directories"},
-    {19, "User Buttons", "Label1:"},
-    {20, "User Buttons", "Label2:"},
-    {21, "User Buttons", "Label3:"},
-    {22, "User Buttons", "Label4:"},
-    {23, "User Buttons", "Label5:"},
-    {24, "User Buttons", "Label6:"},
-    {25, "User Buttons", "Command1:"},
-    {26, "User Buttons", "Command2:"},
-    {27, "User Buttons", "Command3:"},
-    {28, "User Buttons", "Command4:"},
-    {29, "User Buttons", "Command5:"},
-    {30, "User Buttons", "Command6:"},
-    {31, "User Buttons", "Button Window", "0", "Hide"},
-    {32, "Command List Setup", "Commands Directory:"},
-    {33, "Command List Setup", "Follow Window Size", "0", "No"},
-    {34, "Command List Setup", "Window Width:", "7034"},
-    {35, "Command History Setup", "Store commands longer than", "7035"},
-    {36, "Command History Setup", "Insert Duplicates", "1", "Yes"},
-    {37, "Command History Setup", "Number of entries", "7037"},
-    {38, "Command History Setup", "Menu Action", "2", "Both"},
-    {39, "Command History Setup", "Save To History File", "1", "When Quitting Orvik"},
-    {40, "Command History Setup", "History File Stored", "1", "Start-up Directory"},
-    {41, "Text Editor Setup", "Width: (chars)", "7041"},
-    {42, "Text Editor Setup", "Height: (chars)", "7042"},
-    {43, "Function Keys", "Function Key 7 Command:"},
-    {44, "Function Keys", "Function Key 8 Command:"},
-    {45, "Function Keys", "Function Key 9 Command:"},
-    {46, "ClearCase Setup", "ClearTool Alias:"},
-    {47, "ClearCase Setup", "Config Spec Directory:"},
-    {48, "Command History Setup", "History List", "1", "Off"},
-    {49, "Status Display", "Display", "1", "Off"},
-    {50, "Status Display", "Enable", "9", "Clear Case View, User Name"},
-    {51, "Edit Menu Setup", "Update Directory", "1", "Current"},
-    {52, "Bookmarks", "Bookmark File:"},
-    {54, "File Tree Browser", "Font Size", "2", "Large"},
-    {55, "Default Settings", "Look For Ending Delimiter", "0"},
-    {56, "Default Settings", "Prompt Ending Delimiter:"},
-    {57, "Environment Setup Window", "Notebook Directory:"},
-    {58, "Notebook", "File Name:"},
-    {59, "Environment Setup Window", "Messageboard Directory:"},
-    {60, "Message Board", "File Name:"},
-    {61, "File Tree Browser", "Show Dot Files", "1"},
-    {62, "Text Editor Setup", "Text Editor", "3", "nedit"},
-    {63, "Text Editor Setup", "User Editor:"},
-    {64, "File Tree Browser", "Max Files", "2147483647"},
-    {65, "Remote Hosts", "Host 1:"},
-    {66, "Remote Hosts", "Host 2:"},
-    {67, "Remote Hosts", "Host 3:"},
-    {68, "Remote File Transfer", "Destination Directory:"},
-    {69, "Remote File Transfer", "Source File(s):"},
-    {70, "Remote File Transfer", "User Name:"},
-    {71, "Remote Hosts", "Host 4:"},
-    {72, "Remote Hosts", "Host 5:"},
-    {73, "Remote Hosts", "User ID: (host 1)"},
-    {74, "Remote Hosts", "User ID: (host 2)"},
-    {75, "Remote Hosts", "User ID: (host 3)"},
-    {76, "Remote Hosts", "User ID: (host 4)"},
-    {77, "Remote Hosts", "User ID: (host 5)"},
-    {78, "Generate File List", "File Name:"},
-    {79, "Default Settings", "Open Long Command Window", "1"},
-    {80, "Plot Setup Window", "Plot Command:"},
-    {81, "USB Memory", "Name:"},
-    {82, "Copy Files to Clearcase Vob", "Script File:"},
-    {83, "Default Settings", "Clear Command Line", "1"},
-    {84, "ClearCase Setup", "Enable Clearcase Usage", "1"},
-    {85, "Checkout from Repository", "Repository 1 URL:"},
-    {86, "Remote copy", "Remote Destination:"},
-    {87, "Remote copy", "Remote User:"},
-    {88, "Remote copy", "Remote Host:"},
-    {89, "Checkout from Repository", "Repository 2 URL:"},
-    {90, "Checkout from Repository", "Repository 3 URL:"},
+const Block blocks[] = {
+    {2,
+     "Environment Setup Window",
+     {"Working Directory 1:",
+      {"Working Directory 2:", "  two  blanks "},
+      "Working Directory 3:",
+      {"Working Directory 4:", "/\xC3\xBC\xE2\x80\xA6/\xF0\x9F\x98\x80"},
+      {"Environment Setup File:", "\t$HOME/a\xFF\x80.sh"}}},
+    {7, "File Tree Browser", {"Root Directory:"}},
+    {8, "Default Settings", {{"Print Command:", "100"}, {"List Directory Command:", ""}}},
+    {10,
+     "Text Editor Setup",
+     {{"X coordinate:", "-2147483648"},
+      "Y coordinate:",
+      "Width: (pixels)",
+      "Height: (pixels)",
+      {"Font Size:", "3", "Extra large"}}},
+    {15, "Default Settings", {{"Command Line Editing", "1", "Enabled"}}},
+    {16, "Define Label", {"Label:"}},
+    {18, "Edit Menu Setup", {{"Hide", "2", "Directories"}}},
+    {19, "User Buttons", {"Label1:", "Label2:", "Label3:", "Label4:", "Label5:", "Label6:"}},
+    {25, "User Buttons", {"Command1:", "Command2:", "Command3:", "Command4:", "Command5:", "Command6:"}},
+    {31, "User Buttons", {{"Button Window", "0", "Hide"}}},
+    {32, "Command List Setup", {"Commands Directory:", {"Follow Window Size", "0", "No"}, "Window Width:"}},
+    {35, "Command History Setup", {"Store commands longer than", {"Insert Duplicates", "1", "Yes"}}},
+    {37, "Command History Setup", {"Number of entries", {"Menu Action", "2", "Both"}}},
+    {39, "Command History Setup", {{"Save To History File", "1", "When Quitting Orvik"}}},
+    {40, "Command History Setup", {{"History File Stored", "1", "Start-up Directory"}}},
+    {41, "Text Editor Setup", {"Width: (chars)", "Height: (chars)"}},
+    {43, "Function Keys", {"Function Key 7 Command:", "Function Key 8 Command:", "Function Key 9 Command:"}},
+    {46, "ClearCase Setup", {"ClearTool Alias:", "Config Spec Directory:"}},
+    {48, "Command History Setup", {{"History List", "1", "Off"}}},
+    {49, "Status Display", {{"Display", "1", "Off"}, {"Enable", "3", "Clear Case View, Host Name"}}},
+    {51, "Edit Menu Setup", {{"Update Directory", "1", "Current"}}},
+    {52, "Bookmarks", {"Bookmark File:"}},
+    {54, "File Tree Browser", {{"Font Size", "2", "Large"}}},
+    {55, "Default Settings", {{"Look For Ending Delimiter", "0"}, "Prompt Ending Delimiter:"}},
+    {57, "Environment Setup Window", {"Notebook Directory:"}},
+    {58, "Notebook", {"File Name:"}},
+    {59, "Environment Setup Window", {"Messageboard Directory:"}},
+    {60, "Message Board", {"File Name:"}},
+    {61, "File Tree Browser", {{"Show Dot Files", "1"}}},
+    {62, "Text Editor Setup", {{"Text Editor", "3", "nedit"}, "User Editor:"}},
+    {64, "File Tree Browser", {{"Max Files", "2147483647"}}},
+    {65, "Remote Hosts", {"Host 1:", "Host 2:", "Host 3:"}},
+    {68, "Remote File Transfer", {"Destination Directory:", "Source File(s):", "User Name:"}},
+    {71, "Remote Hosts", {"Host 4:", "Host 5:", "User ID: (host 1)", "User ID: (host 2)"}},
+    {75, "Remote Hosts", {"User ID: (host 3)", "User ID: (host 4)", "User ID: (host 5)"}},
+    {78, "Generate File List", {"File Name:"}},
+    {79, "Default Settings", {{"Open Long Command Window", "1"}}},
+    {80, "Plot Setup Window", {"Plot Command:"}},
+    {81, "USB Memory", {"Name:"}},
+    {82, "Copy Files to Clearcase Vob", {"Script File:"}},
+    {83, "Default Settings", {{"Clear Command Line", "1"}}},
+    {84, "ClearCase Setup", {{"Enable Clearcase Usage", "1"}}},
+    {85, "Checkout from Repository", {"Repository 1 URL:"}},
+    {86, "Remote copy", {"Remote Destination:", "Remote User:", "Remote Host:"}},
+    {89, "Checkout from Repository", {"Repository 2 URL:", "Repository 3 URL:"}},
 };
-// clang-format on
 
 /// The control of a window as assistive programs see it; null when there is not exactly one of that name.
 QAccessibleInterface* find_control(const char* window, const char* name) {
@@ -197,36 +168,50 @@ class SetupFile : public testing::Test {
     ScratchDirectory home_;
 };
 
+/// A line that a control has, with another value than the built-in one.
+struct Row {
+    std::size_t line;
+    QAccessibleInterface* control;
+    std::string written;  ///< in the file
+    std::string shown;    ///< by the control
+};
+
 class SetupControls : public SetupFile {
   protected:
     void SetUp() override {
         SetupFile::SetUp();
-        for (const Row& row : rows) {
-            controls_.push_back(find_control(row.window, row.control));
-            ASSERT_NE(controls_.back(), nullptr) << row.window << ' ' << row.control;
+        for (const Block& block : blocks) {
+            std::size_t line = block.first_line;
+            for (const Control& control : block.controls) {
+                QAccessibleInterface* found = find_control(block.window, control.name);
+                ASSERT_NE(found, nullptr) << block.window << ' ' << control.name;
+                const bool number = found->role() == QAccessible::SpinBox;
+                const std::string own = (number ? "7" : "text of line ") + std::to_string(line);
+                const std::string written = control.value.value_or(own);
+                rows_.push_back({line++, found, written, control.choice.empty() ? written : control.choice});
+            }
         }
     }
 
     [[nodiscard]] std::vector<std::string> all_shown() const {
         std::vector<std::string> texts;
-        std::ranges::transform(controls_, std::back_inserter(texts), shown);
+        std::ranges::transform(rows_, std::back_inserter(texts), shown, &Row::control);
         return texts;
     }
 
-  private:
-    std::vector<QAccessibleInterface*> controls_;
+    std::vector<Row> rows_;
 };
 
 TEST_F(SetupControls, EachGetsTheValueOfItsOwnLine) {
     const std::string built_in = file_with(17, "");
     const std::vector<std::string> before = all_shown();
-    for (std::size_t i = 0; i < rows.size(); ++i) {
-        ASSERT_NE(rows[i].shown(), before[i]) << "line " << rows[i].line;
+    for (std::size_t i = 0; i < rows_.size(); ++i) {
+        ASSERT_NE(rows_[i].shown, before[i]) << "line " << rows_[i].line;
         ASSERT_EQ(load(built_in), 1);
-        ASSERT_EQ(load(file_with(rows[i].line, rows[i].written())), 1);
+        ASSERT_EQ(load(file_with(rows_[i].line, rows_[i].written)), 1);
         std::vector<std::string> expected = before;
-        expected[i] = rows[i].shown();
-        EXPECT_EQ(all_shown(), expected) << "line " << rows[i].line;
+        expected[i] = rows_[i].shown;
+        EXPECT_EQ(all_shown(), expected) << "line " << rows_[i].line;
     }
 }
 
@@ -234,10 +219,11 @@ TEST_F(SetupControls, AllComeBackFromTheFileByteForByte) {
     std::array<std::string, setup_lines - 1> values;
     values[53 - 2] = "0";
     std::vector<std::string> expected;
-    for (const Row& row : rows) {
-        values.at(row.line - 2) = row.written();
-        expected.push_back(row.shown());
+    for (const Row& row : rows_) {
+        values.at(row.line - 2) = row.written;
+        expected.push_back(row.shown);
     }
+    EXPECT_EQ(rows_.size(), 87U);
     ASSERT_EQ(load(format_setup(values)), 1);
     EXPECT_EQ(all_shown(), expected);
     EXPECT_EQ(loaded_setup_file(), path());
@@ -245,63 +231,21 @@ TEST_F(SetupControls, AllComeBackFromTheFileByteForByte) {
     EXPECT_EQ(read_file(home_ / "copy"), format_setup(values));
 }
 
-TEST_F(SetupFile, HasALineForEachControl) {
-    std::size_t line = 2;
-    std::set<const void*> controls;
-    std::size_t unused = 0;
-    for (const SetupEntry& entry : setup_table()) {
-        EXPECT_EQ(entry.line, line++);
-        if (std::holds_alternative<UnusedLine>(entry.control)) {
-            ++unused;
-            continue;
-        }
-        std::visit(
-            [&]<typename Control>(const Control& control) {
-                if constexpr (std::is_pointer_v<Control>) {
-                    EXPECT_TRUE(controls.insert(control).second) << entry.line;
-                }
-            },
-            entry.control);
-    }
-    EXPECT_EQ(controls.size(), rows.size());
-    EXPECT_EQ(unused, 2U);
-}
-
-TEST_F(SetupFile, IsNotLoadedWhereThereIsNone) {
-    const std::vector<std::pair<int, std::function<void(const std::string&)>>> cases{
-        {0, [](const std::string& /*nothing is made*/) {}},
-        {0, [](const std::string& place) { fs::create_directory(place); }},
-        {0, [](const std::string& place) { mkfifo(place.c_str(), 0600); }},
-        {-1,
-         [&](const std::string& /*path*/) { home_.write("start/Orvik.setup", "ORVIK SETUP\nchanged\n"); }},
-        {-1, [&](const std::string& /*path*/) { home_.write("start/Orvik.setup", ""); }},
-    };
-    const std::array before = setup_values();
-    for (std::size_t i = 0; i < cases.size(); ++i) {
-        fs::remove(path());
-        cases[i].second(path());
-        EXPECT_EQ(load_setup(path()), cases[i].first) << i;
-        EXPECT_EQ(setup_values(), before) << i;
-    }
-}
-
 TEST_F(SetupFile, SetsWhatItDoesNotSayToNothing) {
     ASSERT_EQ(load(header + "only this"), 1);
+    std::size_t line = 2;
     for (const SetupEntry& entry : setup_table()) {
+        EXPECT_EQ(entry.line, line++);
         const bool is_text = std::holds_alternative<TextField*>(entry.control) || entry.line == 17;
-        EXPECT_EQ(setup_values().at(entry.line - 2), entry.line == 2 ? "only this"
-                                                     : is_text       ? ""
-                                                                     : "0")
-            << entry.line;
+        const std::string expected = is_text ? "" : "0";
+        EXPECT_EQ(setup_values().at(entry.line - 2), entry.line == 2 ? "only this" : expected) << entry.line;
     }
 }
 
 TEST_F(SetupFile, TakesTheNearestValueThatAControlCanHave) {
-    const std::vector<std::tuple<std::size_t, std::string, std::string>> cases{
-        {10, "none", "0"}, {10, "", "0"},   {10, " -7 8", "-7"}, {62, "7", "0"},
-        {62, "-1", "0"},   {62, "6x", "6"}, {50, "255", "15"},   {55, "2", "1"},
-        {55, "-1", "1"},   {17, "x", ""},   {53, "7", "0"},      {2, "a\r", "a\r"},
-    };
+    const std::tuple<std::size_t, std::string, std::string> cases[] = {
+        {10, "none", "0"}, {10, " -7 8", "-7"}, {62, "7", "0"}, {62, "-1", "0"}, {62, "6x", "6"},
+        {50, "255", "15"}, {55, "2", "1"},      {17, "x", ""},  {53, "7", "0"},  {2, "a\r", "a\r"}};
     for (const auto& [line, written, kept] : cases) {
         ASSERT_EQ(load(file_with(line, written)), 1);
         EXPECT_EQ(setup_values().at(line - 2), kept) << line << ' ' << written;
@@ -309,26 +253,27 @@ TEST_F(SetupFile, TakesTheNearestValueThatAControlCanHave) {
 }
 
 TEST_F(SetupFile, IsTakenFromTheStartupDirectoryOrElseFromHome) {
-    struct Case {
-        std::optional<std::string> start;
-        std::optional<std::string> home;
+    using File = std::optional<std::string>;
+    const File none;
+    const File bad = "ORVIK SETUP\nchanged\n";
+    const std::string missing = "Setup file not found\n";
+    const struct {
+        File start;
+        File home;
         int result;
         std::string value;
         std::string message;
-    };
-    const std::string invalid = "Not a valid setup file\n";
-    const std::string missing = "Setup file not found\n";
-    const std::vector<Case> cases{
+    } cases[] = {
         {header + "start\n", header + "home\n", 1, "start", ""},
-        {{}, header + "home\n", 1, "home", ""},
-        {"no setup\n", header + "home\n", 1, "home", ""},
-        {{}, {}, 0, "built-in", missing},
-        {"no setup\n", {}, 0, "built-in", missing},
-        {{}, "no setup\n", -1, "built-in", invalid},
+        {none, header + "home\n", 1, "home", ""},
+        {bad, header + "home\n", 1, "home", ""},
+        {none, none, 0, "built-in", missing},
+        {bad, none, 0, "built-in", missing},
+        {none, bad, -1, "built-in", "Not a valid setup file\n"},
     };
     for (const auto& [start, home, result, value, message] : cases) {
         for (const auto& [name, contents] :
-             {std::pair{"start/Orvik.setup", start}, {"home/Orvik.setup", home}}) {
+             {std::pair("start/Orvik.setup", start), {"home/Orvik.setup", home}}) {
             fs::remove(home_ / name);
             if (contents) {
                 home_.write(name, *contents);
@@ -336,10 +281,16 @@ TEST_F(SetupFile, IsTakenFromTheStartupDirectoryOrElseFromHome) {
         }
         environment_setup().working_directory_1.set_text("built-in");
         message_board().text.set_text("");
+        const std::array before = setup_values();
         EXPECT_EQ(load_setup_at_startup(), result);
         EXPECT_EQ(environment_setup().working_directory_1.text(), value);
         EXPECT_EQ(message_board().text.text(), message);
+        EXPECT_EQ(setup_values() == before, result != 1);
     }
+    fs::create_directory(home_ / "directory");
+    ASSERT_EQ(mkfifo((home_ / "fifo").c_str(), 0600), 0);
+    EXPECT_EQ(load_setup(home_ / "directory"), 0);
+    EXPECT_EQ(load_setup(home_ / "fifo"), 0);
 }
 
 TEST_F(SetupFile, IsSavedInTheStartupDirectoryAsItsFile) {
@@ -380,9 +331,8 @@ TEST_F(SetupFile, IsLoadedFromTheFileListBrowser) {
     home_.write("good", header + "value\n");
     home_.write("bad", "no setup\n");
     const std::string directory = home_.path();
-    const std::vector<std::tuple<std::string, std::string, std::string>> cases{
+    const std::tuple<std::string, std::string, std::string> cases[] = {
         {directory, "", "File name not specified"},
-        {"", "", "File name not specified"},
         {"", "good", "Directory name not specified"},
         {directory, "missing", "Setup file not found"},
         {directory, "bad", "Not a valid setup file"},

@@ -16,48 +16,39 @@ using Lines = std::vector<std::string>;
 
 std::string xs(std::size_t count) { return std::string(count, 'x'); }
 
-struct ParseCase {
-    const char* name;
-    std::string contents;
-    std::optional<Lines> expected;  ///< the lines behind the header; the others are empty
-};
-
-std::ostream& operator<<(std::ostream& out, const ParseCase& row) { return out << row.name; }
-
-const std::vector<ParseCase> parse_cases{
-    {"HeaderWithoutDollar", "ORVIK_SETUP\na\n", Lines{"a"}},
-    {"HeaderBetweenOtherText", "# my ORVIK_SETUP file\na\n", Lines{"a"}},
-    {"HeaderWithHyphen", "$ORVIK-SETUP\na\n", std::nullopt},
-    {"HeaderOnTheSecondLine", "\n" + header, std::nullopt},
-    {"HeaderBehindANul", "\0ORVIK_SETUP\n"s, std::nullopt},
-    {"HeaderAtTheEndOfTheFirstRead", std::string(1012, ' ') + "ORVIK_SETUPa\n", Lines{"a"}},
-    {"HeaderBehindTheFirstRead", std::string(1013, ' ') + "ORVIK_SETUP\n", std::nullopt},
-    {"EmptyFile", "", std::nullopt},
-    {"HeaderOnly", header, Lines{}},
-    {"NoFinalLineFeed", header + "a\nb", Lines{"a", "b"}},
-    {"OtherBytesStay", header + "a\r\n\n \xff\t\n", Lines{"a\r", "", " \xff\t"}},
-    {"NulEndsAValue", header + "a\0b\nc\n"s, Lines{"a", "c"}},
-    {"1022BytesFit", header + xs(1022) + "\na\n", Lines{xs(1022), "a"}},
-    {"1023BytesLeaveTheirLineFeed", header + xs(1023) + "\na\n", Lines{xs(1023), "", "a"}},
-    {"1024BytesAreTwoLines", header + xs(1024) + "\na\n", Lines{xs(1023), "x", "a"}},
-    {"5000BytesAreFiveLines", header + xs(5000) + "\na\n",
-     Lines{xs(1023), xs(1023), xs(1023), xs(1023), xs(908), "a"}},
-};
-
-class SetupFormat : public testing::TestWithParam<ParseCase> {};
-
-TEST_P(SetupFormat, IsParsed) {
-    const std::optional<SetupLines> lines = parse_setup(GetParam().contents);
-    ASSERT_EQ(lines.has_value(), GetParam().expected.has_value());
-    if (lines) {
-        Lines expected = *GetParam().expected;
-        expected.resize(setup_lines - 1);
-        EXPECT_EQ(Lines(lines->begin() + 1, lines->end()), expected);
+TEST(SetupFormat, IsParsed) {
+    const struct {
+        const char* name;
+        std::string contents;
+        std::optional<Lines> expected;  ///< the lines behind the header; the others are empty
+    } cases[] = {
+        {"header without dollar", "ORVIK_SETUP\na\n", Lines{"a"}},
+        {"header between other text", "# my ORVIK_SETUP file\na\n", Lines{"a"}},
+        {"header with hyphen", "$ORVIK-SETUP\na\n", std::nullopt},
+        {"header on the second line", "\n" + header, std::nullopt},
+        {"header behind a nul", "\0ORVIK_SETUP\n"s, std::nullopt},
+        {"header at the end of the first read", std::string(1012, ' ') + "ORVIK_SETUPa\n", Lines{"a"}},
+        {"header behind the first read", std::string(1013, ' ') + "ORVIK_SETUP\n", std::nullopt},
+        {"empty file", "", std::nullopt},
+        {"no final line feed", header + "a\nb", Lines{"a", "b"}},
+        {"other bytes stay", header + "a\r\n\n \xff\t\n", Lines{"a\r", "", " \xff\t"}},
+        {"nul ends a value", header + "a\0b\nc\n"s, Lines{"a", "c"}},
+        {"1022 bytes fit", header + xs(1022) + "\na\n", Lines{xs(1022), "a"}},
+        {"1023 bytes leave their line feed", header + xs(1023) + "\na\n", Lines{xs(1023), "", "a"}},
+        {"5000 bytes are five lines", header + xs(5000) + "\na\n",
+         Lines{xs(1023), xs(1023), xs(1023), xs(1023), xs(908), "a"}},
+    };
+    for (const auto& [name, contents, expected] : cases) {
+        SCOPED_TRACE(name);
+        const std::optional<SetupLines> lines = parse_setup(contents);
+        ASSERT_EQ(lines.has_value(), expected.has_value());
+        if (lines) {
+            Lines all = *expected;
+            all.resize(setup_lines - 1);
+            EXPECT_EQ(Lines(lines->begin() + 1, lines->end()), all);
+        }
     }
 }
-
-INSTANTIATE_TEST_SUITE_P(All, SetupFormat, testing::ValuesIn(parse_cases),
-                         [](const auto& row) { return std::string(row.param.name); });
 
 /// 90 lines, each different from its neighbours, with every byte and length that a value may have.
 SetupLines all_kinds_of_lines() {
