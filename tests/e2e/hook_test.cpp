@@ -9,32 +9,36 @@ const std::string csh_hook =
 const std::string bash_hook =
     R"(PROMPT_COMMAND='printf "P:%s\nC:%s\nH:%s\nU:%s\nV:Not_used\n" "$PS1" "$PWD" "$HOSTNAME" "$USER" > STATUS')";
 
+const std::string clearcase_hook =
+    R"(PROMPT_COMMAND='printf "P:%s\nC:%s\nH:%s\nU:%s\nV:%s\n" "$PS1" "$PWD" "$HOSTNAME" "$USER" "$CLEARCASE_ROOT" > STATUS')";
+
 struct Case {
     const char* name;
     std::string shell;
     std::vector<std::string> options;
-    std::string typed;   ///< STATUS stands for the status file's path
-    std::string precmd;  ///< what "Precmd:" shows
+    std::string typed;       ///< STATUS stands for the status file's path
+    std::string precmd;      ///< what "Precmd:" shows
+    std::string setup = "";  ///< the setup file
 };
 
 std::ostream& operator<<(std::ostream& out, const Case& row) { return out << row.name; }
 
 const std::vector<Case> cases{
-    {"Bash", "my-bash", {}, bash_hook + "\n", bash_hook},
-    {"Ksh", "my-ksh", {}, bash_hook + "\n", bash_hook},
     {"Csh", "my-tcsh", {}, csh_hook + "\n", csh_hook},
-    {"Both", "csh-or-bash", {}, csh_hook + "\n" + bash_hook + "\n", bash_hook},
-    {"Neither", "my-zsh", {}, "", ""},
-    {"WorkComesBeforeTheHook", "bash", {"-work", "/tmp"}, "cd /tmp\n" + bash_hook + "\n", bash_hook},
-    {"HostComesLast", "bash", {"-host", "earth"}, bash_hook + "\nrlogin earth\n", bash_hook},
+    {"WorkComesBeforeTheHook",
+     "csh-or-bash",
+     {"-work", "/tmp"},
+     "cd /tmp\n" + csh_hook + "\n" + bash_hook + "\n",
+     bash_hook},
     {"HostTakesThePlaceOfWork",
-     "bash",
+     "my-ksh",
      {"-work", "/tmp", "-host", "earth"},
      bash_hook + "\nrlogin earth\n",
      bash_hook},
     {"WorkWithBlanksIsOneWord", "zsh", {"-work", "/usr/no such place"}, "cd '/usr/no such place'\n", ""},
     {"HostMustBeAHostName", "zsh", {"-host", "earth;reboot"}, "", ""},
     {"ErrorDropsAllOptions", "zsh", {"-host", "earth", "-work", "-closed"}, "", ""},
+    {"ClearCase", "bash", {}, clearcase_hook + "\n", clearcase_hook, setup_text({{84, "1"}})},
 };
 
 class Hook : public OrvikTest, public testing::WithParamInterface<Case> {
@@ -49,14 +53,14 @@ class Hook : public OrvikTest, public testing::WithParamInterface<Case> {
 
 TEST_P(Hook, IsTypedAndShown) {
     setup_.options = GetParam().options;
+    home_.write("Orvik.setup", GetParam().setup);
     start_with_recording_shell(GetParam().shell);
-    const std::string expected = with_status(GetParam().typed) + "end\r";
     type("end\n");  // typed last, so nothing can follow unseen
-    EXPECT_EQ(awaited([this] { return typed(); }, expected), expected);
+    expect_typed(with_status(GetParam().typed) + "end\r");
     EXPECT_EQ(field(open_window("Environment Setup Window"), "Precmd:"), with_status(GetParam().precmd));
 }
 
 INSTANTIATE_TEST_SUITE_P(All, Hook, testing::ValuesIn(cases),
-                         [](const testing::TestParamInfo<Case>& row) { return std::string(row.param.name); });
+                         [](const auto& row) { return std::string(row.param.name); });
 
 }  // namespace

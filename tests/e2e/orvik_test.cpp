@@ -2,6 +2,7 @@
 #include "tests/e2e/orvik_test.h"
 
 #include <array>
+#include <cstdlib>
 
 namespace {
 
@@ -101,6 +102,15 @@ void OrvikTest::type(std::string_view text) {
 bool OrvikTest::terminal_shows(std::string_view text) const {
     constexpr int screenful = 8000;
     return terminal_.last_text(screenful).find(text) != std::string::npos;
+}
+
+void OrvikTest::expect_in_terminal(std::string_view text) const {
+    EXPECT_TRUE(wait_until([&] { return terminal_shows(text); })) << text << " in\n" << terminal_.text();
+}
+
+void OrvikTest::select(const std::string& text) const {
+    const std::string file = home_.write("selection", text);
+    ASSERT_EQ(std::system(("xclip -selection primary -i '" + file + "' >/dev/null 2>&1").c_str()), 0);
 }
 
 Accessible OrvikTest::open_window(std::string_view title) const {

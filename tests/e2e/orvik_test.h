@@ -12,15 +12,15 @@
 
 #include <gtest/gtest.h>
 
-/// Asks until the answer is the expected one; the last answer, so that a failure shows what it was instead.
+/// Asks until the answer is the expected one; a failure shows what it was instead.
 template <typename Question, typename Answer>
-auto awaited(Question question, const Answer& expected) {
+void expect_awaited(Question question, const Answer& expected) {
     auto answer = question();
     (void)wait_until([&] {
         answer = question();
         return answer == expected;
     });
-    return answer;
+    EXPECT_EQ(answer, expected);
 }
 
 /// An item of the main window's menus.
@@ -53,13 +53,26 @@ class OrvikTest : public testing::Test {
     /// Types with the keyboard into the terminal pane.
     void type(std::string_view text);
     [[nodiscard]] bool terminal_shows(std::string_view text) const;
+    void expect_in_terminal(std::string_view text) const;
+    void expect_typed(const std::string& expected) const {
+        expect_awaited([this] { return typed(); }, expected);
+    }
+    /// Makes a text the primary selection.
+    void select(const std::string& text) const;
 
     /// Opens the window of that title from the first menu item that does.
     [[nodiscard]] Accessible open_window(std::string_view title) const;
     /// The text of a field of an open window.
     [[nodiscard]] static std::string field(const Accessible& window, std::string_view label);
     [[nodiscard]] std::string cwd() const { return field(main_, "Cwd:"); }
+    [[nodiscard]] std::string left_footer() const { return footer(main_, "left footer"); }
     [[nodiscard]] std::string right_footer() const { return footer(main_, "right footer"); }
+    void expect_left_footer(const std::string& expected) const {
+        expect_awaited([this] { return left_footer(); }, expected);
+    }
+    void expect_cwd(const std::string& expected) const {
+        expect_awaited([this] { return cwd(); }, expected);
+    }
     /// The text of one of a window's footers.
     [[nodiscard]] static std::string footer(const Accessible& window, std::string_view description);
     /// Clicks on a field or a text pane of an open window and waits until it has the keyboard.

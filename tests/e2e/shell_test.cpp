@@ -26,33 +26,25 @@ std::map<std::string, std::string> parse_environment(const std::string& text) {
     return result;
 }
 
-TEST_F(Shell, IsALoginShellInTheStartDirectory) {
-    std::filesystem::create_directory(home_ / "some place");
-    setup_.directory = home_ / "some place";
-    start_with_recording_shell("zsh");
-    EXPECT_EQ(noted("name"), "-zsh");
-    EXPECT_EQ(noted("directory"), (home_ / "some place").string());
-    EXPECT_EQ(field(open_window("Environment Setup Window"), "Start-up Directory:"),
-              (home_ / "some place").string());
-}
-
-TEST_F(Shell, HasTheEnvironmentOfTheTool) {
+TEST_F(Shell, IsALoginShellWithTheEnvironmentOfTheToolAndNoDescriptorsButItsTerminal) {
+    const std::string directory = home_ / "some place";
+    std::filesystem::create_directory(directory);
+    setup_.directory = directory;
     setup_.environment = {{"TERM", "dumb"}, {"LINES", "11"}, {"COLUMNS", "22"}, {"ODD", " a=b\nc "}};
+    const int inherited = ::open("/dev/null", O_RDONLY);  // reaches the tool: it is not closed on exec
+    ASSERT_GE(inherited, 0);
     start_with_recording_shell("zsh");
+    close(inherited);
+    EXPECT_EQ(noted("descriptors"), "0 1 2 ");
+    EXPECT_EQ(noted("name"), "-zsh");
+    EXPECT_EQ(noted("directory"), directory);
+    EXPECT_EQ(field(open_window("Environment Setup Window"), "Start-up Directory:"), directory);
     std::map<std::string, std::string> expected = environment_of(setup_);
     expected.erase("LINES");
     expected.erase("COLUMNS");
     expected["TERM"] = "xterm-256color";
     expected["COLORTERM"] = "truecolor";
     EXPECT_EQ(parse_environment(noted("environment")), expected);
-}
-
-TEST_F(Shell, HasNoDescriptorsButItsTerminal) {
-    const int inherited = ::open("/dev/null", O_RDONLY);  // reaches the tool: it is not closed on exec
-    ASSERT_GE(inherited, 0);
-    start_with_recording_shell("zsh");
-    close(inherited);
-    EXPECT_EQ(noted("descriptors"), "0 1 2 ");
 }
 
 TEST_F(Shell, KnowsTheSizeOfThePane) {
@@ -86,16 +78,6 @@ TEST_F(Shell, EndsWithTheTool) {
     const pid_t shell = std::stoi(noted("process"));
     EXPECT_EQ(program_->stop(), 0);
     EXPECT_TRUE(wait_until([&] { return kill(shell, 0) != 0; }));
-}
-
-TEST_F(Shell, IsStartedAgainByReturn) {
-    start_with_shell("/bin/bash");
-    type("echo first-$((1+1)); exit\n");
-    ASSERT_TRUE(wait_until([this] { return terminal_shows("first-2"); }));
-    ASSERT_TRUE(wait_until([this] { return terminal_shows("Return"); })) << terminal_.text();
-    type("\n");
-    type("echo second-$((1+1))\n");
-    EXPECT_TRUE(wait_until([this] { return terminal_shows("second-2"); })) << terminal_.text();
 }
 
 }  // namespace

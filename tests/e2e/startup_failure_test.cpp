@@ -16,7 +16,6 @@ struct Case {
 std::ostream& operator<<(std::ostream& out, const Case& row) { return out << row.name; }
 
 const std::vector<Case> cases{
-    {"Home", {"HOME"}, {}, "Can't read home directory: "},
     {"Logname", {"LOGNAME"}, {}, "Can't get login user name: "},
     {"Shell", {"SHELL"}, {}, "Can't get shell name: "},
     {"OrvikHome", {"ORVIK_HOME"}, {}, "Can't get ORVIK_HOME enviroment variable: "},
@@ -45,7 +44,7 @@ TEST_P(StartupFailure, IsToldInOneLine) {
 }
 
 INSTANTIATE_TEST_SUITE_P(All, StartupFailure, testing::ValuesIn(cases),
-                         [](const testing::TestParamInfo<Case>& row) { return std::string(row.param.name); });
+                         [](const auto& row) { return std::string(row.param.name); });
 
 TEST_F(StartupFailure, RemovedDirectory) {
     std::filesystem::create_directory(home_ / "gone");
