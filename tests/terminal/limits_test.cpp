@@ -54,23 +54,16 @@ TEST(Limits, ParametersAreFewAndSmall) {
     EXPECT_EQ(at.recorder.replies, "\033[?" + std::to_string(max_parameter_value) + ";0$y");
 }
 
-TEST(Limits, TooLongStringsAreIgnored) {
+TEST(Limits, TitlesAreCutBetweenCharactersAndTooLongStringsIgnored) {
     Screened at;
     const std::string longest(max_string - 2, 'a');
-    at.terminal.write("\033]2;" + longest + "\a");
-    ASSERT_EQ(at.recorder.titles.size(), 1U);
-    EXPECT_EQ(at.recorder.titles[0], longest.substr(0, max_title));
-    at.terminal.write("\033]2;" + longest + "b\a" + "\033]2;" + repeated("漢", max_string) + "\033\\x");
-    EXPECT_EQ(at.recorder.titles.size(), 1U);
-    EXPECT_EQ(at.screen(), "x|||");
-}
-
-TEST(Limits, TitleIsCutBetweenCharacters) {
-    Screened at;
-    at.terminal.write("\033]2;" + repeated("漢", max_title) + "\a" + "\033]2;a" + repeated("漢", 500) + "\a");
-    ASSERT_EQ(at.recorder.titles.size(), 2U);
-    EXPECT_EQ(at.recorder.titles[0], repeated("漢", max_title / 3));
-    EXPECT_EQ(at.recorder.titles[1], 'a' + repeated("漢", (max_title - 1) / 3));
+    for (const std::string& title : {longest, longest + "b", repeated("漢", max_string),
+                                     repeated("漢", max_title), "a" + repeated("漢", 500)}) {
+        at.terminal.write("\033]2;" + title + "\a");
+    }
+    EXPECT_EQ(at.recorder.titles, (std::vector{longest.substr(0, max_title), repeated("漢", max_title / 3),
+                                               'a' + repeated("漢", (max_title - 1) / 3)}));
+    EXPECT_EQ(at.screen(), "|||");
 }
 
 TEST(Limits, StylesOutOfUseMakeRoom) {

@@ -79,9 +79,12 @@ TEST(Pty, ProgramHasWhatItIsGivenAndNoMore) {
     };
     const Case cases[] = {
         {"environment", {"/usr/bin/env", {"env"}, {"A=1", "B=two words"}, "/"}, "A=1\r\nB=two words\r\n"},
-        {"arguments and directory",
-         {"/bin/bash", {"bash", "-c", "echo $0 $1; pwd", "-x", "y z"}, {}, "/usr/bin"},
-         "-x y z\r\n/usr/bin\r\n"},
+        {"arguments, directory and size",
+         {"/bin/bash",
+          {"bash", "-c", "echo $0 $1; pwd; stty size", "-x", "y z"},
+          {"PATH=/usr/bin"},
+          "/usr/bin"},
+         "-x y z\r\n/usr/bin\r\n30 100\r\n"},
         {"no descriptor of ours; 3 is the directory that ls itself reads",
          {"/bin/ls", {"ls", "/proc/self/fd"}, {}, "/"},
          "0  1  2  3\r\n"},
@@ -97,17 +100,11 @@ TEST(Pty, ProgramHasWhatItIsGivenAndNoMore) {
     ASSERT_GE(ours, 3);
     for (const Case& row : cases) {
         SCOPED_TRACE(row.name);
-        Running program(row.program);
+        Running program(row.program, Size{100, 30});
         EXPECT_EQ(program.output_until_end(), row.output);
         EXPECT_EQ(WEXITSTATUS(*program->exit_status()), row.status);
     }
     close(ours);
-}
-
-TEST(Pty, LoginNameMakesALoginShell) {
-    Running shell(Program{"/bin/bash", {"-bash"}, {"HOME=/nonexistent", "PS1=$ "}, "/"});
-    shell->write("shopt -q login_shell && echo lo''gin; exit\n");
-    EXPECT_NE(shell.output_until_end().find("\nlogin\r"), std::string::npos) << shell.output();
 }
 
 TEST(Pty, ProgramHasDefaultSignalsAndAUsualControllingTerminal) {
@@ -121,14 +118,6 @@ TEST(Pty, ProgramHasDefaultSignalsAndAUsualControllingTerminal) {
         EXPECT_NE(output.find(setting), std::string::npos) << setting << "\n" << output;
     }
     signal(SIGPIPE, SIG_DFL);
-}
-
-TEST(Pty, WindowSizeIsThereFromTheStartAndChanges) {
-    const char* const script = "trap 'stty size; exit' WINCH; stty size; sleep 60 & wait";
-    Running shell(Program{"/bin/bash", {"bash", "-c", script}, {"PATH=/usr/bin:/bin"}, "/"}, Size{100, 30});
-    ASSERT_TRUE(shell.run_until_output("30 100\r\n")) << shell.output();
-    shell->resize({132, 50}, 1320, 1000);
-    EXPECT_TRUE(shell.run_until_output("50 132\r\n")) << shell.output();
 }
 
 TEST(Pty, LineDisciplineIsSeenFromOutside) {

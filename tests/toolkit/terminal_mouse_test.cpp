@@ -117,6 +117,7 @@ TEST_F(TerminalMouseTest, SelectionFollowsItsTextAndGoesWhenThatChanges) {
     drag(edge(0, 0), edge(6, 0));
     ASSERT_EQ(selected(), "change");
     show_text("\033[Hchange\033[2;1Helsewhere");
+    QTest::qWait(50);
     EXPECT_EQ(selected(), "change") << "written anew as it was";
     show_text("\033[1;3HX");
     EXPECT_TRUE(wait([this] { return view().selection().empty(); }));

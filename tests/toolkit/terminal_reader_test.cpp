@@ -114,19 +114,18 @@ std::u16string heard;
 int heard_caret = -1;
 
 void hear(QAccessibleEvent* event) {
-    const auto cut = [](int place, const QString& text) {
-        ASSERT_EQ(QString::fromStdU16String(heard).mid(place, text.size()), text);
-        heard.erase(static_cast<std::size_t>(place), static_cast<std::size_t>(text.size()));
+    const auto change = [](int place, const QString& removed, const QString& inserted) {
+        const auto at = static_cast<std::size_t>(place);
+        const auto length = static_cast<std::size_t>(removed.size());
+        ASSERT_EQ(heard.substr(at, length), removed.toStdU16String());
+        heard.replace(at, length, inserted.toStdU16String());
     };
     if (auto* insertion = dynamic_cast<QAccessibleTextInsertEvent*>(event)) {
-        heard.insert(static_cast<std::size_t>(insertion->changePosition()),
-                     insertion->textInserted().toStdU16String());
+        change(insertion->changePosition(), {}, insertion->textInserted());
     } else if (auto* removal = dynamic_cast<QAccessibleTextRemoveEvent*>(event)) {
-        cut(removal->changePosition(), removal->textRemoved());
+        change(removal->changePosition(), removal->textRemoved(), {});
     } else if (auto* update = dynamic_cast<QAccessibleTextUpdateEvent*>(event)) {
-        cut(update->changePosition(), update->textRemoved());
-        heard.insert(static_cast<std::size_t>(update->changePosition()),
-                     update->textInserted().toStdU16String());
+        change(update->changePosition(), update->textRemoved(), update->textInserted());
     } else if (auto* caret = dynamic_cast<QAccessibleTextCursorEvent*>(event)) {
         heard_caret = caret->cursorPosition();
     }
