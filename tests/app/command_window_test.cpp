@@ -10,6 +10,7 @@
 #include "ui/status_display.h"
 
 #include <QLineEdit>
+#include <QPushButton>
 
 namespace {
 
@@ -25,7 +26,7 @@ TEST_F(CommandWindowTest, ButtonsActOnTheLineAndTheSelection) {
     const std::string none = "No selection made or selection too long";
     const struct {
         const char* name;
-        void (*button)();
+        const char* button;
         std::string line;
         std::string selection;
         std::string last;
@@ -33,22 +34,22 @@ TEST_F(CommandWindowTest, ButtonsActOnTheLineAndTheSelection) {
         std::string footer;
         std::string line_afterwards;
     } cases[] = {
-        {"push", CommandWindowPush, "c", "/tmp\n/usr", "", "pushd /tmp\n", "", "c"},
-        {"push, a name to quote", CommandWindowPush, "", "/a b;c", "", "pushd '/a b;c'\n", "", ""},
-        {"push, home", CommandWindowPush, "", "~/x", "", "pushd " + home.path().string() + "/x\n", "", ""},
-        {"push, empty first line", CommandWindowPush, "c", "\n/tmp", "", "", none, "c"},
-        {"push, too long", CommandWindowPush, "", std::string(1001, 'x'), "", "", none, ""},
-        {"pop", CommandWindowPop, "c", "s", "", "popd\n", "", "c"},
-        {"remove", CommandWindowRemove, "a b", "s", "", "rm a b\n", "", "a b"},
-        {"remove, nothing", CommandWindowRemove, "", "s", "", "", "No file", ""},
-        {"remove, refused", CommandWindowRemove, "a\x15", "", "", "", refused, "a\x15"},
-        {"run", CommandWindowRun, "ls -l", "s", "", "ls -l\n", "", "ls -l"},
-        {"run, nothing", CommandWindowRun, "", "s", "", "", "No command", ""},
-        {"last", CommandWindowLast, "c", "s", "make", "", "", "make"},
-        {"last, nothing", CommandWindowLast, "c", "s", "", "", "No command stored", "c"},
-        {"get", CommandWindowGet, "c", "a\tb\nc", "", "", "", "a b"},
-        {"get, nothing", CommandWindowGet, "c", "", "", "", none, "c"},
-        {"clear", CommandWindowClearButton, "c", "s", "", "", "", ""},
+        {"push", "Push", "c", "/tmp\n/usr", "", "pushd /tmp\n", "", "c"},
+        {"push, a name to quote", "Push", "", "/a b;c", "", "pushd '/a b;c'\n", "", ""},
+        {"push, home", "Push", "", "~/x", "", "pushd " + home.path().string() + "/x\n", "", ""},
+        {"push, empty first line", "Push", "c", "\n/tmp", "", "", none, "c"},
+        {"push, too long", "Push", "", std::string(1001, 'x'), "", "", none, ""},
+        {"pop", "Pop", "c", "s", "", "popd\n", "", "c"},
+        {"remove", "Remove", "a b", "s", "", "rm a b\n", "", "a b"},
+        {"remove, nothing", "Remove", "", "s", "", "", "No file", ""},
+        {"remove, refused", "Remove", "a\x15", "", "", "", refused, "a\x15"},
+        {"run", "Run", "ls -l", "s", "", "ls -l\n", "", "ls -l"},
+        {"run, nothing", "Run", "", "s", "", "", "No command", ""},
+        {"last", "Last", "c", "s", "make", "", "", "make"},
+        {"last, nothing", "Last", "c", "s", "", "", "No command stored", "c"},
+        {"get", "Get", "c", "a\tb\nc", "", "", "", "a b"},
+        {"get, nothing", "Get", "c", "", "", "", none, "c"},
+        {"clear", "Clear", "c", "s", "", "", "", ""},
     };
     setenv("HOME", home.path().c_str(), 1);
     for (const auto& each : cases) {
@@ -57,7 +58,7 @@ TEST_F(CommandWindowTest, ButtonsActOnTheLineAndTheSelection) {
         command_window().command.set_text(each.line);
         set_selection(each.selection);
         default_settings().last_command.set_text(each.last);
-        each.button();
+        control<QPushButton>(command_window(), each.button).click();
         EXPECT_EQ(typed(), each.typed);
         EXPECT_EQ(command_window().left_footer(), each.footer);
         EXPECT_EQ(command_window().command.text(), each.line_afterwards);

@@ -32,15 +32,13 @@ TEST_F(Options, AMissingValueDropsAll) {
     EXPECT_EQ(outcome(), Outcome(own_title, "", "Error in command string"));
 }
 
-class ToolkitOptions : public OrvikTest {};
-
-TEST_F(ToolkitOptions, ClosedStartsIconified) {
+TEST_F(Options, ClosedStartsIconified) {
     setup_.options = {"-closed"};
     start();
     EXPECT_TRUE(wait_until([this] { return display().iconified(x_window()); }));
 }
 
-TEST_F(ToolkitOptions, OpenedStartsAsWindowAndGeometryPlacesItsFrame) {
+TEST_F(Options, OpenedStartsAsWindowAndGeometryPlacesItsFrame) {
     setup_.options = {"-closed", "-opened", "-geometry", "900x600+20+30"};
     start();
     EXPECT_TRUE(wait_until([this] { return main_.showing() && main_.active(); }));
@@ -52,7 +50,7 @@ TEST_F(ToolkitOptions, OpenedStartsAsWindowAndGeometryPlacesItsFrame) {
     EXPECT_EQ(display().place(window).height, 600);
 }
 
-TEST_F(ToolkitOptions, FontNameIsAResource) {
+TEST_F(Options, FontNameIsAResource) {
     setup_.options = {"-xrm", "Orvik.FontName: DejaVu Sans Mono-14"};
     start_with_recording_shell("shell");
     const Rectangle pane = terminal_.place();
@@ -66,7 +64,7 @@ TEST_F(ToolkitOptions, FontNameIsAResource) {
     EXPECT_NEAR(rows, pane.height / 22, 2);
 }
 
-TEST_F(ToolkitOptions, DisplayIsNamed) {
+TEST_F(Options, DisplayIsNamed) {
     setup_.options = {"-display", std::getenv("DISPLAY")};
     setup_.without = {"DISPLAY"};
     start();

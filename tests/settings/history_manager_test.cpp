@@ -6,7 +6,10 @@
 #include "ui/text_editor_setup.h"
 
 #include <QListView>
+#include <QPushButton>
 #include <QSpinBox>
+
+#include <functional>
 
 namespace {
 
@@ -32,9 +35,12 @@ class HistoryManagerTest : public HistoryWindows {
     }
     /// What a button leaves: footer, "Position" and selected row.
     using Outcome = std::tuple<std::string, int, std::optional<int>>;
-    static Outcome after(void (*button)()) {
+    static Outcome after(const char* button) {
+        return after([=] { control<QPushButton>(manager(), button).click(); });
+    }
+    static Outcome after(const std::function<void()>& action) {
         manager().set_left_footer("old");
-        button();
+        action();
         return {manager().left_footer(), manager().position.value(), manager().list.selected()};
     }
 };
@@ -64,11 +70,11 @@ TEST_F(HistoryManagerTest, ClickAndKeysTakeARowDoubleClickAndReturnRunIt) {
 }
 
 TEST_F(HistoryManagerTest, BeginEndAndPositionSelectRows) {
-    EXPECT_EQ(after(CommandHistoryBegin), Outcome("", 0, std::nullopt));
-    EXPECT_EQ(after(CommandHistoryEnd), Outcome("", 0, std::nullopt));
+    EXPECT_EQ(after("Begin"), Outcome("", 0, std::nullopt));
+    EXPECT_EQ(after("End"), Outcome("", 0, std::nullopt));
     list().set_rows({"a", "b", "c"});
-    EXPECT_EQ(after(CommandHistoryEnd), Outcome("", 2, 2));
-    EXPECT_EQ(after(CommandHistoryBegin), Outcome("", 0, 0));
+    EXPECT_EQ(after("End"), Outcome("", 2, 2));
+    EXPECT_EQ(after("Begin"), Outcome("", 0, 0));
     for (const auto& [position, footer] :
          {std::pair(1, ""), {3, ""}, {4, "There is no such row"}, {-1, "There is no such row"}}) {
         manager().position.set_value(position);
@@ -84,52 +90,52 @@ TEST_F(HistoryManagerTest, BeginEndAndPositionSelectRows) {
 }
 
 TEST_F(HistoryManagerTest, FindsRows) {
-    EXPECT_EQ(after(CommandHistoryFindNext), Outcome("Nothing to search for", 0, std::nullopt));
+    EXPECT_EQ(after("N"), Outcome("Nothing to search for", 0, std::nullopt));
     manager().find_text.set_text("ak");
-    EXPECT_EQ(after(CommandHistoryFind), Outcome("List is empty", 0, std::nullopt));
+    EXPECT_EQ(after("Find"), Outcome("List is empty", 0, std::nullopt));
     list().set_rows({"ls", "make", "AK", "make all"});
-    EXPECT_EQ(after(CommandHistoryFindNext), Outcome("Use find first", 0, std::nullopt));
-    EXPECT_EQ(after(CommandHistoryFind), Outcome("", 1, 1));
-    EXPECT_EQ(after(CommandHistoryFindNext), Outcome("", 3, 3));
-    EXPECT_EQ(after(CommandHistoryFindNext), Outcome("Text not found", 3, 3));
+    EXPECT_EQ(after("N"), Outcome("Use find first", 0, std::nullopt));
+    EXPECT_EQ(after("Find"), Outcome("", 1, 1));
+    EXPECT_EQ(after("N"), Outcome("", 3, 3));
+    EXPECT_EQ(after("N"), Outcome("Text not found", 3, 3));
     EXPECT_EQ(after(CommandHistoryFindText), Outcome("", 1, 1));
     list().set_rows({"make"});
-    EXPECT_EQ(after(CommandHistoryFindNext), Outcome("Use find first", 1, std::nullopt));
+    EXPECT_EQ(after("N"), Outcome("Use find first", 1, std::nullopt));
 }
 
 TEST_F(HistoryManagerTest, SortsByBytesWhatIsNotTooMuch) {
     list().set_rows({"one"});
-    EXPECT_EQ(after(CommandHistorySort), Outcome("Nothing to sort", 0, std::nullopt));
+    EXPECT_EQ(after("Sort"), Outcome("Nothing to sort", 0, std::nullopt));
     list().set_rows({"b", "\xC3\xA9", "B", "a", "a"});
-    EXPECT_EQ(after(CommandHistorySort), Outcome("", 0, std::nullopt));
+    EXPECT_EQ(after("Sort"), Outcome("", 0, std::nullopt));
     EXPECT_EQ(list().all_rows(), (Rows{"B", "a", "a", "b", "\xC3\xA9"}));
     Rows rows;
     for (int i = 10'000 + 8196; i > 10'000; --i) {
         rows.push_back(std::to_string(i));
     }
     list().set_rows(rows);
-    EXPECT_EQ(after(CommandHistorySort), Outcome("Too many commands to sort", 0, std::nullopt));
+    EXPECT_EQ(after("Sort"), Outcome("Too many commands to sort", 0, std::nullopt));
     EXPECT_EQ(list().all_rows(), rows);
     rows.pop_back();
     list().set_rows(rows);
-    EXPECT_EQ(after(CommandHistorySort), Outcome("", 0, std::nullopt));
+    EXPECT_EQ(after("Sort"), Outcome("", 0, std::nullopt));
     std::ranges::reverse(rows);
     EXPECT_EQ(list().all_rows(), rows);
 }
 
 TEST_F(HistoryManagerTest, SavesAndUpdates) {
     list().set_rows({"make"});
-    EXPECT_EQ(after(CommandHistorySaveButton), Outcome("", 0, std::nullopt));
+    EXPECT_EQ(after("Save"), Outcome("", 0, std::nullopt));
     EXPECT_EQ(read_file(file()), header + "make\n");
     EXPECT_EQ(command_history_setup().history_file_loaded.text(), file());
-    EXPECT_EQ(after(UpdateCommandHistory), Outcome("", 1, std::nullopt));
+    EXPECT_EQ(after("Update"), Outcome("", 1, std::nullopt));
     EXPECT_EQ(list().all_rows(), Rows{"make"});
     home.write(".orvik-history", "make\n");
-    EXPECT_EQ(after(UpdateCommandHistory), Outcome("Not a valid history file", 1, std::nullopt));
+    EXPECT_EQ(after("Update"), Outcome("Not a valid history file", 1, std::nullopt));
     std::filesystem::remove(file());
-    EXPECT_EQ(after(UpdateCommandHistory), Outcome("History file not found", 1, std::nullopt));
+    EXPECT_EQ(after("Update"), Outcome("History file not found", 1, std::nullopt));
     std::filesystem::create_directory(file());
-    EXPECT_EQ(after(CommandHistorySaveButton), Outcome("Can't save history file", 1, std::nullopt));
+    EXPECT_EQ(after("Save"), Outcome("Can't save history file", 1, std::nullopt));
 }
 
 TEST_F(HistoryManagerTest, EditOpensTheSavedFileInTheUsersEditor) {
@@ -139,12 +145,12 @@ TEST_F(HistoryManagerTest, EditOpensTheSavedFileInTheUsersEditor) {
     const std::string path = home_dir + "/.orvik-history";
     list().set_rows({"make"});
     text_editor_setup().user_editor.set_text("");
-    EXPECT_EQ(after(EditCommandHistory), Outcome("User editor not specified", 0, std::nullopt));
+    EXPECT_EQ(after("Edit"), Outcome("User editor not specified", 0, std::nullopt));
     text_editor_setup().user_editor.set_text(editor);
-    EXPECT_EQ(after(EditCommandHistory), Outcome("Can't save history file", 0, std::nullopt));
+    EXPECT_EQ(after("Edit"), Outcome("Can't save history file", 0, std::nullopt));
     std::filesystem::create_directory(home_dir);
     clear_window(message_board().text);
-    EXPECT_EQ(after(EditCommandHistory), Outcome("", 0, std::nullopt));
+    EXPECT_EQ(after("Edit"), Outcome("", 0, std::nullopt));
     EXPECT_EQ(command_history_setup().history_file_loaded.text(), path);
     EXPECT_EQ(read_file(path), header + "make\n");
     EXPECT_TRUE(wait([&] { return read_file(home / "opened") == path; })) << read_file(home / "opened");
