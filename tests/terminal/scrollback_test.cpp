@@ -82,7 +82,7 @@ TEST(Scrollback, IsErasedByItself) {
 TEST(Scrollback, LineInManyPiecesIsOneLine) {
     Screened at({10, 4}, 100'000);
     std::string text;
-    for (int i = 0; i < 30'000; ++i) {
+    for (int i = 0; i < 200'000; ++i) {
         text += static_cast<char>('a' + i % 26);
     }
     at.terminal.write(text + "\r\nend");
