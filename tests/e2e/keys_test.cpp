@@ -88,6 +88,7 @@ TEST_F(Keys, ArrowsWalkTheHistoryWithoutCommandLineEditing) {
     press("Up");
     expect_left_footer("History list is empty");
     type("echo one\n");
+    expect_prompt("\none\nready> ");
     type("echo two\n");
     expect_history("echo one\necho two\n");
     press("Up");
@@ -109,8 +110,7 @@ TEST_F(Keys, ControlXMovesTheHalfTypedLine) {
     press_control("x");
     expect_command_field("echo abc def");
     type("echo rest\n");
-    expect_in_terminal("\nrest");
-    EXPECT_FALSE(terminal_shows("command not found")) << terminal_.text();
+    expect_prompt("ready> echo rest\nrest\nready> ");
     expect_history("echo rest\n");
     press_control("x");
     expect_left_footer("No command found");
@@ -153,9 +153,11 @@ TEST_F(Keys, FunctionKeysActOnTheSelection) {
     expect_in_terminal("\nselected");
     select("sub dir");
     press("F5");
-    expect_cwd(home_ / "sub dir");
+    type("pwd\n");
+    expect_in_terminal("\n" + (home_ / "sub dir").string() + "\n");
     press("F4");
-    expect_cwd(home_.path());
+    type("pwd\n");
+    expect_in_terminal("\n" + home_.path().string() + "\n");
     select("echo 'typed'\t1");
     press("F6");
     press("Return");

@@ -110,7 +110,13 @@ void OrvikTest::expect_in_terminal(std::string_view text) const {
 
 void OrvikTest::select(const std::string& text) const {
     const std::string file = home_.write("selection", text);
+    const std::string answer = home_ / "selected";
     ASSERT_EQ(std::system(("xclip -selection primary -i '" + file + "' >/dev/null 2>&1").c_str()), 0);
+    // It goes into the background before the display knows of it.
+    EXPECT_TRUE(wait_until([&] {
+        (void)!std::system(("timeout 5 xclip -selection primary -o >'" + answer + "' 2>/dev/null").c_str());
+        return read_file(answer) == text;
+    }));
 }
 
 Accessible OrvikTest::open_window(std::string_view title) const {
