@@ -182,7 +182,7 @@ class TemporaryFile {
 
 /// Gives the new file its rights. The owner comes last: a file of somebody else could not be changed any
 /// more.
-int set_rights(int file, const OldFile& old, const ReplaceOptions& options) {
+int set_rights(int file, const OldFile& old, const SaveOptions& options) {
     mode_t mode = options.new_mode & ~current_umask();
     if (old) {
         const bool group_kept = fchown(file, static_cast<uid_t>(-1), old->st_gid) == 0;
@@ -198,7 +198,7 @@ int set_rights(int file, const OldFile& old, const ReplaceOptions& options) {
 }
 
 int write_and_rename(TemporaryFile& made, const std::string& path, std::string_view contents,
-                     const OldFile& old, const ReplaceOptions& options) {
+                     const OldFile& old, const SaveOptions& options) {
     if (const int error = write_all(made.descriptor(), contents); error != 0) {
         return error;
     }
@@ -230,7 +230,7 @@ FileContents read_file(const std::string& path, std::size_t limit) {
     return contents;
 }
 
-int replace_file(const std::string& path, std::string_view contents, const ReplaceOptions& options) {
+int save_file(const std::string& path, std::string_view contents, const SaveOptions& options) {
     if (const int error = path_fault(path); error != 0) {
         return error;
     }

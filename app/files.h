@@ -31,7 +31,7 @@ enum class Durability {
               ///< after which the file may be the old one, the new one or, on some file systems, empty
 };
 
-struct ReplaceOptions {
+struct SaveOptions {
     Links links = Links::follow;
     mode_t new_mode = 0666;            ///< of a file that was not there before; the umask is taken off
     std::optional<mode_t> exact_mode;  ///< of an old and of a new file alike, whatever the umask
@@ -50,5 +50,5 @@ struct ReplaceOptions {
 /// Links::follow replaces what a chain of symbolic links leads to, or makes it; a loop gives ELOOP. A link
 /// that somebody else has put into a sticky directory that all may write to, such as /tmp, gives EACCES.
 /// Links::replace puts the file in the place of a link at `path` itself.
-[[nodiscard]] int replace_file(const std::string& path, std::string_view contents,
-                               const ReplaceOptions& options = {});
+[[nodiscard]] int save_file(const std::string& path, std::string_view contents,
+                            const SaveOptions& options = {});

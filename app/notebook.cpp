@@ -39,7 +39,7 @@ void NotebookPrint() {
         return;
     }
     // Everybody may write into /tmp: a link that somebody has put there must not lead to another file.
-    const int error = replace_file(printed_file, text, {.links = Links::replace, .exact_mode = 0600});
+    const int error = save_file(printed_file, text, {.links = Links::replace, .exact_mode = 0600});
     if (error != 0) {
         notebook().set_left_footer(fmt::format("Could not write {}: {}", printed_file, std::strerror(error)));
         return;

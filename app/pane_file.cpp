@@ -42,7 +42,7 @@ void PaneFile::save(Frame& frame, TextPane& pane, const std::string& path) {
         return;
     }
     const BusyState busy(frame);
-    if (const int error = replace_file(path, pane.text()); error != 0) {
+    if (const int error = save_file(path, pane.text()); error != 0) {
         frame.set_left_footer(fmt::format("Could not save {}: {}", path, std::strerror(error)));
         return;
     }

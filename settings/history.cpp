@@ -34,8 +34,8 @@ ScrollingList& history() { return command_history_manager().list; }
 /// Nobody but its owner may read what somebody has typed.
 int write_history(const ScrollingList& list, const std::string& path, Durability durability) {
     constexpr mode_t owner_only = 0600;
-    return replace_file(path, format_history(list.all_rows()),
-                        {.exact_mode = owner_only, .durability = durability});
+    return save_file(path, format_history(list.all_rows()),
+                     {.exact_mode = owner_only, .durability = durability});
 }
 
 struct Direction {

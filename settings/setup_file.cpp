@@ -32,7 +32,7 @@ int save_setup(const std::string& path) {
         report(fmt::format("{} not written: line {} would be too long or hold a line end\n", path, *line));
         return 0;
     }
-    if (const int error = replace_file(path, format_setup(values)); error != 0) {
+    if (const int error = save_file(path, format_setup(values)); error != 0) {
         report(fmt::format("{} not written: {}\n", path, std::strerror(error)));
         return 0;
     }

@@ -61,7 +61,7 @@ bool become_ordinary() { return geteuid() != 0 || (setgid(nobody) == 0 && setuid
 
 /// Replaces a file in a process that root has left; anybody else is one who is not root.
 int replace_as_ordinary(const std::string& path) {
-    return in_child([&] { return become_ordinary() ? replace_file(path, "new") : -1; });
+    return in_child([&] { return become_ordinary() ? save_file(path, "new") : -1; });
 }
 
 TEST(ReadFile, GivesAllBytesUpToTheLimit) {
@@ -86,17 +86,17 @@ TEST(ReadFile, RefusesWhatIsNoRegularFileWithoutWaiting) {
     EXPECT_EQ(read_file(home / "file", 0).error, 0);
 }
 
-TEST(ReplaceFile, KeepsTheModeOrTakesTheOneAskedFor) {
-    const std::tuple<std::string, ReplaceOptions, mode_t> cases[] = {{"old", {.new_mode = 0600}, 0755},
-                                                                     {"old", {.exact_mode = 0606}, 0606},
-                                                                     {"new\xff", {}, 0640},
-                                                                     {"script", {.new_mode = 0777}, 0750},
-                                                                     {"exact", {.exact_mode = 0666}, 0666}};
+TEST(SaveFile, KeepsTheModeOrTakesTheOneAskedFor) {
+    const std::tuple<std::string, SaveOptions, mode_t> cases[] = {{"old", {.new_mode = 0600}, 0755},
+                                                                  {"old", {.exact_mode = 0606}, 0606},
+                                                                  {"new\xff", {}, 0640},
+                                                                  {"script", {.new_mode = 0777}, 0750},
+                                                                  {"exact", {.exact_mode = 0666}, 0666}};
     const ScratchDirectory home;
     ASSERT_EQ(chmod(home.write("old", "old").c_str(), 04755), 0);
     const mode_t before = umask(027);
     for (const auto& [name, options, mode] : cases) {
-        EXPECT_EQ(replace_file(home / name, "new\0text"s, options), 0);
+        EXPECT_EQ(save_file(home / name, "new\0text"s, options), 0);
         EXPECT_EQ(read_file(home / name), "new\0text"s);
         EXPECT_EQ(mode_of(home / name), mode) << name;
     }
@@ -104,26 +104,26 @@ TEST(ReplaceFile, KeepsTheModeOrTakesTheOneAskedFor) {
     EXPECT_EQ(listing(home.path()), (Names{"exact", "new\xff", "old", "script"}));
 }
 
-TEST(ReplaceFile, FollowsLinksToTheirEndUnlessToldOtherwise) {
+TEST(SaveFile, FollowsLinksToTheirEndUnlessToldOtherwise) {
     const ScratchDirectory home;
     const std::string target = home.write("far/target", "old");
     fs::create_symlink("target", home / "far/second");
     fs::create_symlink("far/second", home / "first");
     fs::create_symlink(home / "far/made", home / "dangling");
-    EXPECT_EQ(replace_file(home / "first", "new"), 0);
+    EXPECT_EQ(save_file(home / "first", "new"), 0);
     EXPECT_EQ(read_file(home / "far/target"), "new");
-    EXPECT_EQ(replace_file(home / "dangling", "made"), 0);
+    EXPECT_EQ(save_file(home / "dangling", "made"), 0);
     EXPECT_EQ(read_file(home / "far/made"), "made");
     EXPECT_EQ(listing(home.path()),
               (Names{"dangling -> " + (home / "far/made").string(), "far", "first -> far/second"}));
-    EXPECT_EQ(replace_file(home / "first", "own", {.links = Links::replace, .exact_mode = 0600}), 0);
+    EXPECT_EQ(save_file(home / "first", "own", {.links = Links::replace, .exact_mode = 0600}), 0);
     EXPECT_EQ(read_file(home / "first"), "own");
     EXPECT_EQ(mode_of(home / "first"), S_IRUSR | S_IWUSR);
     EXPECT_EQ(read_file(home / "far/target"), "new");
     EXPECT_EQ(listing(home / "far"), (Names{"made", "second -> target", "target"}));
 }
 
-TEST(ReplaceFile, FollowsNoLinkThatSomebodyElsePutIntoASharedDirectory) {
+TEST(SaveFile, FollowsNoLinkThatSomebodyElsePutIntoASharedDirectory) {
     if (geteuid() != 0) {
         GTEST_SKIP() << "only root can make a link of somebody else's";
     }
@@ -148,7 +148,7 @@ TEST(ReplaceFile, FollowsNoLinkThatSomebodyElsePutIntoASharedDirectory) {
     }
 }
 
-TEST(ReplaceFile, RefusesWhatIsNoRegularFile) {
+TEST(SaveFile, RefusesWhatIsNoRegularFile) {
     const ScratchDirectory home;
     fs::create_directory(home / "directory");
     fs::create_symlink("directory", home / "link");
@@ -159,14 +159,14 @@ TEST(ReplaceFile, RefusesWhatIsNoRegularFile) {
         {"a\0b"s, EINVAL},        {"fifo/a", ENOTDIR},  {std::string(300, 'n'), ENAMETOOLONG},
         {"missing/file", ENOENT}, {"directory", EISDIR}};
     for (const auto& [name, error] : cases) {
-        EXPECT_EQ(replace_file((home / name).native(), "new"), error) << name;
+        EXPECT_EQ(save_file((home / name).native(), "new"), error) << name;
     }
-    EXPECT_EQ(replace_file("", "new"), ENOENT);
+    EXPECT_EQ(save_file("", "new"), ENOENT);
     EXPECT_EQ(listing(home.path()), (Names{"directory", "fifo", "link -> directory", "loop -> loop"}));
     EXPECT_TRUE(fs::is_fifo(home / "fifo"));
 }
 
-TEST(ReplaceFile, LeavesAFileThatMayNotBeWritten) {
+TEST(SaveFile, LeavesAFileThatMayNotBeWritten) {
     const ScratchDirectory home;
     const std::string file = home.write("file", "old");
     ASSERT_EQ(chmod(file.c_str(), 0444), 0);
@@ -176,7 +176,7 @@ TEST(ReplaceFile, LeavesAFileThatMayNotBeWritten) {
     EXPECT_EQ(listing(home.path()), Names{"file"});
 }
 
-TEST(ReplaceFile, GivesNobodyMoreRightsWhereTheGroupIsLost) {
+TEST(SaveFile, GivesNobodyMoreRightsWhereTheGroupIsLost) {
     if (geteuid() != 0) {
         GTEST_SKIP() << "only root can make a file of a group that its owner is not in";
     }
@@ -190,7 +190,7 @@ TEST(ReplaceFile, GivesNobodyMoreRightsWhereTheGroupIsLost) {
         EXPECT_EQ(mode_of(file), after);
     }
     ASSERT_EQ(chown(file.c_str(), nobody, nobody), 0);
-    ASSERT_EQ(replace_file(file, "root's"), 0);
+    ASSERT_EQ(save_file(file, "root's"), 0);
     struct stat info {};
     ASSERT_EQ(stat(file.c_str(), &info), 0);
     EXPECT_EQ(std::pair(info.st_uid, info.st_gid), std::pair(nobody, gid_t{nobody}));
@@ -211,7 +211,7 @@ bool have_own_mounts() {
     return unshared && mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0;
 }
 
-TEST(ReplaceFile, LeavesTheOldFileOnAFullDisk) {
+TEST(SaveFile, LeavesTheOldFileOnAFullDisk) {
     const ScratchDirectory home;
     const auto fill_disk = [&] {
         if (!have_own_mounts() || mount("none", home.path().c_str(), "tmpfs", 0, "size=64k") != 0) {
@@ -219,7 +219,7 @@ TEST(ReplaceFile, LeavesTheOldFileOnAFullDisk) {
         }
         const std::string old(20'000, 'o');
         const std::string file = home.write("file", old);
-        EXPECT_EQ(replace_file(file, std::string(1'000'000, 'n')), ENOSPC);
+        EXPECT_EQ(save_file(file, std::string(1'000'000, 'n')), ENOSPC);
         EXPECT_EQ(read_file(home / "file"), old);
         EXPECT_EQ(listing(home.path()), Names{"file"});
         return 0;

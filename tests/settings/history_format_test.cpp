@@ -71,8 +71,8 @@ TEST(HistoryFormat, CommandsAreRecordedByTheirLength) {
 /// Saves two contents in turn until it is killed.
 [[noreturn]] void save_without_end(const std::string& path, const std::array<std::string, 2>& contents) {
     for (std::size_t turn = 0;; ++turn) {
-        (void)replace_file(path, contents[turn % contents.size()],
-                           {.exact_mode = 0600, .durability = Durability::renamed});
+        (void)save_file(path, contents[turn % contents.size()],
+                        {.exact_mode = 0600, .durability = Durability::renamed});
     }
 }
 
