@@ -46,14 +46,6 @@ std::string sanitizer_report(const std::string& output) {
     return {};
 }
 
-std::string setup_text(const std::map<int, std::string>& values) {
-    std::string text = "$ORVIK_SETUP\n";
-    for (int line = 2; line <= last_setup_line; ++line) {
-        text += (values.contains(line) ? values.at(line) : "") + '\n';
-    }
-    return text;
-}
-
 XDisplay& OrvikTest::display() {
     static XDisplay the_display;
     return the_display;

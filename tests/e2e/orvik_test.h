@@ -3,6 +3,7 @@
 
 #include "tests/drive/program.h"
 #include "tests/support/scratch_directory.h"
+#include "tests/support/setup_text.h"
 #include "tests/support/wait_until.h"
 
 #include <optional>
@@ -88,11 +89,6 @@ class OrvikTest : public testing::Test {
     Accessible main_;
     Accessible terminal_;
 };
-
-inline constexpr int last_setup_line = 90;
-
-/// A setup file with these values on its lines; the others are empty, which is 0 for a number.
-[[nodiscard]] std::string setup_text(const std::map<int, std::string>& values);
 
 /// What a sanitizer has reported in a program's output; empty when nothing.
 [[nodiscard]] std::string sanitizer_report(const std::string& output);
