@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "settings/user_buttons.h"
 
+#include "app/command_line.h"
 #include "app/operands.h"
 #include "app/process.h"
 #include "app/shell.h"
-#include "app/status.h"
 #include "app/text.h"
 #include "settings/notify.h"
 #include "ui/function_keys.h"
@@ -93,10 +93,10 @@ void send_user_command(const std::string& command, std::string_view empty_messag
         return;
     }
     const FilledCommand filled = fill(command);
-    const std::string refusal = filled.refusal.empty() ? type_line(filled.text) : filled.refusal;
-    main_window().set_left_footer(refusal);
-    if (refusal.empty()) {
-        SetupTimer(refresh_after_command);
+    if (filled.refusal.empty()) {
+        (void)send_line(main_window(), filled.text);
+    } else {
+        main_window().set_left_footer(filled.refusal);
     }
 }
 

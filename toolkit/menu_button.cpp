@@ -17,7 +17,7 @@ class MenuPushButton : public QPushButton {
   public:
     MenuPushButton(const QString& label, QMenu& menu, QWidget* parent) : QPushButton(parent), menu_(menu) {
         setFocusPolicy(Qt::TabFocus);  // a click leaves the keyboard where it is
-        setText(label);                // not sooner: it makes the accessible interface, which is chosen by the type so far
+        setText(label);  // not sooner: it makes the accessible interface, which is chosen by the type so far
         menu_.setParent(this, menu_.windowFlags());
         connect(&menu_, &QMenu::aboutToHide, this, [this] { setDown(false); });
     }

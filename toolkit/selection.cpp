@@ -20,6 +20,4 @@ std::optional<std::string> selection_ask() {
     return from_qstring(data->text());
 }
 
-void copy_to_clipboard(const std::string& text) {
-    QGuiApplication::clipboard()->setText(to_qstring(text));
-}
+void copy_to_clipboard(const std::string& text) { QGuiApplication::clipboard()->setText(to_qstring(text)); }

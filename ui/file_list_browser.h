@@ -4,7 +4,9 @@
 #include "toolkit/choices.h"
 #include "toolkit/fields.h"
 #include "toolkit/frame.h"
+#include "toolkit/menu_button.h"
 #include "toolkit/scrolling_list.h"
+#include "ui/menus.h"
 
 #include <memory>
 
@@ -15,6 +17,10 @@ struct FileListBrowser : CommandFrame {
         constexpr int anywhere = 1;
         search.set_value(anywhere);
     }
+
+    Row menus{panel};
+    MenuButton load_menu{menus, "Load", Menu("Load", load_menu_items)};
+    Stretch behind_menus{menus};
 
     ScrollingList list{panel, "File List Browser list"};
     TextField directory{panel, "Directory:"};

@@ -7,7 +7,7 @@
 
 #include <array>
 
-// The main window's fixed menus.
+// The fixed menus.
 
 inline constexpr std::array help_menu_items{
     MenuItem{"To Get Started", To_get_started},
@@ -40,4 +40,9 @@ inline constexpr std::array browse_menu_items{
 
 inline constexpr std::array edit_menu_items{
     MenuItem{"Setup", Edit_menu_setup},
+};
+
+/// Of the "File List Browser".
+inline constexpr std::array load_menu_items{
+    MenuItem{"Setup", FileListLoadSetup},
 };
