@@ -94,7 +94,7 @@ std::optional<std::string> take_typed_command(CommandAsker asker) {
     const TerminalPane::CurrentLine line = main_window().termpane.current_line();
     std::optional<std::string> command = command_on(line, asker);
     if (command) {
-        if (!line.behind.empty()) {
+        if (!line.behind.empty() || !line.settled) {
             type_control('E');  // line editors erase only what is before the insertion point
         }
         type_control('U');

@@ -131,7 +131,8 @@ void TerminalPane::ring_bell() { pane_->view().ring(); }
 TerminalPane::CurrentLine TerminalPane::current_line() {
     pane_->session().await_echo();
     const terminal::Terminal& terminal = pane_->session().terminal();
-    return {terminal::line_to_cursor_text(terminal), terminal::line_behind_cursor_text(terminal)};
+    return {terminal::line_to_cursor_text(terminal), terminal::line_behind_cursor_text(terminal),
+            !pane_->session().echo_is_due()};
 }
 
 int TerminalPane::columns() const { return pane_->session().terminal().size().columns; }

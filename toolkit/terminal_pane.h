@@ -54,6 +54,7 @@ class TerminalPane {
     struct CurrentLine {
         std::string before;  ///< from its start (behind the last line feed) to the insertion point
         std::string behind;  ///< what follows, without blanks at the end
+        bool settled;        ///< the program has answered the last key: it may move the insertion point else
     };
     /// What the program echoes of keys just typed is read first; that may take it a moment.
     [[nodiscard]] CurrentLine current_line();

@@ -20,8 +20,8 @@ constexpr int slice_milliseconds = 3;
 constexpr int update_limit_milliseconds = 150;
 constexpr int hung_up_interval_milliseconds = 100;
 // How long an echo may take, and how long nothing more follows once it has come.
-constexpr int echo_limit_milliseconds = 25;
-constexpr int echo_quiet_milliseconds = 2;
+constexpr int echo_limit_milliseconds = 50;
+constexpr int echo_quiet_milliseconds = 4;
 // A program that reads lines and has no line editor is taken to be ready when it has written its prompt and
 // gone quiet, or at the latest after the limit.
 constexpr int readiness_interval_milliseconds = 10;
@@ -103,19 +103,23 @@ void TerminalSession::run() {
     }
 }
 
-void TerminalSession::type(std::string_view bytes) {
+void TerminalSession::write(std::string_view bytes) {
     if (pty_) {
         pty_->write(bytes);
         writable_->setEnabled(pty_->pending() > 0);
-        echo_due_ = true;
     }
+}
+
+void TerminalSession::type(std::string_view bytes) {
+    write(bytes);
+    echo_due_ = true;
 }
 
 void TerminalSession::submit(std::string_view bytes) {
     if (state_ == State::idle || state_ == State::starting) {
         held_back_.append(bytes);
     } else {
-        type(bytes);
+        write(bytes);
     }
 }
 
@@ -138,7 +142,7 @@ void TerminalSession::watch_readiness() {
     }
     readiness_.stop();
     state_ = State::running;
-    type(std::exchange(held_back_, {}));
+    write(std::exchange(held_back_, {}));
     if (events_.ready) {
         events_.ready();
     }
@@ -190,7 +194,7 @@ bool TerminalSession::update_is_open() const {
 
 void TerminalSession::reply(std::string_view bytes) {
     if (pty_ && pty_->pending() < unread_replies_limit) {
-        type(bytes);
+        write(bytes);
     }
 }
 

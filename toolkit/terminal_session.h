@@ -48,6 +48,8 @@ class TerminalSession final : private terminal::Client {
     /// Reads what the program has written, and what it is about to echo of the last key typed. Waits at most
     /// some milliseconds, and only when nothing has been read since that key.
     void await_echo();
+    /// The program has not answered the last key yet.
+    [[nodiscard]] bool echo_is_due() const { return echo_due_; }
     /// Shows a text that the program does not see.
     void show(std::string_view text);
 
@@ -71,6 +73,7 @@ class TerminalSession final : private terminal::Client {
     void bell() override;
     void title_changed(std::string_view title) override;
 
+    void write(std::string_view bytes);
     void read_slice();
     void write_pending();
     void check_for_end();
@@ -95,7 +98,7 @@ class TerminalSession final : private terminal::Client {
     QTimer readiness_;
     QElapsedTimer since_start_;
     QElapsedTimer since_output_;  ///< valid once a starting program has written something
-    bool echo_due_ = false;       ///< something was typed and nothing has been read since
+    bool echo_due_ = false;       ///< a key was typed and nothing has been read since
     int pixel_width_ = 0;
     int pixel_height_ = 0;
     QElapsedTimer update_open_;  ///< since when mode 2026 is on
