@@ -20,8 +20,10 @@ constexpr int slice_milliseconds = 3;
 constexpr int update_limit_milliseconds = 150;
 constexpr int hung_up_interval_milliseconds = 100;
 // How long an echo may take, and how long nothing more follows once it has come.
-constexpr int echo_limit_milliseconds = 50;
-constexpr int echo_quiet_milliseconds = 4;
+constexpr int echo_limit_milliseconds = 100;
+constexpr int echo_quiet_milliseconds = 20;
+// Keys that came longer ago have been answered.
+constexpr int recent_key_milliseconds = 150;
 // A program that reads lines and has no line editor is taken to be ready when it has written its prompt and
 // gone quiet, or at the latest after the limit.
 constexpr int readiness_interval_milliseconds = 10;
@@ -112,6 +114,7 @@ void TerminalSession::write(std::string_view bytes) {
 
 void TerminalSession::type(std::string_view bytes) {
     write(bytes);
+    since_key_.start();
     echo_due_ = true;
 }
 
@@ -150,7 +153,9 @@ void TerminalSession::watch_readiness() {
 
 void TerminalSession::await_echo() {
     const bool asks_for_password = pty_ && pty_->reads_lines() && !pty_->echoes();
-    int wait = echo_due_ && !asks_for_password ? echo_limit_milliseconds : 0;
+    const bool typing = since_key_.isValid() && !since_key_.hasExpired(recent_key_milliseconds);
+    const int quiet = typing ? echo_quiet_milliseconds : 0;
+    int wait = asks_for_password ? 0 : echo_due_ ? echo_limit_milliseconds : quiet;
     QElapsedTimer clock;
     clock.start();
     while (pty_ && clock.elapsed() <= echo_limit_milliseconds) {
@@ -159,7 +164,7 @@ void TerminalSession::await_echo() {
             return;
         }
         read_slice();
-        wait = echo_quiet_milliseconds;
+        wait = quiet;
     }
 }
 

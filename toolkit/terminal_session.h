@@ -98,7 +98,8 @@ class TerminalSession final : private terminal::Client {
     QTimer readiness_;
     QElapsedTimer since_start_;
     QElapsedTimer since_output_;  ///< valid once a starting program has written something
-    bool echo_due_ = false;       ///< a key was typed and nothing has been read since
+    QElapsedTimer since_key_;
+    bool echo_due_ = false;  ///< a key was typed and nothing has been read since
     int pixel_width_ = 0;
     int pixel_height_ = 0;
     QElapsedTimer update_open_;  ///< since when mode 2026 is on
