@@ -133,13 +133,11 @@ void BaseWindowClearCommand() {
 }
 
 void BaseWindowScrollUp() {
-    main_window().set_left_footer("");
     history_previous(HistoryWalker::button);
     main_window().command.set_focus();
 }
 
 void BaseWindowScrollDown() {
-    main_window().set_left_footer("");
     history_next(HistoryWalker::button);
     main_window().command.set_focus();
 }

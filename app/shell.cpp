@@ -49,6 +49,19 @@ std::string type_refusal(std::string_view text) {
     return {};
 }
 
+std::string not_too_long(const std::string& selection) {
+    return selection.size() <= longest_selection ? selection : std::string();
+}
+
+SelectionLine first_line(const std::string& selection) {
+    SelectionLine line{.text = remove_nl(selection)};
+    std::replace(line.text.begin(), line.text.end(), '\t', ' ');
+    if (has_control_characters(line.text)) {
+        line.refusal = "Selection holds control characters";
+    }
+    return line;
+}
+
 }  // namespace
 
 terminal::Program login_shell() {
@@ -81,11 +94,12 @@ void type_control(char letter) {
 }
 
 std::optional<std::string> selected_line(Frame& frame, std::string_view none, std::string_view too_long) {
-    if (selection_ask().value_or(std::string()).size() > longest_answered_selection) {
+    const std::string selection = selection_ask().value_or(std::string());
+    if (selection.size() > longest_answered_selection) {
         frame.set_left_footer(too_long);
         return std::nullopt;
     }
-    SelectionLine line = selection_line();
+    SelectionLine line = first_line(not_too_long(selection));
     if (line.text.empty() || !line.refusal.empty()) {
         frame.set_left_footer(line.text.empty() ? none : line.refusal);
         return std::nullopt;
@@ -93,14 +107,7 @@ std::optional<std::string> selected_line(Frame& frame, std::string_view none, st
     return std::move(line.text);
 }
 
-SelectionLine selection_line() {
-    SelectionLine line{.text = remove_nl(get_seln())};
-    std::replace(line.text.begin(), line.text.end(), '\t', ' ');
-    if (has_control_characters(line.text)) {
-        line.refusal = "Selection holds control characters";
-    }
-    return line;
-}
+SelectionLine selection_line() { return first_line(get_seln()); }
 
 bool type_or_report(const std::string& text) {
     const std::string refusal = type_line(text);
@@ -110,7 +117,4 @@ bool type_or_report(const std::string& text) {
     return refusal.empty();
 }
 
-std::string get_seln() {
-    const std::string selection = selection_ask().value_or(std::string());
-    return selection.size() <= longest_selection ? selection : std::string();
-}
+std::string get_seln() { return not_too_long(selection_ask().value_or(std::string())); }

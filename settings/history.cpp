@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "settings/history.h"
 
+#include "app/command_line.h"
 #include "app/files.h"
 #include "app/messages.h"
 #include "app/process.h"
-#include "app/shell.h"
-#include "app/status.h"
 #include "app/text.h"
 #include "settings/history_format.h"
 #include "settings/notify.h"
@@ -116,14 +115,6 @@ std::string history_path() {
     return fmt::sprintf("%s/.orvik-history", in_home ? home_dir : startup_dir);
 }
 
-std::string send_history_command(const std::string& command) {
-    std::string refusal = type_line(command);
-    if (refusal.empty()) {
-        SetupTimer(refresh_after_command);
-    }
-    return refusal;
-}
-
 void record_command(const std::string& command) {
     const CommandHistorySetup& setup = command_history_setup();
     if (!is_recorded(command.size(), setup.store_commands_longer_than.value(),
@@ -188,7 +179,7 @@ void my_action_proc3(const std::string& item) {
     }
     const int action = command_history_setup().menu_action.value();
     if (action != move_to_command_line) {
-        main_window().set_left_footer(send_history_command(item));
+        (void)send_line(main_window(), item);
     }
     if (action != execute) {
         main_window().command.set_text(item);

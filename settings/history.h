@@ -27,9 +27,6 @@ std::optional<std::vector<std::string>> add_history_to_menu(const ScrollingList&
 /// Where the history file is, as "History File Stored" says now.
 std::string history_path();
 
-/// Types a command of the history into the shell. Returns an empty text, or why it was not typed.
-[[nodiscard]] std::string send_history_command(const std::string& command);
-
 /// Files a command that has been sent to the shell, as "Command History Setup" says. To be called without the
 /// command's line feed. A file that cannot be saved is not reported here.
 void record_command(const std::string& command);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The controls of "Command History Manager".
 #include "app/background.h"
+#include "app/command_line.h"
 #include "app/doubleclick.h"
 #include "app/editor.h"
 #include "app/quoting.h"
@@ -27,9 +28,9 @@ void go_to(CommandHistoryManager& manager, int row) {
 }
 
 void run_row(CommandHistoryManager& manager, const std::string& command) {
-    const std::string refusal = command.empty() ? "No command specified" : send_history_command(command);
-    manager.set_left_footer(refusal);
-    if (refusal.empty()) {
+    if (command.empty()) {
+        manager.set_left_footer("No command specified");
+    } else if (send_line(manager, command)) {
         main_window().command.set_text("");
     }
 }

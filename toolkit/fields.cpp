@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "toolkit/fields.h"
 
+#include "toolkit/return_key.h"
 #include "toolkit/text_conversion.h"
 
 #include <QKeyEvent>
@@ -13,10 +14,6 @@
 namespace {
 
 constexpr int usual_length = 24;  ///< characters
-
-bool is_return(const QKeyEvent& event) {
-    return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
-}
 
 /// A line edit that keeps Return to itself when it acts on it; else the window takes the key.
 class LineEdit : public QLineEdit {

@@ -3,6 +3,7 @@
 
 #include "toolkit/accessible_role.h"
 #include "toolkit/footer.h"
+#include "toolkit/return_key.h"
 #include "toolkit/text_conversion.h"
 
 #include <QBoxLayout>
@@ -91,10 +92,9 @@ class FrameWidget : public QWidget {
         }
     }
     void keyPressEvent(QKeyEvent* event) override {
-        const bool is_return = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
         if (event->key() == Qt::Key_Escape && parentWidget() != nullptr) {
             close();
-        } else if (is_return && is_field(focusWidget())) {
+        } else if (is_return(*event) && is_field(focusWidget())) {
             finish_field();
         } else {
             QWidget::keyPressEvent(event);

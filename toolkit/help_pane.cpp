@@ -2,6 +2,7 @@
 #include "toolkit/help_pane.h"
 
 #include "toolkit/clear_button.h"
+#include "toolkit/return_key.h"
 #include "toolkit/text_conversion.h"
 #include "toolkit/text_size.h"
 
@@ -78,8 +79,7 @@ class HelpPaneWidget final : public QWidget {
 
   protected:
     void keyPressEvent(QKeyEvent* event) override {
-        const bool is_return = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-        if (is_return && field_->hasFocus()) {
+        if (is_return(*event) && field_->hasFocus()) {
             go(event->modifiers().testFlag(Qt::ShiftModifier) ? QTextDocument::FindBackward
                                                               : QTextDocument::FindFlags());
             return;

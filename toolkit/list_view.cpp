@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "toolkit/list_view.h"
 
+#include "toolkit/return_key.h"
 #include "toolkit/text_conversion.h"
 
 #include <QKeyEvent>
@@ -61,7 +62,7 @@ void ListView::mouseDoubleClickEvent(QMouseEvent* event) { mousePressEvent(event
 
 void ListView::keyPressEvent(QKeyEvent* event) {
     const QModelIndex before = currentIndex();
-    if (before.isValid() && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)) {
+    if (before.isValid() && is_return(*event)) {
         tell({.kind = ListEvent::Kind::activate, .row = before.row()});
         return;
     }

@@ -117,6 +117,21 @@ TEST_F(CommandWindowTest, CopyMovesTheCommandOutOfTheShellsLine) {
     EXPECT_EQ(main_window().left_footer(), "Couldn't get full line");
 }
 
+TEST_F(CommandWindowTest, MoveHasWordsOfItsOwn) {
+    main_window().command.set_text("c");
+    ttysw_output(main_window().termpane, "host% ");
+    BaseWindowMoveButton();
+    EXPECT_EQ(main_window().left_footer(), "No delimiter specified");
+    default_settings().look_for_ending_delimiter.set_value(false);
+    BaseWindowMoveButton();
+    EXPECT_EQ(main_window().left_footer(), "No prompter saved");
+    default_settings().prompt.set_text("host%");
+    BaseWindowMoveButton();
+    EXPECT_EQ(main_window().left_footer(), "No command");
+    EXPECT_EQ(main_window().command.text(), "c");
+    EXPECT_EQ(typed(), "");
+}
+
 TEST_F(CommandWindowTest, ReturnRunsAndFilesTheLine) {
     constexpr bool cleared = true;
     const struct {

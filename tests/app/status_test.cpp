@@ -53,6 +53,12 @@ TEST_F(StatusDisplayTest, TheTimerShowsWhatTheShellWrote) {
         [] { return main_window().right_footer() == "Host: h   User: u   PID: 123   View: v   "; }, 5000));
 }
 
+TEST_F(StatusDisplayTest, NoAliasIsSetWithoutAStatusFile) {
+    status_display().status_file.set_text("");
+    BaseWindowSetAlias();
+    EXPECT_EQ(main_window().left_footer(), "Orvik status file not defined");
+}
+
 TEST_F(StatusDisplayTest, ALaterTimerReplacesAPendingOneAndDisplayOffArmsNone) {
     constexpr int off = 1;
     shell_writes("C:/first\n");
