@@ -7,14 +7,7 @@
 #include <utility>
 
 std::optional<std::vector<std::string>> parse_history(std::string_view contents) {
-    if (take_line(contents).find("ORVIK_HISTORY") == std::string_view::npos) {
-        return std::nullopt;
-    }
-    std::vector<std::string> commands;
-    while (!contents.empty()) {
-        commands.emplace_back(take_line(contents));
-    }
-    return commands;
+    return lines_behind_mark(contents, "ORVIK_HISTORY");
 }
 
 std::string format_history(std::span<const std::string> commands) {

@@ -25,7 +25,7 @@ const std::array<FolderRule, 10> folder_rules{{
     {"toolkit", {"toolkit", "terminal"}},
     {"ui", {"ui", "toolkit", "notify.h"}},
     {"app", {"app", "ui", "toolkit", "terminal", "browsers", "settings"}},
-    {"settings", {"settings", "ui", "toolkit", "app"}},
+    {"settings", {"settings", "ui", "toolkit", "app", "browsers"}},
     {"browsers", {"browsers", "ui", "toolkit", "app"}},
     {"commands", {"commands", "ui", "toolkit", "app", "browsers"}},
     {"tests", {"*"}},
