@@ -89,6 +89,10 @@ int start_detached_shell(const std::string& command_line) {
 
 void run_in_background(const std::string& command) {
     report(fmt::format("{} &\n", command));
+    start_in_background(command);
+}
+
+void start_in_background(const std::string& command) {
     // The "&" is ours: with sh's own the command would ignore interrupts (POSIX, shell language, 2.11), and
     // of several commands in the line only the last would be in the background.
     if (const int error = start_detached_shell(command); error != 0) {

@@ -9,6 +9,9 @@
 /// Board, and so is why no shell could be started for it. What becomes of the command is not watched.
 void run_in_background(const std::string& command);
 
+/// The same without showing the line.
+void start_in_background(const std::string& command);
+
 /// Starts the system's shell on a command line and returns at once: 0, or the error number (errno) of what
 /// failed. The shell has a session of its own and this process for no parent, so it outlives the tool, gets
 /// no hang-up from its terminal and leaves no zombie. Its input is empty; of the descriptors it inherits the

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/editor.h"
 
+#include "app/background.h"
 #include "app/quoting.h"
 #include "ui/text_editor_setup.h"
 
@@ -66,4 +67,18 @@ std::optional<std::string> editor_command(std::string_view word) {
     }
     const std::string users = setup.user_editor.text();
     return users.empty() ? std::nullopt : std::optional(fmt::format("{} {}", users, word));
+}
+
+void edit_file(Frame& frame, const std::string& path) {
+    if (const std::optional<std::string> command = editor_command(system_word(path))) {
+        run_in_background(*command);
+    } else {
+        frame.set_left_footer("User editor not specified");
+    }
+}
+
+void edit_file_silently(const std::string& path) {
+    if (const std::optional<std::string> command = editor_command(system_word(path))) {
+        start_in_background(*command);
+    }
 }

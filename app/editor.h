@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+class Frame;
+
 // The user's text editor, as "Text Editor Setup" says at the time of the call.
 
 /// Options for vi in a window of the shell tool: its place and size in pixels, and its font.
@@ -19,3 +21,9 @@ std::string gedit_command();
 /// app/quoting.h. Nothing while "user def" is chosen and "User Editor:" is empty: "User editor not
 /// specified".
 [[nodiscard]] std::optional<std::string> editor_command(std::string_view word);
+
+/// Opens a file in the editor and shows the command on the Message Board; the frame's left footer tells when
+/// no editor is specified.
+void edit_file(Frame& frame, const std::string& path);
+/// The same, but nobody is told anything.
+void edit_file_silently(const std::string& path);

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include <fmt/format.h>
+#include <unistd.h>
 
 namespace {
 
@@ -53,6 +54,10 @@ std::string with_home_directory(std::string_view name) {
     }
     const std::size_t rest = std::min(name.find('/'), name.size());
     return expand_path(name.substr(0, rest)) + std::string(name.substr(rest));
+}
+
+std::string path_meant(const std::string& path) {
+    return access(path.c_str(), F_OK) == 0 ? path : expand_path(path);
 }
 
 std::string name_refusal(std::string_view name) {

@@ -23,5 +23,9 @@ std::optional<std::string> operand_behind(std::string_view before, std::string_v
 /// would mean nothing to the shell.
 std::string with_home_directory(std::string_view name);
 
+/// A path as its user wrote it: the file of that very name if there is one, else with "~" and variables
+/// expanded.
+std::string path_meant(const std::string& path);
+
 /// The message for a name that cannot be typed into the user's shell.
 std::string name_refusal(std::string_view name);

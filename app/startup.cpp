@@ -4,6 +4,7 @@
 #include "app/fonts.h"
 #include "app/messages.h"
 #include "app/notify.h"
+#include "app/operands.h"
 #include "app/options.h"
 #include "app/process.h"
 #include "app/quoting.h"
@@ -13,14 +14,15 @@
 #include "app/termpane.h"
 #include "app/title.h"
 #include "app/user_defaults.h"
-#include "browsers/expand_path.h"
+#include "browsers/file_list.h"
+#include "settings/bookmarks.h"
+#include "settings/command_list.h"
 #include "settings/history.h"
 #include "settings/setup_file.h"
 #include "settings/user_buttons.h"
+#include "settings/user_menu.h"
 #include "toolkit/application.h"
 #include "toolkit/resources.h"
-#include "ui/command_list_manager.h"
-#include "ui/command_list_setup.h"
 #include "ui/default_settings.h"
 #include "ui/define_label.h"
 #include "ui/email_addresses.h"
@@ -46,12 +48,6 @@ void type_and_refresh(const std::string& line, int refresh) {
     if (type_or_report(line)) {
         SetupTimer(refresh);
     }
-}
-
-/// A path as its user wrote it: the file of that very name if there is one, else with "~" and variables
-/// expanded.
-std::string path_meant(const std::string& path) {
-    return access(path.c_str(), F_OK) == 0 ? path : expand_path(path);
 }
 
 /// Types a command on a file or directory; an empty path leaves the command without one.
@@ -107,15 +103,6 @@ void set_initial_values() {
     text_editor_setup().user_editor.set_text(
         windowed_editor(environment_text("VISUAL"), environment_text("EDITOR")));
     default_settings().prompt_ending_delimiter.set_text(usual_prompt_delimiter(shell_name, geteuid() == 0));
-}
-
-/// The command list's window is as wide as its setup says, the list as wide as the window or a little less.
-void size_command_list() {
-    constexpr int margin = 40;
-    const CommandListSetup& setup = command_list_setup();
-    command_list_manager().set_width(setup.window_width.value());
-    command_list_manager().list.set_margin(
-        setup.follow_window_size.value() == CommandListSetup::follow ? 0 : margin);
 }
 
 void read_resources() {
@@ -186,12 +173,16 @@ void start_up(std::vector<std::string> arguments) {
     status_display().status_file.set_text(create_status_file(home_dir));
     read_resources();
     const CommandLineOptions options = read_options(arguments);
-    (void)load_setup_at_startup();
+    const bool setup_loaded = load_setup_at_startup() == 1;
     put_options_into_fields(options);
     set_up_user_buttons_at_startup();
+    list_files_at_startup(setup_loaded || options.work ? environment_setup().working_directory_1.text() : "");
     size_command_list();
     load_history_at_startup();
+    load_user_menu_at_startup();
+    make_command_menu_at_startup();
     make_history_menu_at_startup();
+    load_bookmarks_at_startup();
     type_environment_file();
     if (options.work && !options.host) {
         type_with_path("cd", options.workdir);

@@ -68,7 +68,11 @@ void walk(const Direction& direction, HistoryWalker walker) {
 /// Whether the menu could be made; the history button has none otherwise.
 bool make_history_menu(int entries) {
     const auto items = add_history_to_menu(history(), entries);
-    main_window().history_menu.set_items(items.value_or(std::vector<std::string>()), my_action_proc3);
+    std::vector<MenuEntry> menu;
+    for (const std::string& item : items.value_or(std::vector<std::string>())) {
+        menu.push_back({item, item});
+    }
+    main_window().history_menu.menu().set_entries(menu, my_action_proc3);
     return items.has_value();
 }
 
@@ -96,7 +100,7 @@ int save_history(const ScrollingList& list, const std::string& path) {
     return 1;
 }
 
-void clear_history(ScrollingList& list) { list.set_rows({}); }
+void clear_history(ScrollingList& list) { list.delete_rows(); }
 
 std::optional<std::vector<std::string>> add_history_to_menu(const ScrollingList& list, int count) {
     const std::vector<std::string>& rows = list.all_rows();
@@ -167,7 +171,7 @@ void Bottom_buttons_menu() {
     main_window().set_left_footer("");
     const int entries = command_history_setup().number_of_entries.value();
     if (entries < 1) {
-        main_window().history_menu.set_items({}, my_action_proc3);
+        main_window().history_menu.menu().set_entries({}, my_action_proc3);
     } else if (!make_history_menu(entries)) {
         main_window().set_left_footer("Couldn't generate history menu");
     }

@@ -2,6 +2,7 @@
 #include "settings/setup_file.h"
 
 #include "app/files.h"
+#include "app/listed_file.h"
 #include "app/messages.h"
 #include "app/process.h"
 #include "settings/notify.h"
@@ -76,20 +77,12 @@ void Save_current_setup() {
 }
 
 void FileListLoadSetup() {
-    FileListBrowser& browser = file_list_browser();
-    const std::string name = browser.file_name.text();
-    const std::string directory = browser.directory.text();
-    browser.set_left_footer("");
-    if (name.empty()) {
-        browser.set_left_footer("File name not specified");
+    const std::optional<std::string> path = listed_file();
+    if (!path) {
         return;
     }
-    if (directory.empty()) {
-        browser.set_left_footer("Directory name not specified");
-        return;
-    }
-    const int result = load_setup(fmt::sprintf("%s/%s", directory, name));
-    browser.set_left_footer(result == 1   ? fmt::format("Setup loaded from {}/{}", directory, name)
-                            : result == 0 ? "Setup file not found"
-                                          : "Not a valid setup file");
+    const int result = load_setup(*path);
+    file_list_browser().set_left_footer(result == 1   ? fmt::format("Setup loaded from {}", *path)
+                                        : result == 0 ? "Setup file not found"
+                                                      : "Not a valid setup file");
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "toolkit/list_view.h"
 
+#include "toolkit/button_picture.h"
 #include "toolkit/return_key.h"
 #include "toolkit/text_conversion.h"
 
@@ -8,6 +9,8 @@
 #include <QMouseEvent>
 
 #include <iterator>
+
+constexpr int glyph_size = 16;  // pixels
 
 void ListModel::append(std::vector<std::string> rows) {
     if (rows.empty()) {
@@ -19,9 +22,13 @@ void ListModel::append(std::vector<std::string> rows) {
     endInsertRows();
 }
 
-void ListModel::replace(std::vector<std::string> rows) {
+void ListModel::replace(std::vector<std::string> rows, std::vector<Glyph> glyphs) {
     beginResetModel();
     rows_ = std::move(rows);
+    glyphs_ = std::move(glyphs);
+    if (!glyphs_.empty() && pictures_[0].isNull()) {
+        pictures_ = {button_picture("arrow"), button_picture("directory"), button_picture("document")};
+    }
     endResetModel();
 }
 
@@ -30,14 +37,25 @@ int ListModel::rowCount(const QModelIndex& parent) const {
 }
 
 QVariant ListModel::data(const QModelIndex& index, int role) const {
-    const bool is_text = role == Qt::DisplayRole || role == Qt::AccessibleTextRole;
-    return is_text ? visible_text(rows_[static_cast<std::size_t>(index.row())]) : QVariant();
+    const auto row = static_cast<std::size_t>(index.row());
+    switch (role) {
+        case Qt::DisplayRole:
+        case Qt::AccessibleTextRole:
+            return visible_text(rows_[row]);
+        case Qt::DecorationRole: {
+            const Glyph glyph = row < glyphs_.size() ? glyphs_[row] : Glyph::none;
+            return glyph == Glyph::none ? QVariant() : pictures_[static_cast<std::size_t>(glyph) - 1];
+        }
+        default:
+            return {};
+    }
 }
 
 ListView::ListView(ListModel& model, ListNotify notify, QWidget* parent)
     : QListView(parent), notify_(notify) {
     setModel(&model);
     setUniformItemSizes(true);
+    setIconSize({glyph_size, glyph_size});
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setTabKeyNavigation(false);
 }

@@ -4,7 +4,10 @@
 #include "toolkit/scrolling_list.h"
 
 #include <QAbstractListModel>
+#include <QIcon>
 #include <QListView>
+
+#include <array>
 
 /// The rows of a list.
 class ListModel final : public QAbstractListModel {
@@ -13,13 +16,16 @@ class ListModel final : public QAbstractListModel {
 
     [[nodiscard]] const std::vector<std::string>& rows() const { return rows_; }
     void append(std::vector<std::string> rows);
-    void replace(std::vector<std::string> rows);
+    /// Rows without a glyph of their own have none.
+    void replace(std::vector<std::string> rows, std::vector<Glyph> glyphs);
 
     [[nodiscard]] int rowCount(const QModelIndex& parent) const override;
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
 
   private:
     std::vector<std::string> rows_;
+    std::vector<Glyph> glyphs_;      ///< of the first rows
+    std::array<QIcon, 3> pictures_;  ///< of the glyphs but for none; loaded when there are some
 };
 
 /// Shows the rows and tells what its user does with them.

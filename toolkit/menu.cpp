@@ -1,15 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "toolkit/menu.h"
 
+#include "toolkit/elided.h"
 #include "toolkit/text_conversion.h"
 
 #include <QMenu>
+
+#include <utility>
 
 Menu::Menu(std::string_view title, std::span<const MenuItem> items) : menu_(std::make_unique<QMenu>()) {
     menu_->setToolTipsVisible(true);
     if (!title.empty()) {
         menu_->setAccessibleName(to_qstring(title));
-        menu_->addSection(without_mnemonic(title));
+        title_ = menu_->addSection(without_mnemonic(title));
     }
     for (const MenuItem& item : items) {
         QAction* action = menu_->addAction(without_mnemonic(item.label));
@@ -20,3 +23,49 @@ Menu::Menu(std::string_view title, std::span<const MenuItem> items) : menu_(std:
 Menu::~Menu() = default;
 Menu::Menu(Menu&&) noexcept = default;
 Menu& Menu::operator=(Menu&&) noexcept = default;
+
+QAction* Menu::make_entry(const MenuEntry& entry, MenuNotify chosen) {
+    constexpr int widest = 640;  // pixels
+    auto* action = new QAction(elided(menu_->fontMetrics(), entry.label, widest), menu_.get());
+    action->setToolTip(plain_tool_tip(entry.value.empty() ? entry.label : entry.value));
+    action->setEnabled(!entry.is_heading);
+    QObject::connect(action, &QAction::triggered, menu_.get(),
+                     [chosen, value = entry.value] { chosen(value); });
+    return action;
+}
+
+void Menu::set_entries(const std::vector<MenuEntry>& entries, MenuNotify chosen) {
+    for (QAction* old : std::exchange(entries_, {})) {
+        menu_->removeAction(old);
+        old->deleteLater();  // it may be the one that has been chosen
+    }
+    const QList<QAction*> fixed = menu_->actions();
+    const auto behind_title = fixed.indexOf(title_) + 1;
+    QAction* first_fixed = behind_title < fixed.size() ? fixed[behind_title] : nullptr;
+    QList<QAction*> items;
+    for (const MenuEntry& entry : entries) {
+        QAction* action = make_entry(entry, chosen);
+        entries_.push_back(action);
+        if (entry.is_heading) {
+            menu_->insertAction(first_fixed, action);
+            first_fixed = action;  // a later heading stands above
+        } else {
+            items.append(action);
+        }
+    }
+    menu_->addActions(items);
+}
+
+Menu& Menu::add_pull_right(std::string_view label, Menu menu, Notify about_to_show) {
+    Menu& added = *pull_rights_.emplace_back(std::make_unique<Menu>(std::move(menu)));
+    QAction* item = menu_->addMenu(added.widget());
+    item->setText(without_mnemonic(label));
+    item->setEnabled(about_to_show != nullptr || added.has_entries());
+    if (about_to_show != nullptr) {
+        QObject::connect(added.widget(), &QMenu::aboutToShow, added.widget(), about_to_show);
+    }
+    // Only assistive programs trigger such an item.
+    QObject::connect(item, &QAction::triggered, menu_.get(),
+                     [menu = menu_.get(), item] { menu->setActiveAction(item); });
+    return added;
+}

@@ -2,6 +2,7 @@
 #include "toolkit/menu_button.h"
 
 #include "toolkit/button_picture.h"
+#include "toolkit/elided.h"
 #include "toolkit/text_conversion.h"
 
 #include <QAccessibleWidget>
@@ -11,29 +12,35 @@
 #include <QPushButton>
 #include <QStyleOptionButton>
 
+#include <utility>
+
 /// QPushButton's own menu runs an event loop of its own, in which an assistive program that opened it would
 /// wait for its answer until the menu is closed.
 class MenuPushButton : public QPushButton {
   public:
-    MenuPushButton(const QString& label, QMenu& menu, QWidget* parent) : QPushButton(parent), menu_(menu) {
+    MenuPushButton(const QString& label, QMenu& menu, QWidget* parent) : QPushButton(parent) {
         setFocusPolicy(Qt::TabFocus);  // a click leaves the keyboard where it is
         setText(label);  // not sooner: it makes the accessible interface, which is chosen by the type so far
-        menu_.setParent(this, menu_.windowFlags());
-        connect(&menu_, &QMenu::aboutToHide, this, [this] { setDown(false); });
+        set_menu(menu);
     }
 
-    [[nodiscard]] QMenu& menu() const { return menu_; }
+    [[nodiscard]] QMenu& menu() const { return *menu_; }
+    void set_menu(QMenu& menu) {
+        menu_ = &menu;
+        menu.setParent(this, menu.windowFlags());
+        connect(&menu, &QMenu::aboutToHide, this, [this] { setDown(false); });
+    }
     void set_about_to_open(Notify notify) { about_to_open_ = notify; }
     void show_menu() {
         if (about_to_open_ != nullptr) {
             about_to_open_();
         }
-        if (menu_.isEmpty()) {
+        if (menu_->isEmpty()) {
             return;
         }
         setDown(true);
-        menu_.setAttribute(Qt::WA_NoMouseReplay);  // a press on the button closes the open menu and no more
-        menu_.popup(mapToGlobal(rect().bottomLeft()));
+        menu_->setAttribute(Qt::WA_NoMouseReplay);  // a press on the button closes the open menu and no more
+        menu_->popup(mapToGlobal(rect().bottomLeft()));
     }
 
     [[nodiscard]] QSize sizeHint() const override {
@@ -70,7 +77,7 @@ class MenuPushButton : public QPushButton {
     }
 
   private:
-    QMenu& menu_;
+    QMenu* menu_ = nullptr;
     Notify about_to_open_ = nullptr;
 };
 
@@ -116,29 +123,32 @@ QAccessibleInterface* make_interface(const QString& /*class_name*/, QObject* obj
 
 }  // namespace
 
-MenuButton::MenuButton(Container& parent, Label label, Menu menu) : menu_(std::move(menu)) {
+MenuButton::MenuButton(Container& parent, Label label, Menu menu, Notify about_to_open)
+    : menu_(std::move(menu)) {
     QAccessible::installFactory(make_interface);  // a second installation is ignored
     widget_ = new MenuPushButton(without_mnemonic(label.text), *menu_.widget(), parent.widget());
     widget_->setAccessibleName(to_qstring(label.accessible_name));
     widget_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    widget_->set_about_to_open(about_to_open);
     parent.add({}, widget_, Place::line);
 }
 
 MenuButton::MenuButton(Container& parent, std::string_view accessible_name, std::string_view picture,
                        Notify about_to_open)
-    : MenuButton(parent, Label{"", accessible_name}, Menu({}, {})) {
+    : MenuButton(parent, Label{"", accessible_name}, Menu({}), about_to_open) {
     widget_->setIcon(button_picture(picture));
     widget_->setToolTip(to_qstring(accessible_name));
-    widget_->set_about_to_open(about_to_open);
 }
 
-void MenuButton::set_items(const std::vector<std::string>& items, MenuNotify chosen) {
-    constexpr int widest = 640;  // pixels
-    QMenu* menu = menu_.widget();
-    menu->clear();
-    for (const std::string& item : items) {
-        const QString shown = menu->fontMetrics().elidedText(visible_text(item), Qt::ElideRight, widest);
-        QAction* action = menu->addAction(QString(shown).replace(u'&', QStringLiteral("&&")));
-        QObject::connect(action, &QAction::triggered, menu, [chosen, item] { chosen(item); });
-    }
+void MenuButton::set_menu(Menu menu) {
+    widget_->set_menu(*menu.widget());
+    menu_ = std::move(menu);
 }
+
+void MenuButton::set_label(std::string_view label) {
+    constexpr int widest = 120;  // pixels
+    widget_->setText(elided(widget_->fontMetrics(), label, widest));
+    widget_->setAccessibleName(to_qstring(label));
+}
+
+void MenuButton::set_tool_tip(std::string_view text) { widget_->setToolTip(plain_tool_tip(text)); }

@@ -47,7 +47,21 @@ void ScrollingList::append(std::vector<std::string> rows) {
     model_->append(std::move(rows));
 }
 
-void ScrollingList::set_rows(std::vector<std::string> rows) { model_->replace(std::move(rows)); }
+void ScrollingList::set_rows(std::vector<std::string> rows) { model_->replace(std::move(rows), {}); }
+
+void ScrollingList::set_rows(std::vector<ListRow> rows) {
+    std::vector<std::string> texts;
+    std::vector<Glyph> glyphs;
+    texts.reserve(rows.size());
+    glyphs.reserve(rows.size());
+    for (ListRow& row : rows) {
+        texts.push_back(std::move(row.text));
+        glyphs.push_back(row.glyph);
+    }
+    model_->replace(std::move(texts), std::move(glyphs));
+}
+
+void ScrollingList::delete_rows() { model_->replace({}, {}); }
 
 std::optional<int> ScrollingList::selected() const {
     const QModelIndexList selected = widget_->selectionModel()->selectedIndexes();

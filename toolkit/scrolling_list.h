@@ -2,6 +2,7 @@
 #pragma once
 
 #include "toolkit/font.h"
+#include "toolkit/list_row.h"
 #include "toolkit/panel.h"
 
 #include <cstdint>
@@ -50,6 +51,9 @@ class ScrollingList {
     void append(std::vector<std::string> rows);
     /// Replaces all rows, whether equal or not; none is selected then.
     void set_rows(std::vector<std::string> rows);
+    /// The same with a glyph before each row.
+    void set_rows(std::vector<ListRow> rows);
+    void delete_rows();
 
     /// Nothing where no row is selected.
     [[nodiscard]] std::optional<int> selected() const;

@@ -30,6 +30,12 @@ class OrvikStyle : public QProxyStyle {
         return metric == PM_MenuVMargin ? menu_margin : QProxyStyle::pixelMetric(metric, option, widget);
     }
 
+    /// A menu higher than the screen scrolls; beside each other its items would be hard to follow.
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* more) const override {
+        return hint == SH_Menu_Scrollable ? 1 : QProxyStyle::styleHint(hint, option, widget, more);
+    }
+
     QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
                            const QWidget* widget) const override {
         QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);

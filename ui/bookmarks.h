@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "settings/notify.h"
+#include "toolkit/buttons.h"
 #include "toolkit/fields.h"
 #include "toolkit/frame.h"
 
@@ -13,7 +15,11 @@ struct Bookmarks : CommandFrame {
         bookmark_file.set_text("$HOME/.orvik-bookmarks");
     }
 
-    TextField bookmark_file{panel, "Bookmark File:"};
+    TextField bookmark_file{panel, "Bookmark File:", BookmarkSetupFileName};
+    Row buttons{panel, Place::field};
+    Button update{buttons, "Update", BookmarksUpdate};
+    Button edit{buttons, "Edit", BookmarkFIleEdit};
+    Stretch behind_buttons{buttons};
 };
 
 inline std::unique_ptr<Bookmarks> Orvik_popup14;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "settings/notify.h"
 #include "toolkit/choices.h"
 #include "toolkit/fields.h"
 #include "toolkit/frame.h"
@@ -16,10 +17,10 @@ struct CommandListSetup : CommandFrame {
         follow_window_size.set_value(follow);
     }
 
-    TextField commands_directory{panel, "Commands Directory:"};
-    TextField commands_file_loaded{panel, "Commands File Loaded:"};
-    Choice follow_window_size{panel, "Follow Window Size", {"No", "Yes"}};
-    NumberField window_width{panel, "Window Width:", 450};
+    TextField commands_directory{panel, "Commands Directory:", EnvironmentSetupCommandsDir};
+    TextField commands_file_loaded{panel, "Commands File Loaded:", Commands_file_loaded};
+    Choice follow_window_size{panel, "Follow Window Size", {"No", "Yes"}, CommandListFollowWindow};
+    NumberField window_width{panel, "Window Width:", 450, CommandListSetupWindowWidth};
 };
 
 inline std::unique_ptr<CommandListSetup> Orvik_popup7;

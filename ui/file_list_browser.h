@@ -20,6 +20,7 @@ struct FileListBrowser : CommandFrame {
 
     Row menus{panel};
     MenuButton load_menu{menus, "Load", Menu("Load", load_menu_items)};
+    MenuButton bookmark_menu{menus, "BM", Menu({})};
     Stretch behind_menus{menus};
 
     ScrollingList list{panel, "File List Browser list"};

@@ -35,6 +35,12 @@ struct MainWindow : Frame {
     MenuButton setup_menu{menus, "Setup", Menu("Setup", setup_menu_items)};
     MenuButton browse_menu{menus, "Browse", Menu("Browse", browse_menu_items)};
     MenuButton edit_menu{menus, "Edit", Menu("Edit", edit_menu_items)};
+    PullRight edit_current{edit_menu, "Current", EditMenuCurrent};
+    PullRight edit_home{edit_menu, "Home", Edit_menu_home};
+    PullRight edit_startup{edit_menu, "Startup", Edit_menu_startup};
+    MenuButton user_menu{menus, "User", Menu("User Definitions", user_menu_items)};
+    MenuButton command_menu{menus, "Command", Menu("Commands"), BaseWindowCommandMenu};
+    MenuButton bookmark_menu{menus, "BM", Menu({})};
     Stretch before_quit{menus};
     Button quit{menus, "Quit", Quit_button};
 
@@ -47,12 +53,15 @@ struct MainWindow : Frame {
     ImageButton execute_background{actions, "execute background", Execute_BG_button};
     ImageButton copy{actions, "copy", OrvikWindowCopyButton};
     ImageButton copy_to_notebook{actions, "copy to notebook", CopyToMessageBoard};
+    ImageButton bookmark{actions, "bookmark", BaseWindowBookmark};
+    ImageButton add_bookmark_button{actions, "add bookmark", BaseWindowAddBookmark};
     ImageButton floating_command_line{actions, "floating command line", FloatingCommandLine};
     ImageButton set_alias{actions, "set alias", BaseWindowSetAlias};
     ImageButton wide{actions, "wide", Set_wide_screen};
     ImageButton normal{actions, "normal", Set_normal_width};
     ImageButton tall{actions, "tall", Set_small_font};
     ImageButton clear_terminal{actions, "clear terminal", Set_large_font};
+    ImageButton command_list{actions, "command list", BaseWindowCommandList};
     Stretch behind_actions{actions};
 
     Row command_row{control_panel, "Command:"};

@@ -42,7 +42,13 @@ inline constexpr std::array edit_menu_items{
     MenuItem{"Setup", Edit_menu_setup},
 };
 
+inline constexpr std::array user_menu_items{
+    MenuItem{"Edit", Edit_user_menu},
+    MenuItem{"Update", Generate_new_menu},
+};
+
 /// Of the "File List Browser".
 inline constexpr std::array load_menu_items{
+    MenuItem{"Command", FileListLoadCommand},
     MenuItem{"Setup", FileListLoadSetup},
 };

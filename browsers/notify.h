@@ -1,0 +1,10 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+
+// The notify procedures of browsers/, bound to controls by the windows, and to entries of menus made at run
+// time.
+
+// "File List Browser", "BM" menu.
+void SetBookmarkFileListDir(const std::string& path);

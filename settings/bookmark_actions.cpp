@@ -1,0 +1,145 @@
+// SPDX-License-Identifier: MIT
+// What choosing a bookmark does, and the main window's buttons that make one. A bookmark's path is one word
+// for the shell, whatever it holds.
+#include "app/background.h"
+#include "app/command_line.h"
+#include "app/editor.h"
+#include "app/operands.h"
+#include "app/process.h"
+#include "app/quoting.h"
+#include "app/shell.h"
+#include "app/status.h"
+#include "app/text.h"
+#include "browsers/file_type.h"
+#include "settings/notify.h"
+#include "ui/bookmark_definition.h"
+#include "ui/main_window.h"
+
+#include <cstdlib>
+#include <filesystem>
+
+#include <fmt/format.h>
+#include <fmt/printf.h>
+
+namespace {
+
+/// A bookmark's path as a word for the user's shell; nothing, and the main window's left footer says why,
+/// where it cannot be one.
+std::optional<std::string> word_of(const std::string& path) {
+    main_window().set_left_footer("");
+    if (path.empty()) {
+        return std::nullopt;
+    }
+    const std::string meant = path_meant(path);
+    std::optional<std::string> word = shell_word(meant, shell_family(shell_name));
+    if (!word) {
+        main_window().set_left_footer(name_refusal(meant));
+    }
+    return word;
+}
+
+/// Opens a path with the program that an environment variable names; its value may hold options.
+void open_with(const char* variable, const std::string& path) {
+    main_window().set_left_footer("");
+    if (path.empty()) {
+        return;
+    }
+    const char* viewer = std::getenv(variable);
+    if (viewer == nullptr || *viewer == '\0') {  // the shell would run the file itself
+        main_window().set_left_footer(fmt::format("Environment variable {} is not set", variable));
+        return;
+    }
+    start_in_background(fmt::format("${} {}", variable, system_word(path_meant(path))));
+}
+
+/// "Cwd:"; empty, and the left footer says so, when it is.
+std::string current_directory() {
+    std::string directory = main_window().cwd.text();
+    main_window().set_left_footer(directory.empty() ? "Current directory not set" : "");
+    return directory;
+}
+
+void define_bookmark(std::string_view path, FileType type) {
+    BookmarkDefinition& window = bookmark_definition();
+    window.bookmarked_file.set_text(path);
+    window.bookmark_name.set_text("");
+    window.file_type.set_value(type);
+    window.set_left_footer("");
+    window.open();
+    window.bookmark_name.set_focus();
+}
+
+}  // namespace
+
+void SetBookmarkDir(const std::string& path) {
+    if (const std::optional<std::string> word = word_of(path)) {
+        (void)send_line(main_window(), fmt::format("cd {}", *word));
+    }
+}
+
+void OpenBookmarkSource(const std::string& path) {
+    if (!path.empty()) {
+        edit_file_silently(path_meant(path));
+    }
+}
+
+void RunBookmarkExec(const std::string& path) {
+    if (const std::optional<std::string> word = word_of(path)) {
+        (void)send_line(main_window(), *word);
+    }
+}
+
+void RunBookmarkScript(const std::string& path) {
+    if (const std::optional<std::string> word = word_of(path)) {
+        main_window().set_left_footer(type_text(*word));
+        SetupTimer(refresh_after_command);
+        main_window().termpane.set_focus();
+    }
+}
+
+void OpenBookmarkHTML(const std::string& path) { open_with("OPENHTML", path); }
+
+void OpenBookmarkPDF(const std::string& path) { open_with("OPENPDF", path); }
+
+void OpenBookmarkOther(const std::string& path) {
+    if (const std::optional<std::string> word = word_of(path)) {
+        main_window().command.set_text(*word);
+        main_window().command.set_focus();
+    }
+}
+
+void BaseWindowAddBookmark() {
+    const std::string directory = current_directory();
+    if (!directory.empty()) {
+        define_bookmark(directory, FT_DIRECTORY);
+    }
+}
+
+void BaseWindowBookmark() {
+    const std::string directory = current_directory();
+    if (directory.empty()) {
+        return;
+    }
+    std::error_code unknown;
+    if (!std::filesystem::exists(directory, unknown)) {
+        main_window().set_left_footer("Current directory not found");
+        return;
+    }
+    constexpr std::string_view none = "No selection made or selection too long";
+    const std::optional<std::string> selected = selected_line(main_window(), none);
+    if (!selected) {
+        return;
+    }
+    const std::string name = remove_leading_blanks(remove_trailing_spaces(*selected));
+    if (name.empty()) {
+        main_window().set_left_footer(none);
+        return;
+    }
+    const std::string path = fmt::sprintf("%s/%s", directory, name);
+    const FileType type = GetFileType(path);
+    if (type < 0) {
+        main_window().set_left_footer("Illegal file");
+    } else {
+        define_bookmark(path, type);
+    }
+}

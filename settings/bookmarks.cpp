@@ -1,0 +1,212 @@
+// SPDX-License-Identifier: MIT
+#include "settings/bookmarks.h"
+
+#include "app/editor.h"
+#include "app/files.h"
+#include "app/messages.h"
+#include "app/operands.h"
+#include "app/quoting.h"
+#include "browsers/notify.h"
+#include "settings/bookmark_format.h"
+#include "settings/notify.h"
+#include "ui/bookmark_definition.h"
+#include "ui/bookmarks.h"
+#include "ui/file_list_browser.h"
+#include "ui/main_window.h"
+
+#include <array>
+#include <cerrno>
+#include <filesystem>
+#include <utility>
+
+#include <fmt/format.h>
+
+namespace {
+
+/// More is not read of a file: a thousand lines are the most there may be.
+constexpr std::size_t most_bytes = std::size_t{16} * 1024 * 1024;
+
+/// A submenu of "Bookmarks", in the order of the categories.
+struct Submenu {
+    std::string_view label;
+    MenuNotify chosen;
+};
+
+constexpr std::array<Submenu, bookmark_categories.size()> submenus{{
+    {"Directories", SetBookmarkDir},
+    {"Sources", OpenBookmarkSource},
+    {"Executables", RunBookmarkExec},
+    {"Scripts", RunBookmarkScript},
+    {"HTML", OpenBookmarkHTML},
+    {"PDF", OpenBookmarkPDF},
+    {"Other", OpenBookmarkOther},
+}};
+
+using Entries = std::vector<MenuEntry>;
+
+Menu menu_of(std::string_view title, const Entries& entries, MenuNotify chosen) {
+    Menu menu(title);
+    menu.set_entries(entries, chosen);
+    return menu;
+}
+
+/// The whole of a file that is not there to be too long; nothing when it cannot be read.
+std::optional<std::string> contents_of(const std::string& path) {
+    FileContents contents = read_file(path, most_bytes);
+    return contents.error == 0 ? std::optional(std::move(contents.text)) : std::nullopt;
+}
+
+std::string bookmark_path() { return path_meant(bookmarks().bookmark_file.text()); }
+
+/// Makes the file when it is missing or empty; whether there is one then.
+bool has_bookmark_file(const std::string& path) {
+    std::error_code missing;
+    const bool empty =
+        !std::filesystem::exists(path, missing) ||
+        (std::filesystem::is_regular_file(path, missing) && std::filesystem::file_size(path, missing) == 0);
+    return !empty || GenerateNewBookmarkFile(path) == 1;
+}
+
+/// What is wrong with the file, by the result of a function that reads it; empty for nothing.
+std::string_view fault_of(int result) {
+    switch (result) {
+        case -1:
+            return "Not a valid bookmarks file";
+        case 0:
+            return "Bookmark file not found";
+        case 2:
+            return "Can't store more bookmarks";
+        case 3:
+            return "Bookmark already exists";
+        default:
+            return "";
+    }
+}
+
+/// Makes the menus anew; the frame's left footer tells that it is done, or why not.
+void rebuild_menus(Frame& frame, const std::string& path, std::string_view done) {
+    const std::string_view fault = fault_of(SetupBookmarksMenu(path));
+    frame.set_left_footer(fault.empty() ? done : fault);
+}
+
+/// Why "Bookmark Definition" makes no bookmark; empty when it does.
+std::string_view definition_refusal(const Bookmark& bookmark) {
+    if (bookmark.name.empty()) {
+        return "Bookmark name not specified";
+    }
+    if (bookmark.path.empty()) {
+        return "Bookmark not specified";
+    }
+    if (bookmarks().bookmark_file.text().empty()) {
+        return "Bookmark file not specified";
+    }
+    return bookmark_refusal(bookmark);
+}
+
+}  // namespace
+
+int GenerateNewBookmarkFile(const std::string& path) {
+    return save_file(path, new_bookmark_file()) == 0 ? 1 : 0;
+}
+
+int SetupBookmarksMenu(const std::string& path) {
+    const std::optional<std::string> contents = contents_of(path);
+    if (!contents) {
+        return 0;
+    }
+    const std::optional<std::vector<Bookmark>> read = parse_bookmarks(*contents);
+    if (!read) {
+        return -1;
+    }
+    std::array<Entries, submenus.size()> entries;
+    for (const Bookmark& bookmark : *read) {
+        entries[bookmark.category].push_back({bookmark.name, bookmark.path});
+    }
+    Menu book_mark_menu("Bookmarks");
+    for (std::size_t i = 0; i < submenus.size(); ++i) {
+        book_mark_menu.add_pull_right(submenus[i].label, menu_of({}, entries[i], submenus[i].chosen));
+    }
+    main_window().bookmark_menu.set_menu(std::move(book_mark_menu));
+    const Entries& directories = entries.front();
+    file_list_browser().bookmark_menu.set_menu(menu_of("Set Dir", directories, SetBookmarkFileListDir));
+    return 1;
+}
+
+int AddNewBookmark(const std::string& path, const Bookmark& bookmark) {
+    const std::optional<std::string> contents = contents_of(path);
+    if (!contents) {
+        return 0;
+    }
+    const BookmarkAddition addition = add_bookmark(*contents, bookmark);
+    if (addition.result != 1) {
+        return addition.result;
+    }
+    return save_file(path, addition.contents) == 0 ? 1 : 0;
+}
+
+void load_bookmarks_at_startup() {
+    if (bookmarks().bookmark_file.text().empty()) {
+        report("Bookmarks file not specified\n");
+        return;
+    }
+    const int result = SetupBookmarksMenu(bookmark_path());
+    if (result != 1) {
+        report(fmt::format("{}\n", fault_of(result)));
+    }
+    if (result == -1) {
+        report("First line of text must be _BOOKMARK\n");
+    }
+}
+
+void BookmarksUpdate() {
+    Bookmarks& window = bookmarks();
+    window.set_left_footer("");
+    const std::string path = bookmark_path();
+    if (has_bookmark_file(path)) {
+        rebuild_menus(window, path, "Bookmark menu updated");
+    } else {
+        window.set_left_footer("Couldn't open bookmarks file");
+    }
+}
+
+void BookmarkFIleEdit() {
+    Bookmarks& window = bookmarks();
+    window.set_left_footer("");
+    const std::string path = bookmark_path();
+    std::error_code unknown;
+    if (!editor_command(system_word(path))) {
+        window.set_left_footer("User editor not specified");
+    } else if (!std::filesystem::exists(path, unknown)) {
+        window.set_left_footer("Bookmarks file doesn't exists");
+    } else {
+        edit_file(window, path);
+    }
+}
+
+void BookmarkDefinitionAddBookmark() {
+    BookmarkDefinition& window = bookmark_definition();
+    const Bookmark bookmark{static_cast<std::size_t>(window.file_type.value()), window.bookmark_name.text(),
+                            window.bookmarked_file.text()};
+    const std::string_view refusal = definition_refusal(bookmark);
+    window.set_left_footer(refusal);
+    if (!refusal.empty()) {
+        return;
+    }
+    const std::string path = bookmark_path();
+    if (!has_bookmark_file(path)) {
+        window.set_left_footer("Couldn't open bookmarks file");
+        return;
+    }
+    const std::string_view fault = fault_of(AddNewBookmark(path, bookmark));
+    if (fault.empty()) {
+        rebuild_menus(window, path, "Bookmark added to bookmark menu");
+    } else {
+        window.set_left_footer(fault);
+    }
+}
+
+// Return accepts what the fields hold already; the buttons read it there.
+void BookmarkSetupFileName() {}
+void BookmarkDefinitionFile() {}
+void BookmarkDefinitionName() {}
+void BookmarkDefinitionType() {}
