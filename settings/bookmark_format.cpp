@@ -154,7 +154,7 @@ std::optional<std::vector<Bookmark>> parse_bookmarks(std::string_view contents) 
     std::vector<Bookmark> bookmarks;
     Bookmark bookmark;
     bool in_sections = false;
-    while (!contents.empty()) {
+    while (!contents.empty() && bookmarks.size() <= most_bookmarks) {
         const std::string_view line = take_whole_line(contents);
         if (const auto marked = category_marked_by(line)) {
             bookmark.category = *marked;

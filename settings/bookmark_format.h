@@ -48,8 +48,12 @@ struct Bookmark {
 /// A file without bookmarks.
 [[nodiscard]] std::string new_bookmark_file();
 
-/// The bookmarks in the file's order; nothing when its first line does not hold "_BOOKMARK". Lines before the
-/// first directory marker are none. An entry whose name or path is missing has that of the entry before.
+/// So many bookmarks make menus; more are no bookmarks file of a user.
+inline constexpr std::size_t most_bookmarks = 10'000;
+
+/// The bookmarks in the file's order, as far as one more than the most; nothing when its first line does not
+/// hold "_BOOKMARK". Lines before the first directory marker are none. An entry whose name or path is missing
+/// has that of the entry before.
 [[nodiscard]] std::optional<std::vector<Bookmark>> parse_bookmarks(std::string_view contents);
 
 /// The number behind the first ":" of a count line; -1 when nothing stands there.

@@ -67,7 +67,7 @@ bool has_bookmark_file(const std::string& path) {
     return !empty || GenerateNewBookmarkFile(path) == 1;
 }
 
-/// What is wrong with the file, by the result of a function that reads it; empty for nothing.
+/// What is wrong with the file, by the result of `SetupBookmarksMenu`; empty for nothing.
 std::string_view fault_of(int result) {
     switch (result) {
         case -1:
@@ -75,11 +75,21 @@ std::string_view fault_of(int result) {
         case 0:
             return "Bookmark file not found";
         case 2:
+            return "Illegal file format";
+        default:
+            return "";
+    }
+}
+
+/// The same by the result of `AddNewBookmark`.
+std::string_view addition_fault(int result) {
+    switch (result) {
+        case 2:
             return "Can't store more bookmarks";
         case 3:
             return "Bookmark already exists";
         default:
-            return "";
+            return fault_of(result);
     }
 }
 
@@ -117,6 +127,9 @@ int SetupBookmarksMenu(const std::string& path) {
     const std::optional<std::vector<Bookmark>> read = parse_bookmarks(*contents);
     if (!read) {
         return -1;
+    }
+    if (read->size() > most_bookmarks) {
+        return 2;
     }
     std::array<Entries, submenus.size()> entries;
     for (const Bookmark& bookmark : *read) {
@@ -197,7 +210,7 @@ void BookmarkDefinitionAddBookmark() {
         window.set_left_footer("Couldn't open bookmarks file");
         return;
     }
-    const std::string_view fault = fault_of(AddNewBookmark(path, bookmark));
+    const std::string_view fault = addition_fault(AddNewBookmark(path, bookmark));
     if (fault.empty()) {
         rebuild_menus(window, path, "Bookmark added to bookmark menu");
     } else {

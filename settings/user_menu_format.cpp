@@ -61,7 +61,7 @@ UserMenu parse_user_menu(std::string_view contents) {
     UserMenu menu;
     UserMenuItem previous;
     for (const std::string& line : *lines) {
-        if (!read_line(line, previous, menu)) {
+        if (menu.items.size() == UserMenu::most_items || !read_line(line, previous, menu)) {
             menu.result = 2;
             break;
         }

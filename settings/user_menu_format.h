@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -25,8 +26,10 @@ struct UserMenuItem {
 };
 
 struct UserMenu {
+    static constexpr std::size_t most_items = 10'000;
+
     /// 1 read to the end; -1 the first line lacks "_MENU"; 2 a "$BUTTON_NAME" or "$MENU_TITLE" without its
-    /// text: what stands before it is there.
+    /// text, or too many items: what stands before is there.
     int result = 1;
     std::optional<std::string> button_label;
     std::vector<UserMenuItem> items;

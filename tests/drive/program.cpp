@@ -114,16 +114,25 @@ Accessible Program::main_window() const {
 Accessible Program::terminal() const { return main_window().find({"terminal", "terminal"}); }
 
 bool Program::choose(XDisplay& display, std::string_view menu, std::string_view item) const {
-    const Accessible button = main_window().find({"push button", menu});
-    display.click(button.place());
-    const Accessible entry = awaited(process_, [&] {
-        Accessible found = button.find({"menu item", item});
-        return found.showing() ? found : Accessible();
-    });
-    if (entry) {
+    return choose(display, menu, {item});
+}
+
+bool Program::choose(XDisplay& display, std::string_view menu,
+                     std::initializer_list<std::string_view> items) const {
+    Accessible above = main_window().find({"push button", menu});
+    display.click(above.place());
+    for (const std::string_view item : items) {
+        const Accessible entry = awaited(process_, [&] {
+            Accessible found = above.find({"menu item", item});
+            return found.showing() ? found : Accessible();
+        });
+        if (!entry) {
+            return false;
+        }
         display.click(entry.place());
+        above = entry;
     }
-    return static_cast<bool>(entry);
+    return true;
 }
 
 Accessible Program::open(XDisplay& display, std::string_view menu, std::string_view item,

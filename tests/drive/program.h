@@ -6,6 +6,7 @@
 #include "tests/drive/x_display.h"
 
 #include <filesystem>
+#include <initializer_list>
 #include <map>
 #include <string>
 #include <string_view>
@@ -50,6 +51,9 @@ class Program {
 
     /// Chooses an item of a menu of the main window, as the pointer does; whether the menu has it.
     [[nodiscard]] bool choose(XDisplay& display, std::string_view menu, std::string_view item) const;
+    /// The same through items that open menus.
+    [[nodiscard]] bool choose(XDisplay& display, std::string_view menu,
+                              std::initializer_list<std::string_view> items) const;
     /// Opens a window from a menu.
     [[nodiscard]] Accessible open(XDisplay& display, std::string_view menu, std::string_view item,
                                   std::string_view title) const;

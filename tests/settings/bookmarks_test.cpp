@@ -50,6 +50,12 @@ TEST_F(BookmarksTest, AreReadAtStartAndOnUpdateAndSayWhatIsWrong) {
     const Rows categories{"Directories", "Sources", "Executables", "Scripts", "HTML", "PDF", "Other"};
     EXPECT_EQ(on_main_button(), categories);
     EXPECT_EQ(on_list_button(), Rows{});
+    std::string many = new_bookmark_file();
+    for (int i = 0; i <= 10'000; ++i) {
+        many += "a,/a\n";
+    }
+    home.write("bookmarks", many);
+    EXPECT_EQ(update(), "Illegal file format");
     fs::remove(file());
     EXPECT_EQ(update(), "Bookmark menu updated");
     EXPECT_EQ(read_file(file()), new_bookmark_file());
