@@ -5,13 +5,10 @@
 #include "settings/history.h"
 #include "settings/notify.h"
 #include "tests/support/scratch_directory.h"
-#include "toolkit/application.h"
 #include "ui/command_history_manager.h"
 #include "ui/windows.h"
 
 #include <QCoreApplication>
-
-#include <cstdio>
 
 #include <benchmark/benchmark.h>
 #include <fmt/format.h>
@@ -93,15 +90,3 @@ BENCHMARK_DEFINE_F(FullHistory, Update)(benchmark::State& state) {
 BENCHMARK_REGISTER_F(FullHistory, Update)->Arg(shown)->UseRealTime();
 
 }  // namespace
-
-int main(int argc, char** argv) {
-    benchmark::Initialize(&argc, argv);
-    std::vector<std::string> arguments(argv, argv + argc);
-    if (const std::string failure = xv_init(arguments); !failure.empty()) {
-        std::fprintf(stderr, "%s\n", failure.c_str());
-        return 1;
-    }
-    benchmark::RunSpecifiedBenchmarks();
-    xv_destroy();
-    return 0;
-}
