@@ -4,6 +4,7 @@
 #include "toolkit/resources.h"
 #include "ui/about_window.h"
 #include "ui/command_history_manager.h"
+#include "ui/command_list_manager.h"
 #include "ui/file_list_browser.h"
 #include "ui/main_window.h"
 #include "ui/message_board.h"
@@ -86,4 +87,5 @@ void apply_font_resources() {
     for (ScrollingList* list : {&command_history_manager().list, &file_list_browser().list}) {
         list->set_font(fixed_font);
     }
+    command_list_manager().list.set_font(default_font);  // commands look as in the terminal
 }

@@ -31,6 +31,11 @@ constexpr std::array entries{
     MenuEntry{"Browse", "Message Board", "Message Board"},
     MenuEntry{"Browse", "Notebook", "Notebook"},
     MenuEntry{"Edit", "Setup", "Edit Menu Setup"},
+    MenuEntry{"Edit", "Current", ""},
+    MenuEntry{"Edit", "Home", ""},
+    MenuEntry{"Edit", "Startup", ""},
+    MenuEntry{"User", "Edit", ""},
+    MenuEntry{"User", "Update", ""},
 };
 
 }  // namespace

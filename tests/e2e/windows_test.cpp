@@ -51,7 +51,8 @@ TEST_F(Windows, StartingValues) {
         EXPECT_EQ(status.find({"panel", "Enable"}).find({"check box", item}).checked(), checked) << item;
     }
     EXPECT_EQ(field(open_window("Message Board"), "Message Board text"),
-              "Setup file not found\nHistory file not found\nCouldn't generate history menu\n"
+              "Setup file not found\nHistory file not found\n.orvik-menu not found\n"
+              "Illegal commands directory\nCouldn't generate history menu\nBookmark file not found\n"
               "Environment setup file not found\nOrvik Command Tool starting\n");
 }
 

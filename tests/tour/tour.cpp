@@ -47,10 +47,14 @@ const std::map<int, std::string> settings{
     {29, "grep -rn '$$$' ."},
     {30, "vi '$$$'"},
     {31, "1"},  // the user buttons are shown
+    {32, "$ORVIK_HOME/examples/commands"},
+    {33, "1"},
+    {34, "560"},
     {35, "3"},
     {37, "20"},
     {38, "1"},
     {43, "git pull"},
+    {52, "$ORVIK_HOME/examples/orvik-bookmarks"},
     {50, "14"},  // host, process and user in the footer
     {55, "1"},
     {56, "$"},  // the prompt's last character
@@ -76,6 +80,9 @@ constexpr std::array stops{
     Stop{"Setup", "Text Editor", "Text Editor Setup", "text-editor"},
     Stop{"Setup", "User Buttons", "User Buttons", "user-buttons"},
     Stop{"Setup", "Status Display", "Status Display", "status-display"},
+    Stop{"Setup", "Bookmarks", "Bookmarks", "bookmarks"},
+    Stop{"Setup", "Command List", "Command List Setup", "command-list-setup"},
+    Stop{"Browse", "File List", "File List Browser", "file-list"},
     Stop{"Browse", "Command History", "Command History Manager", "command-history"},
     Stop{"Browse", "Message Board", "Message Board", "message-board"},
     Stop{"Browse", "Notebook", "Notebook", "notebook"},
@@ -119,13 +126,28 @@ class Tour {
             give_up(std::string("Escape does not close \"") + stop.title + "\"");
         }
     }
-    void show_command_window() {
-        if (!program_.main_window().find({"push button", "floating command line"}).press() ||
-            !program_.window("Command Window")) {
-            give_up("the command window does not open");
+    /// Opens a window with a button of the main window, and leaves it open.
+    void show_by_button(const std::string& button, const std::string& title, const std::string& picture) {
+        if (!program_.main_window().find({"push button", button}).press() || !program_.window(title)) {
+            give_up("\"" + title + "\" does not open");
         }
-        take_window("Command Window", "command-window");
+        take_window(title, picture);
     }
+    /// Opens menus, item by item, and leaves them open for the picture.
+    void show_menu(const char* menu, const char* item, const std::string& picture) {
+        if (!program_.choose(display_, menu, {item})) {
+            give_up(std::string("no item \"") + item + "\"");
+        }
+        take_main_window(picture);
+        display_.press_key("Escape");
+        display_.press_key("Escape");
+    }
+    void choose(const char* menu, const char* item) {
+        if (!program_.choose(display_, menu, item)) {
+            give_up(std::string("no item \"") + item + "\"");
+        }
+    }
+    void press_escape() { display_.press_key("Escape"); }
     void take_window(const std::string& title, const std::string& picture) {
         const auto window = display_.window(program_.process().pid(), title);
         if (!window) {
@@ -170,7 +192,15 @@ void play(Tour& tour, const fs::path& home) {
     for (const Stop& stop : stops) {
         tour.show_popup(stop);
     }
-    tour.show_command_window();
+    tour.choose("My Tools", "Biggest files");
+    tour.show_menu("Edit", "Current", "edit-menu");
+    tour.show_menu("BM", "Directories", "bookmark-menu");
+    tour.choose("Command", "files");
+    tour.show_by_button("command list", "Command List Manager", "command-list");
+    tour.press_escape();
+    tour.show_by_button("add bookmark", "Bookmark Definition", "bookmark-definition");
+    tour.press_escape();
+    tour.show_by_button("floating command line", "Command Window", "command-window");
     tour.take_desktop("desktop");
 }
 
@@ -183,6 +213,7 @@ int main(int argc, char** argv) {
     const ScratchDirectory home;
     home.write(".bash_profile", "PS1='\\[\\e[1;34m\\]\\w\\[\\e[0m\\] $ '\n");
     home.write("Orvik.setup", setup_text(settings));
+    fs::copy_file(ORVIK_DATA "/examples/orvik-menu", home / ".orvik-menu");
     home.write("make-repository", make_repository);
     if (std::system(
             ("cd '" + home.path().string() + "' && sh make-repository && rm make-repository").c_str()) != 0) {
