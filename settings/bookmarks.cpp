@@ -140,6 +140,7 @@ int SetupBookmarksMenu(const std::string& path) {
         book_mark_menu.add_pull_right(submenus[i].label, menu_of({}, entries[i], submenus[i].chosen));
     }
     main_window().bookmark_menu.set_menu(std::move(book_mark_menu));
+    main_window().bookmark_menu.set_tool_tip("Bookmarks");
     const Entries& directories = entries.front();
     file_list_browser().bookmark_menu.set_menu(menu_of("Set Dir", directories, SetBookmarkFileListDir));
     return 1;

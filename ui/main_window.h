@@ -26,6 +26,7 @@ struct MainWindow : Frame {
             button->share_width();
             button->leave_focus();
         }
+        bookmark_menu.set_tool_tip("Bookmarks: none yet, see \"Bookmarks\" in the \"Setup\" menu");
         resize(normal_width, normal_height);
     }
 
