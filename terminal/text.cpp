@@ -128,7 +128,11 @@ std::string text_between(const Terminal& terminal, Range range) {
         const Row row = terminal.row(id);
         const int from = id == range.begin.row ? range.begin.column : 0;
         const int to = id == range.end.row ? range.end.column : whole_row;
-        append_cells(terminal, without_trailing_blanks(row), from, to, out);
+        const std::span<const Cell> cells = without_trailing_blanks(row);
+        append_cells(terminal, cells, from, to, out);
+        if (!row.wrapped && cells.empty()) {  // the line's last blanks are in the rows before
+            out.resize(out.find_last_not_of(' ') + 1);
+        }
         if (!row.wrapped && id < last) {
             out += '\n';
         }

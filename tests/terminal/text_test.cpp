@@ -37,6 +37,13 @@ TEST(Text, BetweenTwoPlaces) {
     }
 }
 
+TEST(Text, BlanksAtTheEndOfAWrappedLineAreNone) {
+    Screened at;
+    at.terminal.write("x         y\b\033[K\r\nz");
+    EXPECT_EQ(at.screen(), "x>||z|");
+    EXPECT_EQ(at.all_text(), "x\nz");
+}
+
 TEST(Text, LogicalLineReachesAcrossWraps) {
     Screened at;
     at.terminal.write("x\r\n0123456789abcdefghijABC\r\ny\r\nz");
