@@ -62,6 +62,13 @@ require_packages() {
         fail "apt-get install failed; missing: ${missing[*]}"
 }
 
+# Installs what the fuzz targets need beside TEST_PACKAGES: clang and the run-time library of its version, which
+# has a package of its own.
+require_fuzz_packages() {
+    require_packages clang
+    require_packages "libclang-rt-$(clang++ -dumpversion | cut -d . -f 1)-dev"
+}
+
 # Makes the build folder of a preset.
 configure() {
     local preset=$1 output

@@ -1,0 +1,131 @@
+// SPDX-License-Identifier: MIT
+#include "fuzz/check.h"
+#include "fuzz/input.h"
+#include "fuzz/terminal_checks.h"
+#include "terminal/limits.h"
+#include "terminal/text.h"
+
+#include <array>
+
+// What a program writes, with what the user does in between. The input is written to a terminal as it is;
+// each byte FF in it, which no UTF-8 text holds, begins a step of three bytes instead: which one, and two
+// numbers.
+
+using namespace terminal;
+
+namespace {
+
+constexpr char step_mark = '\xff';
+constexpr std::size_t step_bytes = 3;  // behind the mark
+constexpr std::size_t scrollback_rows = 50;
+
+/// Mostly small, sometimes as large as can be.
+int extent(std::uint8_t number) { return number < 0xfe ? number % 100 : (number - 0xfd) * 1'100; }
+
+/// A place on the screen or in the scrollback.
+Position place(const Terminal& terminal, std::uint8_t row, std::uint8_t column) {
+    const RowId rows = terminal.end_row() - terminal.first_row();
+    return {terminal.first_row() + row % rows, column % terminal.size().columns};
+}
+
+/// Nothing where no character is.
+Cell cell_at(const Terminal& terminal, Position at) {
+    const Row row = terminal.row(at.row);
+    return at.column < std::ssize(row.cells) ? row.cells[static_cast<std::size_t>(at.column)] : Cell{};
+}
+
+/// Another size loses no text, and places stay with theirs. The beginning of a line that was cut at the
+/// scrollback's limit may come back.
+void resize(Terminal& terminal, std::uint8_t columns, std::uint8_t rows) {
+    const bool primary = !terminal.modes().alternate_screen;
+    const std::string text = primary ? all_text(terminal) : "";
+    std::array anchors{place(terminal, rows, columns), terminal.cursor().position};
+    const Cell anchored = cell_at(terminal, anchors[0]);
+    terminal.resize({extent(columns), extent(rows)}, anchors);
+    if (!primary) {
+        return;
+    }
+    require(all_text(terminal).ends_with(text), "a resize changes the text");
+    require(anchored.glyph == 0 || cell_at(terminal, anchors[0]) == anchored, "an anchor left its text");
+}
+
+/// What is told of a place lies within the rows.
+void ask(const Terminal& terminal, Position at) {
+    const auto require_place = [&](Position asked) {
+        require(asked.row >= terminal.first_row() && asked.row < terminal.end_row(),
+                "a row that is not there");
+        require(asked.column >= 0 && asked.column <= terminal.size().columns, "a column that is not there");
+    };
+    const Range word = word_at(terminal, at);
+    for (const Range& range : {word, logical_line(terminal, at.row), line_to_cursor(terminal)}) {
+        require_place(range.begin);
+        require_place(range.end);
+    }
+    line_to_cursor_text(terminal);
+    line_behind_cursor_text(terminal);
+    const std::string needle = text_between(terminal, word);
+    for (const auto direction : {SearchDirection::backward, SearchDirection::forward}) {
+        if (const auto found = find(terminal, needle, at, direction, LetterCase::significant)) {
+            require_place(found->begin);
+            const bool cut = needle.ends_with(' ');  // blanks at the end of a line are no text
+            const std::string text = text_between(terminal, *found);
+            require(cut || text.find(needle) != std::string::npos, "what was found is not there");
+        }
+        (void)find(terminal, needle, at, direction, LetterCase::ignored);
+    }
+}
+
+/// What the user does in between.
+void take_step(Terminal& terminal, char step, std::uint8_t first, std::uint8_t second) {
+    switch (step) {
+        case 'r':
+            return resize(terminal, first, second);
+        case 'l':
+            return terminal.write_local("\nlocal\x1b[m\n");
+        case 'c':
+            return terminal.clear_all();
+        case 'i':
+            return terminal.reset();
+        default:
+            return ask(terminal, place(terminal, first, second));
+    }
+}
+
+/// Writes in pieces of a few bytes.
+void write_pieces(Terminal& terminal, std::string_view bytes) {
+    for (std::size_t length = 1; !bytes.empty(); length = length % 7 + 1) {
+        terminal.write(bytes.substr(0, length));
+        bytes.remove_prefix(std::min(length, bytes.size()));
+    }
+}
+
+}  // namespace
+
+int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    CheckedClient whole_client;
+    CheckedClient pieces_client;
+    const Options options{{20, 6}, scrollback_rows};
+    Terminal whole(options, whole_client);
+    Terminal pieces(options, pieces_client);
+    StampCheck stamps;
+    for (std::string_view rest = as_text(data, size); !rest.empty();) {
+        const std::string_view written = rest.substr(0, rest.find(step_mark));
+        rest.remove_prefix(written.size());
+        whole.write(written);
+        write_pieces(pieces, written);
+        stamps.look(whole);
+        if (rest.size() > step_bytes) {
+            for (Terminal* const terminal : {&whole, &pieces}) {
+                take_step(*terminal, rest[1], static_cast<std::uint8_t>(rest[2]),
+                          static_cast<std::uint8_t>(rest[3]));
+            }
+            check_picture(whole);
+        }
+        stamps.forget();
+        rest.remove_prefix(std::min(rest.size(), step_bytes + 1));
+    }
+    check_picture(whole);
+    require(picture(whole) == picture(pieces), "the picture depends on how the bytes were cut");
+    require(whole_client.told == pieces_client.told, "what is told depends on how the bytes were cut");
+    return 0;
+}
