@@ -13,10 +13,12 @@ namespace terminal {
 /// The text of the screen as logical lines while it is laid out anew.
 class Engine::Flow {
   public:
-    /// Takes the first `rows` rows of a screen.
+    /// Takes the first `rows` rows of a screen. A line that only blanks of the others belong to ends with
+    /// them.
     Flow(const Screen& screen, int rows) {
         for (int row = 0; row < rows; ++row) {
-            append(screen.cells(row), screen.wrapped(row));
+            const bool cut = row + 1 == rows && rows < screen.size().rows;
+            append(screen.cells(row), screen.wrapped(row) && !cut);
         }
     }
 

@@ -56,6 +56,7 @@ const Case cases[] = {
     {"CursorFollowsItsText", "0123456789abcdef\033[1;6H", {{4, 4}}, "", "0123>|4567>|89ab>|cdef", "1,1"},
     {"CursorInABlankRow", "a\r\n\r\n", {{5, 4}}, "", "a|||", "2,0"},
     {"CursorBeyondTheText", "ab\033[1;8H", {{5, 4}}, "", "ab|||", "0,4"},
+    {"ErasedEndOfALineIsGivenUp", "0123456789a\033[H\033[?Jb", {{12, 1}}, "", "b", "0,1"},
     {"ColoursFlow", "01234567\033[41m89", {{9, 4}}, "", "012345678>|9||", "1,1"},
 };
 
