@@ -5,6 +5,7 @@
 #include "terminal/limits.h"
 #include "terminal/text.h"
 
+#include <algorithm>
 #include <array>
 
 // What a program writes, with what the user does in between. The input is written to a terminal as it is;
@@ -19,8 +20,13 @@ constexpr char step_mark = '\xff';
 constexpr std::size_t step_bytes = 3;  // behind the mark
 constexpr std::size_t scrollback_rows = 50;
 
-/// Mostly small, sometimes as large as can be.
-int extent(std::uint8_t number) { return number < 0xfe ? number % 100 : (number - 0xfd) * 1'100; }
+/// Mostly small, sometimes long or wide, but never both: that would only be slow.
+Size size_of(std::uint8_t columns, std::uint8_t rows) {
+    const auto extent = [](std::uint8_t number) { return number < 0xfe ? number % 100 : 2 * max_columns; };
+    constexpr int most_cells = 30'000;
+    const int wide = extent(columns);
+    return {wide, std::min(extent(rows), most_cells / std::max(wide, 1))};
+}
 
 /// A place on the screen or in the scrollback.
 Position place(const Terminal& terminal, std::uint8_t row, std::uint8_t column) {
@@ -41,7 +47,7 @@ void resize(Terminal& terminal, std::uint8_t columns, std::uint8_t rows) {
     const std::string text = primary ? all_text(terminal) : "";
     std::array anchors{place(terminal, rows, columns), terminal.cursor().position};
     const Cell anchored = cell_at(terminal, anchors[0]);
-    terminal.resize({extent(columns), extent(rows)}, anchors);
+    terminal.resize(size_of(columns, rows), anchors);
     if (!primary) {
         return;
     }
