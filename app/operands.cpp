@@ -16,21 +16,35 @@ OperandSource& tree_name_source() {
     return source;
 }
 
-/// The quote that is open at the end of a command line, 0 for none. The rules of POSIX shells serve for csh.
-char open_quote(std::string_view text) {
-    char quote = 0;
-    for (std::size_t at = 0; at < text.size(); ++at) {
-        const char c = text[at];
-        if (c == '\\' && quote != '\'') {
-            ++at;
-        } else if (quote == 0 && (c == '\'' || c == '"')) {
-            quote = c;
+/// The place behind the beginning of a command line, read character by character.
+struct Place {
+    char quote = 0;        ///< that is open, 0 for none
+    bool ansi = false;     ///< it is that of $'...', where a backslash escapes
+    bool escaped = false;  ///< a backslash takes the next character
+    bool dollar = false;   ///< so does a "$"
+    bool obscure = false;  ///< quotes may nest or escape in ways that are not followed here
+
+    void read(char c, ShellFamily shell) {
+        if (escaped) {
+            escaped = dollar = false;
+            return;
+        }
+        escaped = c == '\\' && (quote != '\'' || ansi);
+        if (escaped) {
+            obscure = obscure || (quote != 0 && shell == ShellFamily::csh);  // depends on "backslash_quote"
         } else if (c == quote) {
             quote = 0;
+        } else if (quote == 0 && (c == '\'' || c == '"')) {
+            quote = c;
+            ansi = c == '\'' && dollar && shell != ShellFamily::other;
+        } else if (quote != '\'') {
+            obscure = obscure || c == '`' || (c == '(' && dollar && quote == '"');
         }
+        dollar = c == '$' && !dollar && quote != '\'';
     }
-    return quote;
-}
+    /// Whether the quotes say all about what the shell does with a text here.
+    [[nodiscard]] bool is_plain() const { return !escaped && !dollar && !obscure; }
+};
 
 }  // namespace
 
@@ -39,11 +53,18 @@ void set_tree_name_source(OperandSource source) { tree_name_source() = std::move
 std::string selected_tree_name() { return tree_name_source() ? tree_name_source()() : std::string(); }
 
 std::optional<std::string> operand_behind(std::string_view before, std::string_view name, ShellFamily shell) {
-    const char quote = open_quote(before);
-    if (quote == 0) {
-        return shell_word(name, shell);
+    Place place;
+    for (const char c : before) {
+        place.read(c, shell);
     }
-    const bool closes_quote = name.find(quote) != std::string_view::npos;
+    std::optional<std::string> word = shell_word(name, shell);
+    if (!place.is_plain()) {
+        return word == name ? word : std::nullopt;
+    }
+    if (place.quote == 0) {
+        return word;
+    }
+    const bool closes_quote = name.find(place.quote) != std::string_view::npos;
     const bool inert = double_quoted_word(name, shell) == fmt::format("\"{}\"", name);
     return inert && !closes_quote ? std::optional<std::string>(name) : std::nullopt;
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/quoting.h"
 
+#include "app/operands.h"
 #include "terminal/pty.h"
 #include "tests/support/scratch_directory.h"
 #include "tests/support/wait_until.h"
@@ -154,6 +155,35 @@ TEST(HostName, IsMadeOfNameCharactersOnly) {
     }
     for (const char* bad : {"", "-oProxyCommand=id", "a b", "h;id", "$(id)", "h\n", "h/x", "'h'"}) {
         EXPECT_FALSE(is_host_name(bad)) << bad;
+    }
+}
+
+// Where the shell acted on the name, it would run "id".
+TEST(Operand, IsNotPutWhereTheShellMightActOnIt) {
+    const std::string inert = "a;id";
+    const struct {
+        std::string before;
+        std::string name;
+        ShellFamily shell;
+        std::optional<std::string> operand;
+    } cases[] = {
+        {"vi ", inert, ShellFamily::bash, "'a;id'"},
+        {"vi \"$x", inert, ShellFamily::bash, inert},
+        {"vi '$(`\\' ", inert, ShellFamily::bash, "'a;id'"},
+        {"vi \\", inert, ShellFamily::bash, std::nullopt},
+        {"vi \\\\", inert, ShellFamily::bash, "'a;id'"},
+        {"vi $", "a\\';id;'", ShellFamily::bash, std::nullopt},
+        {"vi $$", inert, ShellFamily::bash, "'a;id'"},
+        {"vi \"$", "(id)", ShellFamily::bash, std::nullopt},
+        {"vi \"$(cat ", inert, ShellFamily::bash, std::nullopt},
+        {"vi \"$(cat ", "ordinary", ShellFamily::bash, "ordinary"},
+        {"vi `cat ", "a`;id;`", ShellFamily::bash, std::nullopt},
+        {"vi $'it\\'s ", inert, ShellFamily::bash, inert},
+        {"vi $'it\\'s ", inert, ShellFamily::other, "'a;id'"},
+        {"vi \"a\\\"", inert, ShellFamily::csh, std::nullopt},
+    };
+    for (const auto& row : cases) {
+        EXPECT_EQ(operand_behind(row.before, row.name, row.shell), row.operand) << row.before;
     }
 }
 
