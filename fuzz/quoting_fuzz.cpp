@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "app/operands.h"
+#include "app/prompt_hook.h"
 #include "app/quoting.h"
 #include "fuzz/check.h"
 #include "fuzz/input.h"
@@ -42,6 +43,15 @@ void check_behind(std::string_view before, std::string_view name, ShellFamily fa
             "an operand is live in quotes");
 }
 
+/// The prompt hook is a word itself: a command that ends with the path as a word.
+void check_hook(const char* shell, const std::string& path) {
+    for (const PromptHook& hook : prompt_hooks(shell, ClearCaseUsage::off, path)) {
+        const Word command = read_word(std::string_view(hook.text).substr(hook.text.find('\'')));
+        require(command && command->ends_with(' ' + *shell_word(path, shell_family(shell))),
+                "a broken prompt hook");
+    }
+}
+
 }  // namespace
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
@@ -55,6 +65,8 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
         check_typed(escaped_word(name, family), path, family);
         check_behind(before, name, family);
     }
+    check_hook("csh", name);
+    check_hook("bash", name);
     require(read_word(system_word(name)) == path, "sh reads another name");
     require(read_word(quoted_word(name)) == name, "sh reads another text");
     require(read_word("'" + inside_single_quotes(name) + "'") == name, "quotes do not hold");
