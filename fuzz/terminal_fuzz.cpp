@@ -70,30 +70,33 @@ void ask(const Terminal& terminal, Position at) {
     line_to_cursor_text(terminal);
     line_behind_cursor_text(terminal);
     const std::string needle = text_between(terminal, word);
-    for (const auto direction : {SearchDirection::backward, SearchDirection::forward}) {
-        if (const auto found = find(terminal, needle, at, direction, LetterCase::significant)) {
-            require_place(found->begin);
-            const bool cut = needle.ends_with(' ');  // blanks at the end of a line are no text
-            const std::string text = text_between(terminal, *found);
-            require(cut || text.find(needle) != std::string::npos, "what was found is not there");
-        }
-        (void)find(terminal, needle, at, direction, LetterCase::ignored);
+    const auto direction = at.column % 2 == 0 ? SearchDirection::backward : SearchDirection::forward;
+    (void)find(terminal, needle, at, direction, LetterCase::ignored);
+    if (const auto found = find(terminal, needle, at, direction, LetterCase::significant)) {
+        require_place(found->begin);
+        const bool cut = needle.ends_with(' ');  // blanks at the end of a line are no text
+        const std::string text = text_between(terminal, *found);
+        require(cut || text.find(needle) != std::string::npos, "what was found is not there");
     }
 }
 
-/// What the user does in between.
-void take_step(Terminal& terminal, char step, std::uint8_t first, std::uint8_t second) {
+/// What the user does in between; the checks are made on the first terminal.
+void take_step(Terminal& whole, Terminal& pieces, char step, std::uint8_t first, std::uint8_t second) {
     switch (step) {
         case 'r':
-            return resize(terminal, first, second);
+            resize(whole, first, second);
+            return pieces.resize(size_of(first, second));
         case 'l':
-            return terminal.write_local("\nlocal\x1b[m\n");
+            whole.write_local("\nlocal\x1b[m\n");
+            return pieces.write_local("\nlocal\x1b[m\n");
         case 'c':
-            return terminal.clear_all();
+            whole.clear_all();
+            return pieces.clear_all();
         case 'i':
-            return terminal.reset();
+            whole.reset();
+            return pieces.reset();
         default:
-            return ask(terminal, place(terminal, first, second));
+            return ask(whole, place(whole, first, second));
     }
 }
 
@@ -114,6 +117,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     Terminal whole(options, whole_client);
     Terminal pieces(options, pieces_client);
     StampCheck stamps;
+    stamps.look(whole);
     for (std::string_view rest = as_text(data, size); !rest.empty();) {
         const std::string_view written = rest.substr(0, rest.find(step_mark));
         rest.remove_prefix(written.size());
@@ -121,13 +125,14 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
         write_pieces(pieces, written);
         stamps.look(whole);
         if (rest.size() > step_bytes) {
-            for (Terminal* const terminal : {&whole, &pieces}) {
-                take_step(*terminal, rest[1], static_cast<std::uint8_t>(rest[2]),
-                          static_cast<std::uint8_t>(rest[3]));
-            }
+            take_step(whole, pieces, rest[1], static_cast<std::uint8_t>(rest[2]),
+                      static_cast<std::uint8_t>(rest[3]));
             check_picture(whole);
+            if (rest[1] == 'r') {
+                stamps.forget();
+            }
+            stamps.look(whole);
         }
-        stamps.forget();
         rest.remove_prefix(std::min(rest.size(), step_bytes + 1));
     }
     check_picture(whole);
