@@ -132,8 +132,11 @@ TEST_F(Keys, ControlKeysOfTheTool) {
     type("echo once\n");
     press_control("l");
     expect_command_field("echo once");
+    const std::string locked = "Screen is locked. Use ^Q to unlock.";
+    expect_awaited([this] { return right_footer().starts_with("Host: "); },
+                   true);  // the last refresh is over
     press_control("s");
-    expect_awaited([this] { return right_footer(); }, std::string("Screen is locked. Use ^Q to unlock."));
+    expect_awaited([this] { return right_footer(); }, locked);
     press_control("q");
     expect_awaited([this] { return right_footer(); }, std::string());
     press("F7");
