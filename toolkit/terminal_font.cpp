@@ -27,6 +27,18 @@ ShapedCell shape(const QString& text, const QFont& font) {
     return cell;
 }
 
+/// The next height that is; the same one when none is near, as with a ratio of 1.37.
+int whole_device_pixels(int height, qreal ratio) {
+    constexpr int most_added = 3;
+    for (int added = 0; added <= most_added; ++added) {
+        const qreal pixels = (height + added) * ratio;
+        if (pixels == std::floor(pixels)) {
+            return height + added;
+        }
+    }
+    return height;
+}
+
 quint32 find_glyph(const QRawFont& font, char32_t character) {
     const QList<quint32> glyphs = font.glyphIndexesForString(QString::fromUcs4(&character, 1));
     return glyphs.size() == 1 ? glyphs.front() : 0;
@@ -34,7 +46,7 @@ quint32 find_glyph(const QRawFont& font, char32_t character) {
 
 }  // namespace
 
-TerminalFont::TerminalFont(const QFont& font) {
+TerminalFont::TerminalFont(const QFont& font, qreal pixel_ratio) : pixel_ratio_(pixel_ratio) {
     for (std::size_t face = 0; face < faces; ++face) {
         fonts_[face] = font;
         fonts_[face].setKerning(false);
@@ -54,6 +66,7 @@ TerminalFont::TerminalFont(const QFont& font) {
     cell_width_ = std::max(1, static_cast<int>(std::lround(metrics.horizontalAdvance(u'M'))));
     ascent_ = static_cast<int>(std::ceil(metrics.ascent()));
     cell_height_ = std::max(1, ascent_ + static_cast<int>(std::ceil(metrics.descent())));
+    cell_height_ = whole_device_pixels(cell_height_, pixel_ratio);
     line_width_ = std::max(1, static_cast<int>(std::lround(cell_width_ / 8.0)));
 }
 

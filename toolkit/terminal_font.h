@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "toolkit/terminal_box.h"
+
 #include <QFont>
 #include <QGlyphRun>
 #include <QHash>
@@ -23,18 +25,23 @@ struct ShapedCell {
 /// A font as a grid of cells: whole-pixel cell sizes, and glyphs that are found once.
 class TerminalFont {
   public:
-    explicit TerminalFont(const QFont& font);
+    /// `pixel_ratio`: device pixels to the pixel. A row is a whole number of device pixels high, or rows next
+    /// to each other would overlap or leave a gap.
+    TerminalFont(const QFont& font, qreal pixel_ratio);
 
     [[nodiscard]] const QFont& font() const { return fonts_[0]; }
+    [[nodiscard]] qreal pixel_ratio() const { return pixel_ratio_; }
     [[nodiscard]] int cell_width() const { return cell_width_; }
     [[nodiscard]] int cell_height() const { return cell_height_; }
     [[nodiscard]] int ascent() const { return ascent_; }          ///< from the cell's top to the base line
-    [[nodiscard]] int line_width() const { return line_width_; }  ///< of underlines and light box lines
+    [[nodiscard]] int line_width() const { return line_width_; }  ///< of underlines
 
     [[nodiscard]] const QRawFont& raw(Face face) const { return raw_[static_cast<std::size_t>(face)]; }
     /// The glyph of a character in the font itself; 0 when it has none.
     [[nodiscard]] quint32 glyph(char32_t character, Face face);
     [[nodiscard]] const ShapedCell& shaped(const QString& text, Face face);
+    /// The characters that are not taken from the font.
+    [[nodiscard]] BoxGlyphs& boxes() { return boxes_; }
 
   private:
     static constexpr std::size_t faces = 4;
@@ -43,6 +50,8 @@ class TerminalFont {
     std::array<std::array<quint32, 128>, faces> ascii_{};
     std::array<QHash<char32_t, quint32>, faces> others_;
     std::array<QHash<QString, ShapedCell>, faces> shaped_;
+    BoxGlyphs boxes_;
+    qreal pixel_ratio_;
     int cell_width_ = 1;
     int cell_height_ = 1;
     int ascent_ = 0;

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "toolkit/terminal_painter.h"
 
-#include "toolkit/terminal_box.h"
 #include "toolkit/terminal_colours.h"
 
 #include <QPainter>
@@ -155,9 +154,8 @@ void TerminalPainter::draw_text(const terminal::Row& row, const Run& run, QPoint
 void TerminalPainter::draw_cell(const Cell& cell, const Look& look, int column, QPoint origin) {
     const QPoint corner = origin + QPoint(column * font_.cell_width(), 0);
     if (!cell.is_cluster() && is_box_character(cell.character())) {
-        draw_box_character(painter_, QRect(corner, QSize(font_.cell_width(), font_.cell_height())),
-                           cell.character(), font_.line_width(), QColor::fromRgb(look.foreground));
-        painter_.setPen(QColor::fromRgb(look.foreground));
+        font_.boxes().draw(painter_, QRect(corner, QSize(font_.cell_width(), font_.cell_height())),
+                           cell.character(), look.foreground);
         return;
     }
     const QPointF base = corner + QPoint(0, font_.ascent());

@@ -2,6 +2,9 @@
 target_sources(toolkit PRIVATE
     terminal_accessible.cpp
     terminal_box.cpp
+    terminal_box_blocks.cpp
+    terminal_box_curves.cpp
+    terminal_box_lines.cpp
     terminal_find_bar.cpp
     terminal_font.cpp
     terminal_keys.cpp

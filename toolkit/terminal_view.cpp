@@ -32,7 +32,8 @@ TerminalView::TerminalView(TerminalSession& session, QScrollBar& scroll_bar, QWi
     : QWidget(parent),
       session_(session),
       scroll_bar_(scroll_bar),
-      font_(std::make_unique<TerminalFont>(QFontDatabase::systemFont(QFontDatabase::FixedFont))),
+      font_(std::make_unique<TerminalFont>(QFontDatabase::systemFont(QFontDatabase::FixedFont),
+                                           devicePixelRatioF())),
       reader_(std::make_unique<TerminalReader>(session.terminal())),
       selection_(session.terminal()) {
     setFocusPolicy(Qt::StrongFocus);
@@ -52,7 +53,7 @@ TerminalView::TerminalView(TerminalSession& session, QScrollBar& scroll_bar, QWi
 TerminalView::~TerminalView() = default;
 
 void TerminalView::set_terminal_font(const QFont& font) {
-    font_ = std::make_unique<TerminalFont>(font);
+    font_ = std::make_unique<TerminalFont>(font, devicePixelRatioF());
     fit_to_size();
     updateGeometry();
     refresh_all();
@@ -275,6 +276,9 @@ void TerminalView::refresh() {
 }
 
 void TerminalView::paintEvent(QPaintEvent* event) {
+    if (font_->pixel_ratio() != devicePixelRatioF()) {
+        set_terminal_font(QFont(font_->font()));  // now on another screen
+    }
     if (pictures_.empty()) {
         refresh();
     }

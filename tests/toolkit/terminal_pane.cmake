@@ -1,4 +1,5 @@
 target_sources(toolkit_test PRIVATE
+    terminal_box_test.cpp
     terminal_mouse_test.cpp
     terminal_painter_test.cpp
     terminal_pane_test.cpp
