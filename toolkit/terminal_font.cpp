@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "toolkit/terminal_font.h"
 
+#include <QFontInfo>
 #include <QFontMetricsF>
 #include <QTextLayout>
 
@@ -11,7 +12,7 @@ namespace {
 
 constexpr qsizetype cache_limit = 8192;  ///< texts and characters kept for each face
 
-ShapedCell shape(const QString& text, const QFont& font) {
+ShapedCell lay_out(const QString& text, const QFont& font) {
     QTextLayout layout(text, font);
     layout.beginLayout();
     const QTextLine line = layout.createLine();
@@ -39,6 +40,43 @@ int whole_device_pixels(int height, qreal ratio) {
     return height;
 }
 
+/// Whether the text is one character with combining ones behind it.
+bool has_only_marks_behind(const QString& text, qsizetype base) {
+    const QList<uint> marks = text.mid(base).toUcs4();
+    return !marks.empty() && std::all_of(marks.begin(), marks.end(), [](uint character) {
+        const QChar::Category category = QChar::category(character);
+        return category == QChar::Mark_NonSpacing || category == QChar::Mark_Enclosing;
+    });
+}
+
+/// Some fonts give combining characters a width of their own; they are drawn over the base all the same.
+ShapedCell shape(const QString& text, const QFont& font) {
+    ShapedCell cell = lay_out(text, font);
+    const qsizetype base = text.front().isHighSurrogate() ? 2 : 1;
+    if (!has_only_marks_behind(text, base)) {
+        return cell;
+    }
+    const qreal width = lay_out(text.left(base), font).width;
+    if (cell.width <= width || width <= 0) {
+        return cell;
+    }
+    for (QGlyphRun& run : cell.runs) {
+        QList<QPointF> positions = run.positions();
+        for (QPointF& position : positions) {
+            position.rx() = std::fmod(position.x(), width);
+        }
+        run.setPositions(positions);
+    }
+    cell.width = width;
+    return cell;
+}
+
+/// As a picture, not as a character: what is two cells wide, and what is followed by U+FE0F; but nothing
+/// followed by U+FE0E (Unicode Technical Standard 51).
+bool is_emoji(const QString& text, int cells) {
+    return text.contains(QChar(0xfe0f)) || (cells == 2 && !text.contains(QChar(0xfe0e)));
+}
+
 quint32 find_glyph(const QRawFont& font, char32_t character) {
     const QList<quint32> glyphs = font.glyphIndexesForString(QString::fromUcs4(&character, 1));
     return glyphs.size() == 1 ? glyphs.front() : 0;
@@ -62,6 +100,9 @@ TerminalFont::TerminalFont(const QFont& font, qreal pixel_ratio) : pixel_ratio_(
             ascii_[face][character] = find_glyph(raw_[face], character);
         }
     }
+    // What the alias of fontconfig stands for. Qt would ask it only for what other fonts do not have.
+    emoji_font_ = fonts_[0];
+    emoji_font_.setFamilies({QFontInfo(QFont(QStringLiteral("emoji"))).family(), fonts_[0].family()});
     const QFontMetricsF metrics(fonts_[0]);
     cell_width_ = std::max(1, static_cast<int>(std::lround(metrics.horizontalAdvance(u'M'))));
     ascent_ = static_cast<int>(std::ceil(metrics.ascent()));
@@ -85,7 +126,7 @@ quint32 TerminalFont::glyph(char32_t character, Face face) {
     return *known.insert(character, find_glyph(raw_[index], character));
 }
 
-const ShapedCell& TerminalFont::shaped(const QString& text, Face face) {
+const ShapedCell& TerminalFont::shaped(const QString& text, Face face, int cells) {
     const auto index = static_cast<std::size_t>(face);
     QHash<QString, ShapedCell>& known = shaped_[index];
     if (const auto found = known.constFind(text); found != known.constEnd()) {
@@ -94,5 +135,5 @@ const ShapedCell& TerminalFont::shaped(const QString& text, Face face) {
     if (known.size() >= cache_limit) {
         known.clear();
     }
-    return *known.insert(text, shape(text, fonts_[index]));
+    return *known.insert(text, shape(text, is_emoji(text, cells) ? emoji_font_ : fonts_[index]));
 }

@@ -39,7 +39,8 @@ class TerminalFont {
     [[nodiscard]] const QRawFont& raw(Face face) const { return raw_[static_cast<std::size_t>(face)]; }
     /// The glyph of a character in the font itself; 0 when it has none.
     [[nodiscard]] quint32 glyph(char32_t character, Face face);
-    [[nodiscard]] const ShapedCell& shaped(const QString& text, Face face);
+    /// `cells` is 2 for wide characters: emoji are taken from a font that has them in colour.
+    [[nodiscard]] const ShapedCell& shaped(const QString& text, Face face, int cells);
     /// The characters that are not taken from the font.
     [[nodiscard]] BoxGlyphs& boxes() { return boxes_; }
 
@@ -47,6 +48,7 @@ class TerminalFont {
     static constexpr std::size_t faces = 4;
     std::array<QFont, faces> fonts_;
     std::array<QRawFont, faces> raw_;
+    QFont emoji_font_;
     std::array<std::array<quint32, 128>, faces> ascii_{};
     std::array<QHash<char32_t, quint32>, faces> others_;
     std::array<QHash<QString, ShapedCell>, faces> shaped_;

@@ -173,7 +173,7 @@ void TerminalPainter::draw_cell(const Cell& cell, const Look& look, int column, 
 
 /// Text of a cell in whatever font has it: centred when it is narrower than the cell, squeezed when wider.
 void TerminalPainter::draw_shaped(const QString& text, const Look& look, int cells, QPointF base) {
-    const ShapedCell& shaped = font_.shaped(text, look.face);
+    const ShapedCell& shaped = font_.shaped(text, look.face, cells);
     const qreal room = cells * font_.cell_width();
     if (shaped.width <= room + 1) {
         const QPointF start = base + QPointF(std::max(0.0, (room - shaped.width) / 2), 0);
@@ -295,7 +295,7 @@ void TerminalPainter::draw_preedit(const RowMarks& marks, QPoint origin, int col
     if (marks.preedit.isEmpty()) {
         return;
     }
-    const ShapedCell& shaped = font_.shaped(marks.preedit, Face::normal);
+    const ShapedCell& shaped = font_.shaped(marks.preedit, Face::normal, 1);
     const int width = static_cast<int>(shaped.width) + 1;
     const int last = std::max(0, columns * font_.cell_width() - width);
     const int x = origin.x() + std::min(marks.cursor_column * font_.cell_width(), last);

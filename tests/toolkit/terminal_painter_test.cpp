@@ -93,6 +93,20 @@ TEST_F(TerminalPainterTest, ColumnsDoNotDriftBehindWideAndCombinedCharacters) {
     }
 }
 
+TEST_F(TerminalPainterTest, CombiningCharactersWithAWidthOfTheirOwnAreDrawnOverTheBase) {
+    look_at("x\r\nx\u0336\r\nx\u20dd");
+    const QRect plain = area(0, 0);
+    for (int y = 0; y < plain.height(); ++y) {
+        for (int x = 0; x < plain.width(); ++x) {
+            const bool inked = qRed(pixel(plain.topLeft() + QPoint(x, y))) > 150;
+            for (const int line : {1, 2}) {
+                EXPECT_TRUE(!inked || qRed(pixel(area(0, line).topLeft() + QPoint(x, y))) > 130)
+                    << "line " << line << " at " << x << ", " << y;
+            }
+        }
+    }
+}
+
 TEST_F(TerminalPainterTest, StylesDrawTheirLines) {
     const QRgb red = qRgb(255, 0, 0);
     struct {
