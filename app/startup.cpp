@@ -112,6 +112,8 @@ void read_resources() {
                                                                        "OpenWindows.MultiClickTimeout", 4);
     drag_threshold = defaults_get_integer("openwindows.dragthreshold", "OpenWindows.DragThreshold", 5);
     set_pointer_limits(multiclick_timeout, drag_threshold);
+    const std::string visual_bell = defaults_get_string("orvik.visualBell", "Orvik.VisualBell", "on");
+    main_window().termpane.set_visual_bell(visual_bell == "off" ? VisualBell::off : VisualBell::on);
 }
 
 CommandLineOptions read_options(const std::vector<std::string>& arguments) {

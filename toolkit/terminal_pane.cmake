@@ -15,6 +15,7 @@ target_sources(toolkit PRIVATE
     terminal_selection.cpp
     terminal_session.cpp
     terminal_view.cpp
+    terminal_view_blink.cpp
     terminal_view_clipboard.cpp
     terminal_view_keys.cpp
     terminal_view_mouse.cpp

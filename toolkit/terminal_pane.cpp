@@ -128,6 +128,8 @@ void TerminalPane::clear() { pane_->session().clear(); }
 
 void TerminalPane::ring_bell() { pane_->view().ring(); }
 
+void TerminalPane::set_visual_bell(VisualBell bell) { pane_->view().set_visual_bell(bell); }
+
 TerminalPane::CurrentLine TerminalPane::current_line() {
     pane_->session().await_echo();
     const terminal::Terminal& terminal = pane_->session().terminal();

@@ -33,6 +33,9 @@ struct KeyEvent {
     bool operator==(const KeyEvent&) const = default;
 };
 
+/// Whether a bell makes the pane flash; it sounds in either case.
+enum class VisualBell : std::uint8_t { off, on };
+
 /// A pane that shows a terminal with a program, the user's shell, in it. It looks after scrolling, selecting,
 /// pasting, searching and the accessible text itself, and lives as long as its parent widget.
 class TerminalPane {
@@ -49,6 +52,7 @@ class TerminalPane {
     /// Empties the text, with the scrollback.
     void clear();
     void ring_bell();
+    void set_visual_bell(VisualBell bell);
 
     /// The logical line that the insertion point is on, as far as it has been shown.
     struct CurrentLine {

@@ -3,13 +3,12 @@
 
 #include "toolkit/terminal_reader.h"
 
-#include <QApplication>
 #include <QClipboard>
 #include <QFontDatabase>
+#include <QGuiApplication>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QScrollBar>
-#include <QTimerEvent>
 
 #include <algorithm>
 #include <cmath>
@@ -19,11 +18,7 @@ using terminal::RowId;
 
 namespace {
 
-constexpr int margin = 4;
 constexpr int frame_milliseconds = 16;
-constexpr int flash_milliseconds = 120;
-constexpr int bell_interval_milliseconds = 500;
-constexpr int text_blink_milliseconds = 600;
 constexpr terminal::Size smallest{2, 1};
 
 }  // namespace
@@ -270,9 +265,7 @@ void TerminalView::refresh() {
             update(row_area(static_cast<int>(line)));
         }
     }
-    if (terminal().cursor().blinking != cursor_timer_.isActive()) {
-        restart_cursor_blinking();
-    }
+    follow_cursor();
 }
 
 void TerminalView::paintEvent(QPaintEvent* event) {
@@ -304,55 +297,9 @@ void TerminalView::paintEvent(QPaintEvent* event) {
     painter.setClipping(false);
     if (flash_timer_.isActive()) {
         const terminal::Rgb colour = terminal().cursor_colour();
-        painter.setPen(QPen(QColor(colour.red, colour.green, colour.blue), margin - 1));
-        painter.drawRect(rect().adjusted(1, 1, -2, -2));
-    }
-    if (rows.has_blinking_text() && !text_blink_timer_.isActive()) {
-        text_blink_timer_.start(text_blink_milliseconds, this);
-    }
-    has_blinking_text_ = has_blinking_text_ || rows.has_blinking_text();
-}
-
-// Timers.
-
-void TerminalView::restart_cursor_blinking() {
-    cursor_hidden_ = false;
-    cursor_timer_.stop();
-    const int period = QApplication::cursorFlashTime();
-    if (terminal().cursor().blinking && hasFocus() && period > 0) {
-        cursor_timer_.start(period / 2, this);
-    }
-}
-
-bool TerminalView::ring() {
-    if (since_bell_.isValid() && !since_bell_.hasExpired(bell_interval_milliseconds)) {
-        return false;
-    }
-    since_bell_.start();
-    QApplication::beep();
-    flash_timer_.start(flash_milliseconds, this);
-    update();
-    return true;
-}
-
-void TerminalView::timerEvent(QTimerEvent* event) {
-    const int id = event->timerId();
-    if (id == cursor_timer_.timerId()) {
-        cursor_hidden_ = !cursor_hidden_;
-        content_changed();
-    } else if (id == text_blink_timer_.timerId()) {
-        look_.blink_hidden = has_blinking_text_ && !look_.blink_hidden;
-        if (!has_blinking_text_) {
-            text_blink_timer_.stop();
+        for (const QRect& area : flash_area()) {
+            painter.fillRect(area, QColor(colour.red, colour.green, colour.blue));
         }
-        has_blinking_text_ = false;
-        update();
-    } else if (id == flash_timer_.timerId()) {
-        flash_timer_.stop();
-        update();
-    } else if (id == drag_timer_.timerId()) {
-        scroll_while_dragging();
-    } else {
-        QWidget::timerEvent(event);
     }
+    await_blink(rows.has_blinking_text());
 }

@@ -35,8 +35,10 @@ class TerminalView final : public QWidget {
 
     /// The terminal has changed: it is painted with the next frame.
     void content_changed();
-    /// A short flash and a sound. Bells that follow too soon are passed over: false.
+    /// A sound, and a short flash unless that is switched off. Bells that follow too soon are passed over:
+    /// false.
     bool ring();
+    void set_visual_bell(VisualBell bell) { visual_bell_ = bell; }
 
     [[nodiscard]] const terminal::Terminal& terminal() const { return session_.terminal(); }
     [[nodiscard]] QSize sizeHint() const override;
@@ -87,6 +89,8 @@ class TerminalView final : public QWidget {
     void contextMenuEvent(QContextMenuEvent* event) override;
 
   private:
+    static constexpr int margin = 4;  ///< pixels round the text
+
     /// What was painted for a row of the view.
     struct Picture {
         terminal::RowId row = 0;
@@ -114,7 +118,15 @@ class TerminalView final : public QWidget {
     [[nodiscard]] Picture picture_of(terminal::RowId row) const;
     [[nodiscard]] CursorLook cursor_look() const;
     [[nodiscard]] QRect row_area(int line) const;
+
+    // Blinking and flashing.
+    void follow_cursor();
     void restart_cursor_blinking();
+    void blink_cursor();
+    void await_blink(bool seen);
+    void blink_text();
+    [[nodiscard]] bool blinks(terminal::RowId row) const;
+    [[nodiscard]] QRegion flash_area() const;
 
     // Geometry and scrolling.
     void fit_to_size();
@@ -155,7 +167,6 @@ class TerminalView final : public QWidget {
     std::vector<Picture> pictures_;
     ScreenLook look_;
     std::vector<terminal::Rgb> colours_;  ///< painted with
-    bool has_blinking_text_ = false;
     QTimer frame_timer_;
     QElapsedTimer since_frame_;
 
@@ -165,7 +176,11 @@ class TerminalView final : public QWidget {
 
     QBasicTimer cursor_timer_;
     bool cursor_hidden_ = false;  ///< by blinking
+    QElapsedTimer since_cursor_moved_;
+    terminal::Position cursor_place_;  ///< as last seen, and whether it blinked
+    bool cursor_blinks_ = false;
     QBasicTimer text_blink_timer_;
+    VisualBell visual_bell_ = VisualBell::on;
     QBasicTimer flash_timer_;
     QElapsedTimer since_bell_;
     QBasicTimer drag_timer_;

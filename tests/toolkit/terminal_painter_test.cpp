@@ -5,10 +5,23 @@
 #include "toolkit/terminal_colours.h"
 
 #include <QImage>
+#include <QPaintEvent>
 
 namespace {
 
 QRgb to_qrgb(terminal::Rgb colour) { return qRgb(colour.red, colour.green, colour.blue); }
+
+/// Remembers where a widget was painted.
+class PaintedArea : public QObject {
+  public:
+    QRegion region;
+    bool eventFilter(QObject* object, QEvent* event) override {
+        if (event->type() == QEvent::Paint) {
+            region += static_cast<QPaintEvent*>(event)->region();
+        }
+        return QObject::eventFilter(object, event);
+    }
+};
 
 class TerminalPainterTest : public TerminalFixture {
   protected:
@@ -25,20 +38,36 @@ class TerminalPainterTest : public TerminalFixture {
     [[nodiscard]] QRect area(int column, int line) const {
         return view().cell_area({view().position_at({0, 0}).row + line, column});
     }
-    /// Whether a cell holds a pixel of about that colour.
-    [[nodiscard]] bool holds(int column, int line, QRgb colour) const {
+    /// Horizontal lines of about that colour in an area.
+    struct Lines {
+        int count = 0;
+        int height = 0;      ///< from the first to the last
+        bool whole = false;  ///< none has a gap
+    };
+    [[nodiscard]] Lines lines_in(QRect place, QRgb colour) const {
         const auto near = [](int a, int b) { return std::abs(a - b) < 80; };
-        const QRect cell_area = area(column, line);
-        for (int y = cell_area.top(); y <= cell_area.bottom(); ++y) {
-            for (int x = cell_area.left(); x <= cell_area.right(); ++x) {
-                const QRgb found = pixel({x, y});
-                if (near(qRed(found), qRed(colour)) && near(qGreen(found), qGreen(colour)) &&
-                    near(qBlue(found), qBlue(colour))) {
-                    return true;
-                }
+        const auto is_ink = [&](int x, int y) {
+            const QRgb found = pixel({x, y});
+            return near(qRed(found), qRed(colour)) && near(qGreen(found), qGreen(colour)) &&
+                   near(qBlue(found), qBlue(colour));
+        };
+        Lines lines;
+        int first = 0;
+        bool inside = false;
+        for (int y = place.top(); y <= place.bottom(); ++y) {
+            int inked = 0;
+            for (int x = place.left(); x <= place.right(); ++x) {
+                inked += is_ink(x, y) ? 1 : 0;
             }
+            if (inked > 0) {
+                first = lines.count == 0 ? y : first;
+                lines.whole = (lines.count == 0 || lines.whole) && inked == place.width();
+                lines.count += inside ? 0 : 1;
+                lines.height = y - first + 1;
+            }
+            inside = inked > 0;
         }
-        return false;
+        return lines;
     }
 
     const QRgb ink = to_qrgb(terminal_colours::foreground);
@@ -112,18 +141,70 @@ TEST_F(TerminalPainterTest, StylesDrawTheirLines) {
     struct {
         const char* name;
         const char* sequence;
-        bool inked;
+        int lines;   ///< with nothing between them
+        int height;  ///< of all together, 0 for any
+        bool whole;  ///< without gaps
     } const rows[]{
-        {"none", "", false},    {"underline", "4", true}, {"double", "21", true},
-        {"curly", "4:3", true}, {"dotted", "4:4", true},  {"dashed", "4:5", true},
-        {"struck", "9", true},  {"overline", "53", true}, {"invisible", "8;4;9", false},
+        {"none", "", 0, 0, false},
+        {"underline", "4", 1, 1, true},
+        {"double", "21", 2, 3, true},
+        {"double_by_colon", "4:2", 2, 3, true},
+        {"curly", "4:3", 1, 2, false},
+        {"dotted", "4:4", 1, 1, false},
+        {"dashed", "4:5", 1, 1, false},
+        {"struck", "9", 1, 1, true},
+        {"overline", "53", 1, 1, true},
+        {"invisible", "8;4;9", 0, 0, false},
+        {"two_lines", "9;4", 2, 0, true},
+        {"other_colour", "32;58;2;255;0;0;4", 1, 1, true},
+        {"indexed", "58:5:196;4", 1, 1, true},
     };
     for (const auto& row : rows) {
-        look_at(std::string("\033[38;2;255;0;0;") + row.sequence + "m    \033[0m");
-        EXPECT_EQ(holds(1, 0, red), row.inked) << row.name;
+        look_at(std::string("\033[38;2;255;0;0;") + row.sequence + "m        \033[0m");
+        const Lines lines = lines_in(area(1, 0) | area(6, 0), red);
+        EXPECT_EQ(lines.count, row.lines) << row.name;
+        EXPECT_TRUE(row.height == 0 || lines.height == row.height) << row.name << ": " << lines.height;
+        EXPECT_EQ(lines.whole, row.whole) << row.name;
     }
-    look_at("\033[4m\033[58;2;0;255;0m    \033[0m");
-    EXPECT_TRUE(holds(1, 0, qRgb(0, 255, 0))) << "underline of another colour";
+}
+
+TEST_F(TerminalPainterTest, OnlyRowsThatBlinkArePaintedAnewAndOnlyWhileTheyAreSeen) {
+    PaintedArea painted;
+    look_at("\033[3;1H\033[5m\u2588\033[0m\u2588");
+    view().installEventFilter(&painted);
+    const auto colour_is = [this](QRgb colour) {
+        return wait([&] {
+            image = view().grab(area(0, 2) | area(1, 2)).toImage();
+            return (image.pixel(2, 2) | 0xff000000) == colour;
+        });
+    };
+    EXPECT_TRUE(colour_is(background));
+    EXPECT_EQ(image.pixel(image.width() - 2, 2) | 0xff000000, ink) << "does not blink";
+    EXPECT_TRUE(colour_is(ink));
+    EXPECT_TRUE(painted.region.boundingRect().height() <= area(0, 2).height());
+    show_text("\033[2J");
+    QTest::qWait(1500);
+    painted.region = {};
+    QTest::qWait(700);
+    EXPECT_TRUE(painted.region.isEmpty());
+}
+
+TEST_F(TerminalPainterTest, BellFlashesInTheMarginUnlessSwitchedOff) {
+    look_at("");
+    const auto frame_flashes = [this] {
+        pane.ring_bell();
+        image = view().grab().toImage();
+        return pixel({1, 1}) == to_qrgb(terminal_colours::cursor);
+    };
+    pane.set_visual_bell(VisualBell::off);
+    EXPECT_FALSE(frame_flashes());
+    QTest::qWait(510);  // bells that follow at once are passed over
+    pane.set_visual_bell(VisualBell::on);
+    EXPECT_TRUE(frame_flashes());
+    EXPECT_TRUE(wait([this] {
+        image = view().grab().toImage();
+        return pixel({1, 1}) == background;
+    }));
 }
 
 TEST_F(TerminalPainterTest, CursorIsFilledOnlyWithTheFocus) {
