@@ -73,11 +73,16 @@ TerminalPainter::Look TerminalPainter::look_of(terminal::StyleId id) const {
     return look;
 }
 
-TerminalPainter::Look TerminalPainter::marked(Look look, const RowMarks& marks, int column) const {
+TerminalPainter::Look TerminalPainter::marked(Look look, const RowMarks& marks, const Cell& cell,
+                                              int column) const {
     const auto recolour = [&look](QRgb foreground, QRgb background) {
         look.foreground = look.underline = foreground;
         look.background = background;
     };
+    if (marks.link != 0 && cell.link == marks.link) {
+        const bool plain = look.style.underline == Underline::none;
+        look.style.underline = plain ? Underline::single : Underline::twofold;
+    }
     if (marks.match.contain(column)) {
         recolour(to_qrgb(terminal_colours::match_foreground), to_qrgb(terminal_colours::match_background));
     } else if (marks.selection.contain(column)) {
@@ -103,7 +108,7 @@ void TerminalPainter::find_runs(const terminal::Row& row, const RowMarks& marks,
             known_look = look_of(known);
         }
         if (!cell.is_wide_tail() || column == 0) {
-            look = marked(known_look, marks, column);
+            look = marked(known_look, marks, cell, column);
         }
         if (runs_.empty() || runs_.back().look != look) {
             runs_.push_back({look, {column, column}});

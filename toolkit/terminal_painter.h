@@ -28,7 +28,8 @@ struct RowMarks {
     Columns match;
     CursorLook cursor = CursorLook::none;
     int cursor_column = 0;
-    QString preedit;  ///< text an input method composes, at the cursor
+    terminal::LinkId link = 0;  ///< of the link under the pointer, when the row holds some of it
+    QString preedit;            ///< text an input method composes, at the cursor
     bool operator==(const RowMarks&) const = default;
 };
 
@@ -69,7 +70,7 @@ class TerminalPainter {
     [[nodiscard]] QRgb rgb(terminal::Colour colour, QRgb standard, bool brighten) const;
     [[nodiscard]] Look look_of(terminal::StyleId id) const;
     void find_runs(const terminal::Row& row, const RowMarks& marks, int columns);
-    [[nodiscard]] Look marked(Look look, const RowMarks& marks, int column) const;
+    [[nodiscard]] Look marked(Look look, const RowMarks& marks, const terminal::Cell& cell, int column) const;
 
     void draw_backgrounds(QPoint origin);
     void draw_text(const terminal::Row& row, const Run& run, QPoint origin);

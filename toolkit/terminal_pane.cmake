@@ -8,6 +8,8 @@ target_sources(toolkit PRIVATE
     terminal_find_bar.cpp
     terminal_font.cpp
     terminal_keys.cpp
+    terminal_link.cpp
+    terminal_link_notice.cpp
     terminal_painter.cpp
     terminal_pane.cpp
     terminal_paste_review.cpp
@@ -18,6 +20,7 @@ target_sources(toolkit PRIVATE
     terminal_view_blink.cpp
     terminal_view_clipboard.cpp
     terminal_view_keys.cpp
+    terminal_view_links.cpp
     terminal_view_mouse.cpp
 )
 target_link_libraries(toolkit PRIVATE fmt::fmt)

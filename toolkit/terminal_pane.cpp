@@ -5,12 +5,15 @@
 #include "toolkit/terminal_accessible.h"
 #include "toolkit/terminal_colours.h"
 #include "toolkit/terminal_find_bar.h"
+#include "toolkit/terminal_link_notice.h"
 #include "toolkit/terminal_session.h"
 #include "toolkit/terminal_view.h"
 #include "toolkit/text_conversion.h"
 
 #include <QAction>
+#include <QClipboard>
 #include <QGridLayout>
+#include <QGuiApplication>
 #include <QMenu>
 #include <QScrollBar>
 
@@ -88,6 +91,14 @@ PaneWidget::PaneWidget(QWidget* parent)
 void PaneWidget::show_menu(QPoint place) {
     auto* menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
+    if (const std::string link = view_->link_at(view_->mapFromGlobal(place)); !link.empty()) {
+        menu->addAction(QStringLiteral("Open Link...\tCtrl+Click"), view_,
+                        [this, link] { offer_link(view_, link); });
+        menu->addAction(QStringLiteral("Copy Link Address"), view_, [link] {
+            QGuiApplication::clipboard()->setText(to_qstring(link), QClipboard::Clipboard);
+        });
+        menu->addSeparator();
+    }
     // The view handles the keys itself; the menu only tells them.
     menu->addAction(QStringLiteral("Copy\tCtrl+Shift+C"), view_, [this] { view_->copy(); })
         ->setEnabled(!view_->selection().empty());

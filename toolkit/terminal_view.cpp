@@ -163,7 +163,9 @@ TerminalView::Picture TerminalView::picture_of(RowId row) const {
         return {row == range.begin.row ? range.begin.column : 0,
                 row == range.end.row ? range.end.column : columns};
     };
-    Picture picture{row, terminal().row(row).stamp, {}};
+    const terminal::Row shown = terminal().row(row);
+    Picture picture{row, shown.stamp, {}};
+    picture.marks.link = hovered_link_in(shown);
     picture.marks.selection = columns_of(selection_.range());
     picture.marks.match = columns_of(match_);
     const terminal::Cursor cursor = terminal().cursor();
@@ -254,6 +256,7 @@ void TerminalView::refresh() {
     repaint_all_if_colours_changed();
     const RowId top = top_row();
     shift_pictures(top);
+    follow_pointer();
     const auto rows = static_cast<std::size_t>(terminal().size().rows);
     if (pictures_.size() != rows) {
         pictures_.assign(rows, Picture{-1, 0, {}});

@@ -17,6 +17,7 @@
 #include <optional>
 #include <vector>
 
+class QHelpEvent;
 class QScrollBar;
 class TerminalReader;
 
@@ -66,6 +67,9 @@ class TerminalView final : public QWidget {
     /// The area of a cell; also of one scrolled out of view.
     [[nodiscard]] QRect cell_area(terminal::Position position) const;
 
+    /// The address of the link at a point; empty where none is.
+    [[nodiscard]] std::string link_at(QPointF point) const;
+
     /// The text as assistive tools read it.
     [[nodiscard]] TerminalReader& reader() { return *reader_; }
 
@@ -86,6 +90,7 @@ class TerminalView final : public QWidget {
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
+    void leaveEvent(QEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
 
   private:
@@ -103,6 +108,7 @@ class TerminalView final : public QWidget {
         bool selecting = false;
         terminal::MouseButton held = terminal::MouseButton::none;  ///< reported as pressed
         terminal::Position last_report{-1, -1};
+        std::string link;  ///< the button was pressed on, to open it
         QPointF drag_point;
         QPointF double_click_point;
         QElapsedTimer since_double_click;
@@ -152,6 +158,15 @@ class TerminalView final : public QWidget {
     void primary_selection_changed();
     void turn_wheel(int notches, QPointF point, Qt::KeyboardModifiers modifiers);
 
+    // Links.
+    [[nodiscard]] terminal::LinkId link_id_at(QPointF point) const;
+    void follow_pointer();
+    void move_pointer(std::optional<QPointF> point, Qt::KeyboardModifiers modifiers);
+    [[nodiscard]] terminal::LinkId hovered_link_in(const terminal::Row& row) const;
+    [[nodiscard]] bool press_link(QPointF point, Qt::KeyboardModifiers modifiers);
+    void release_link(QPointF point);
+    void show_tool_tip(const QHelpEvent& event);
+
     void type_paste(const std::string& text);
 
     TerminalSession& session_;
@@ -185,6 +200,9 @@ class TerminalView final : public QWidget {
     QElapsedTimer since_bell_;
     QBasicTimer drag_timer_;
     MouseState mouse_;
+    std::optional<QPointF> pointer_;  ///< while it is over the view
+    Qt::KeyboardModifiers pointer_modifiers_;
+    terminal::LinkId hovered_link_ = 0;
     bool publishing_ = false;  ///< the change of the primary selection is our own doing
     QString preedit_;
 };

@@ -3,6 +3,7 @@
 #include "toolkit/terminal_view.h"
 #include "toolkit/text_conversion.h"
 
+#include <QHelpEvent>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 
@@ -24,6 +25,10 @@ bool TerminalView::event(QEvent* event) {
         event->accept();
         return true;
     }
+    if (event->type() == QEvent::ToolTip) {
+        show_tool_tip(*static_cast<QHelpEvent*>(event));
+        return true;
+    }
     return QWidget::event(event);
 }
 
@@ -31,6 +36,9 @@ bool TerminalView::event(QEvent* event) {
 bool TerminalView::focusNextPrevChild(bool /*next*/) { return false; }
 
 void TerminalView::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Control) {
+        move_pointer(pointer_, event->modifiers() | Qt::ControlModifier);
+    }
     const KeyEvent pressed = to_key_event(*event);
     KeyEvent key = pressed;
     if (interpose(key)) {
@@ -43,6 +51,9 @@ void TerminalView::keyPressEvent(QKeyEvent* event) {
 }
 
 void TerminalView::keyReleaseEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Control) {
+        move_pointer(pointer_, event->modifiers() & ~Qt::KeyboardModifiers(Qt::ControlModifier));
+    }
     KeyEvent key = to_key_event(*event);
     if (!key.repeated) {
         interpose(key);

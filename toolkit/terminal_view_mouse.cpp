@@ -71,7 +71,7 @@ void TerminalView::mousePressEvent(QMouseEvent* event) {
     }
     if (event->button() == Qt::MiddleButton) {
         paste(PasteSource::primary);
-    } else if (event->button() == Qt::LeftButton) {
+    } else if (event->button() == Qt::LeftButton && !press_link(point, event->modifiers())) {
         const bool third =
             mouse_.since_double_click.isValid() &&
             !mouse_.since_double_click.hasExpired(QApplication::doubleClickInterval()) &&
@@ -92,6 +92,7 @@ void TerminalView::mouseDoubleClickEvent(QMouseEvent* event) {
 }
 
 void TerminalView::mouseMoveEvent(QMouseEvent* event) {
+    move_pointer(event->position(), event->modifiers());
     if (mouse_.selecting) {
         mouse_.drag_point = event->position();
         extend_selection(event->position());
@@ -115,6 +116,8 @@ void TerminalView::mouseReleaseEvent(QMouseEvent* event) {
         mouse_.selecting = false;
         drag_timer_.stop();
         publish_selection();
+    } else if (event->button() == Qt::LeftButton) {
+        release_link(event->position());
     }
 }
 
