@@ -5,6 +5,7 @@
 #include "toolkit/terminal_view.h"
 
 #include <QAccessibleWidget>
+#include <QMenu>
 #include <QTextBoundaryFinder>
 
 #include <algorithm>
@@ -45,6 +46,25 @@ class TerminalAccessible final : public QAccessibleWidget, public QAccessibleTex
         return state;
     }
     using QAccessibleWidget::text;
+
+    // The context menu, open or not.
+    [[nodiscard]] int childCount() const override { return 1; }
+    [[nodiscard]] QAccessibleInterface* child(int index) const override {
+        return index == 0 ? QAccessible::queryAccessibleInterface(&view().menu()) : nullptr;
+    }
+    [[nodiscard]] int indexOfChild(const QAccessibleInterface* child) const override {
+        return child->object() == &view().menu() ? 0 : -1;
+    }
+    [[nodiscard]] QStringList actionNames() const override {
+        return QStringList{showMenuAction()} + QAccessibleWidget::actionNames();
+    }
+    void doAction(const QString& name) override {
+        if (name == showMenuAction()) {
+            view().show_menu_at_cursor();
+        } else {
+            QAccessibleWidget::doAction(name);
+        }
+    }
 
     // The text.
     [[nodiscard]] int characterCount() const override { return reader().size(); }

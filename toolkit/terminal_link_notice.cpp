@@ -57,6 +57,7 @@ void offer_link(QWidget* parent, const std::string& address) {
     if (refusal.isEmpty()) {
         auto* open = buttons->addButton(QStringLiteral("Open"), QDialogButtonBox::ActionRole);
         open->setDefault(true);
+        open->setFocus();
         QObject::connect(open, &QPushButton::clicked, dialog, [=] {
             if (open_link(address)) {
                 dialog->accept();
@@ -78,7 +79,6 @@ void offer_link(QWidget* parent, const std::string& address) {
     for (QWidget* widget : std::initializer_list<QWidget*>{label, view, buttons}) {
         layout->addWidget(widget);
     }
-    buttons->buttons().front()->setFocus();
     constexpr int comfortable_width = 520;
     dialog->resize(comfortable_width, dialog->sizeHint().height());
     dialog->open();

@@ -27,6 +27,7 @@ class PaneWidget final : public QWidget {
     void set_events(TerminalPane::Events events) { events_ = std::move(events); }
 
   private:
+    void fill_menu(const std::string& link);
     void show_menu(QPoint place);
 
     TerminalSession session_;
@@ -74,6 +75,7 @@ PaneWidget::PaneWidget(QWidget* parent)
     setFocusProxy(view_);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 
+    fill_menu({});
     view_->set_menu_callback([this](QPoint place) { show_menu(place); });
     view_->set_find_callback([this] { find_bar_->open(); });
     session_.set_events({.changed = [this] { view_->content_changed(); },
@@ -88,28 +90,33 @@ PaneWidget::PaneWidget(QWidget* parent)
                          .restarted = [this] { call(events_.restarted); }});
 }
 
-void PaneWidget::show_menu(QPoint place) {
-    auto* menu = new QMenu(this);
-    menu->setAttribute(Qt::WA_DeleteOnClose);
-    if (const std::string link = view_->link_at(view_->mapFromGlobal(place)); !link.empty()) {
-        menu->addAction(QStringLiteral("Open Link...\tCtrl+Click"), view_,
-                        [this, link] { offer_link(view_, link); });
-        menu->addAction(QStringLiteral("Copy Link Address"), view_, [link] {
-            QGuiApplication::clipboard()->setText(to_qstring(link), QClipboard::Clipboard);
-        });
-        menu->addSeparator();
-    }
+void PaneWidget::fill_menu(const std::string& link) {
+    QMenu& menu = view_->menu();
+    menu.clear();
     // The view handles the keys itself; the menu only tells them.
-    menu->addAction(QStringLiteral("Copy\tCtrl+Shift+C"), view_, [this] { view_->copy(); })
-        ->setEnabled(!view_->selection().empty());
-    menu->addAction(QStringLiteral("Paste\tCtrl+Shift+V"), view_,
-                    [this] { view_->paste(TerminalView::PasteSource::clipboard); });
-    menu->addAction(QStringLiteral("Paste Selection\tShift+Insert"), view_,
-                    [this] { view_->paste(TerminalView::PasteSource::primary); });
-    menu->addSeparator();
-    menu->addAction(QStringLiteral("Find...\tCtrl+Shift+F"), find_bar_, [this] { find_bar_->open(); });
-    menu->addAction(QStringLiteral("Clear"), view_, [this] { session_.clear(); });
-    menu->popup(place);
+    const auto add = [&](const char* label, const char* keys, auto action) {
+        QAction* item = menu.addAction(QLatin1String(label), view_, action);
+        item->setShortcut(QKeySequence(QLatin1String(keys)));
+        item->setShortcutContext(Qt::WidgetShortcut);
+        return item;
+    };
+    if (!link.empty()) {
+        add("Open Link...", "", [this, link] { offer_link(view_, link); });
+        add("Copy Link Address", "",
+            [link] { QGuiApplication::clipboard()->setText(to_qstring(link), QClipboard::Clipboard); });
+        menu.addSeparator();
+    }
+    add("Copy", "Ctrl+Shift+C", [this] { view_->copy(); })->setEnabled(!view_->selection().empty());
+    add("Paste", "Ctrl+Shift+V", [this] { view_->paste(TerminalView::PasteSource::clipboard); });
+    add("Paste Selection", "Shift+Ins", [this] { view_->paste(TerminalView::PasteSource::primary); });
+    menu.addSeparator();
+    add("Find...", "Ctrl+Shift+F", [this] { find_bar_->open(); });
+    add("Clear", "", [this] { session_.clear(); });
+}
+
+void PaneWidget::show_menu(QPoint place) {
+    fill_menu(view_->link_at(view_->mapFromGlobal(place)));
+    view_->menu().popup(place);
 }
 
 TerminalPane::TerminalPane(Container& parent, std::string_view accessible_name)

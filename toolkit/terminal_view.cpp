@@ -6,6 +6,7 @@
 #include <QClipboard>
 #include <QFontDatabase>
 #include <QGuiApplication>
+#include <QMenu>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QScrollBar>
@@ -30,7 +31,8 @@ TerminalView::TerminalView(TerminalSession& session, QScrollBar& scroll_bar, QWi
       font_(std::make_unique<TerminalFont>(QFontDatabase::systemFont(QFontDatabase::FixedFont),
                                            devicePixelRatioF())),
       reader_(std::make_unique<TerminalReader>(session.terminal())),
-      selection_(session.terminal()) {
+      selection_(session.terminal()),
+      menu_(new QMenu(this)) {
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_OpaquePaintEvent);
     setAttribute(Qt::WA_InputMethodEnabled);

@@ -18,6 +18,7 @@
 #include <vector>
 
 class QHelpEvent;
+class QMenu;
 class QScrollBar;
 class TerminalReader;
 
@@ -32,6 +33,9 @@ class TerminalView final : public QWidget {
     void set_interposer(std::function<bool(KeyEvent&)> function) { interposer_ = std::move(function); }
     /// Called for the context menu, with a global position; and for the find key.
     void set_menu_callback(std::function<void(QPoint)> callback) { show_menu_ = std::move(callback); }
+    void show_menu_at_cursor();
+    /// The context menu, which the pane fills. Qt shows assistive tools no menu that nobody owns.
+    [[nodiscard]] QMenu& menu() const { return *menu_; }
     void set_find_callback(std::function<void()> callback) { show_find_ = std::move(callback); }
 
     /// The terminal has changed: it is painted with the next frame.
@@ -176,6 +180,7 @@ class TerminalView final : public QWidget {
     TerminalSelection selection_;
     terminal::Range match_;
     std::function<bool(KeyEvent&)> interposer_;
+    QMenu* menu_;
     std::function<void(QPoint)> show_menu_;
     std::function<void()> show_find_;
 

@@ -90,7 +90,7 @@ bool TerminalView::handle_own_key(const QKeyEvent& event) {
     const bool menu_key =
         event.key() == Qt::Key_Menu || (event.key() == Qt::Key_F10 && modifiers == Qt::ShiftModifier);
     if (menu_key) {
-        show_menu_(mapToGlobal(cell_area(terminal().cursor().position).bottomLeft()));
+        show_menu_at_cursor();
         return true;
     }
     if (event.key() == Qt::Key_Tab && modifiers == Qt::ControlModifier) {
@@ -102,6 +102,10 @@ bool TerminalView::handle_own_key(const QKeyEvent& event) {
         return true;
     }
     return modifiers == Qt::ShiftModifier && handle_scroll_key(event);
+}
+
+void TerminalView::show_menu_at_cursor() {
+    show_menu_(mapToGlobal(cell_area(terminal().cursor().position).bottomLeft()));
 }
 
 /// Where there is nothing to scroll to, the keys are the program's.

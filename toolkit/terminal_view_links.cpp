@@ -69,13 +69,16 @@ void TerminalView::release_link(QPointF point) {
     }
 }
 
+/// On one line; an address too long for that is seen in full in the notice.
 void TerminalView::show_tool_tip(const QHelpEvent& event) {
-    const std::string address = link_at(event.pos());
-    if (address.empty()) {
-        QToolTip::hideText();
-    } else {
-        QToolTip::showText(event.globalPos(), plain_tool_tip(address + "\nCtrl+click opens it"), this);
+    constexpr qsizetype longest = 120;
+    QString address = visible_text(link_at(event.pos()));
+    if (address.size() > longest) {
+        address = address.left(longest) + QChar(u'\u2026');
     }
+    const QString text = QStringLiteral("<p style='white-space:pre'>%1<br>Ctrl+click opens it</p>");
+    QToolTip::showText(event.globalPos(), address.isEmpty() ? QString() : text.arg(address.toHtmlEscaped()),
+                       this);
 }
 
 void TerminalView::leaveEvent(QEvent* event) {

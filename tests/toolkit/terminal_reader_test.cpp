@@ -6,6 +6,7 @@
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 
 namespace {
 
@@ -33,6 +34,18 @@ TEST_F(TerminalReaderTest, PaneIsATerminalByItsNameWithTextOfLogicalLines) {
     EXPECT_EQ(accessible().cursorPosition(), 2);
     show_text("\033[12;5H");
     EXPECT_TRUE(text().ends_with("\nprompt\n\n\n\n\n    ")) << text();
+}
+
+TEST_F(TerminalReaderTest, ContextMenuIsAChildOfTheTerminalAndCanBeOpened) {
+    QAccessibleInterface* const interface = QAccessible::queryAccessibleInterface(&view());
+    ASSERT_EQ(interface->childCount(), 1);
+    QAccessibleInterface* const menu = interface->child(0);
+    EXPECT_EQ(menu->role(), QAccessible::PopupMenu);
+    EXPECT_EQ(interface->indexOfChild(menu), 0);
+    EXPECT_EQ(menu->child(0)->text(QAccessible::Name), "Copy");
+    interface->actionInterface()->doAction(QAccessibleActionInterface::showMenuAction());
+    EXPECT_TRUE(menu->state().invisible == 0);
+    view().menu().close();
 }
 
 TEST_F(TerminalReaderTest, CaretBehindAFullLineStandsBehindItsLastCharacter) {
