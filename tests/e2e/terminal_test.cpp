@@ -22,6 +22,7 @@ TEST_F(Terminal, FloodIsInterrupted) {
     start_with_shell("/bin/bash");
     type("yes\n");
     ASSERT_TRUE(wait_until([this] { return terminal_.last_text(8).find("y\ny\n") != std::string::npos; }));
+    EXPECT_TRUE(terminal_.find({"menu item", "Paste"})) << terminal_.tree();
     // Everything else stays alive meanwhile: a menu opens, and a window answers.
     EXPECT_EQ(field(open_window("Status Display"), "Status File:"), status_path());
     display().press_key("Escape");
