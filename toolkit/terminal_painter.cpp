@@ -246,7 +246,7 @@ void TerminalPainter::draw_underline(const Look& look, int x, int y, int width) 
             break;
         case Underline::twofold:
             painter_.fillRect(x, std::min(top, lowest - 2 * line), width, line, colour);
-            painter_.fillRect(x, lowest, width, line, colour);
+            painter_.fillRect(x, std::min(top + 2 * line, lowest), width, line, colour);
             break;
         case Underline::dotted:
             draw_pattern(3 * line, line);

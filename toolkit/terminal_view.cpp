@@ -291,12 +291,12 @@ void TerminalView::paintEvent(QPaintEvent* event) {
         painter.fillRect(area, background);
     }
     for (std::size_t line = 0; line < pictures_.size(); ++line) {
-        const QRect area = row_area(static_cast<int>(line));
+        const QRect area = row_area(static_cast<int>(line)) & cells;
         if (!event->region().intersects(area)) {
             continue;
         }
         const Picture& picture = pictures_[line];
-        painter.setClipRect(area & cells);
+        painter.setClipRect(area);
         rows.draw_row(terminal().row(picture.row), picture.marks, {margin, area.y()}, columns);
     }
     painter.setClipping(false);
