@@ -49,25 +49,24 @@ bool has_only_marks_behind(const QString& text, qsizetype base) {
     });
 }
 
-/// Some fonts give combining characters a width of their own; they are drawn over the base all the same.
+/// In some fonts the picture of a combining character is not to the left of where it starts, or it even has a
+/// width of its own. It is drawn over the base all the same.
 ShapedCell shape(const QString& text, const QFont& font) {
     ShapedCell cell = lay_out(text, font);
     const qsizetype base = text.front().isHighSurrogate() ? 2 : 1;
     if (!has_only_marks_behind(text, base)) {
         return cell;
     }
-    const qreal width = lay_out(text.left(base), font).width;
-    if (cell.width <= width || width <= 0) {
-        return cell;
-    }
+    cell.width = lay_out(text.left(base), font).width;
     for (QGlyphRun& run : cell.runs) {
         QList<QPointF> positions = run.positions();
-        for (QPointF& position : positions) {
-            position.rx() = std::fmod(position.x(), width);
+        for (qsizetype i = 0; i < positions.size(); ++i) {
+            const QRectF picture = run.rawFont().boundingRect(run.glyphIndexes()[i]);
+            const bool behind = positions[i].x() + picture.center().x() > cell.width;
+            positions[i].rx() -= behind ? cell.width : 0;
         }
         run.setPositions(positions);
     }
-    cell.width = width;
     return cell;
 }
 
