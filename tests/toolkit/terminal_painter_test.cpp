@@ -4,6 +4,7 @@
 #include "tests/toolkit/terminal_fixture.h"
 #include "toolkit/terminal_colours.h"
 
+#include <QApplication>
 #include <QElapsedTimer>
 #include <QImage>
 #include <QPaintEvent>
@@ -206,6 +207,44 @@ TEST_F(TerminalPainterTest, BellFlashesInTheMarginUnlessSwitchedOff) {
         image = view().grab().toImage();
         return pixel({1, 1}) == background;
     }));
+}
+
+TEST_F(TerminalPainterTest, CursorHasTheShapeAskedFor) {
+    struct {
+        const char* name;
+        const char* shape;  ///< DECSCUSR, then the character under the cursor
+        bool top_left, top_right, bottom_right;
+    } const rows[]{
+        {"block", "2 q ", true, true, true},
+        {"underline", "4 q ", false, false, true},
+        {"bar", "6 q ", true, false, false},
+        {"wide_block", "2 q\u4e2d", true, true, true},
+        {"wide_underline", "4 q\u4e2d", false, false, true},
+    };
+    const QRgb colour = to_qrgb(terminal_colours::cursor);
+    for (const auto& row : rows) {
+        look_at(std::string("\033[?25h\033[") + row.shape + "\033[H");
+        const bool wide = std::string_view(row.name).starts_with("wide");
+        const QRect place = area(0, 0) | area(wide ? 1 : 0, 0);
+        EXPECT_EQ(pixel(place.topLeft()) == colour, row.top_left) << row.name;
+        EXPECT_EQ(pixel(place.topRight()) == colour, row.top_right) << row.name;
+        EXPECT_EQ(pixel(place.bottomRight()) == colour, row.bottom_right) << row.name;
+    }
+}
+
+TEST_F(TerminalPainterTest, CursorBlinksAndIsSeenWhereItMoves) {
+    QApplication::setCursorFlashTime(1000);
+    const auto is_seen = [this](int column) {
+        image = view().grab().toImage();
+        return pixel(area(column, 0).center()) == to_qrgb(terminal_colours::cursor);
+    };
+    look_at("\033[?25h\033[1 q");
+    EXPECT_TRUE(is_seen(0));
+    EXPECT_TRUE(wait([&] { return !is_seen(0); }));
+    show_text(" ");
+    EXPECT_TRUE(wait([&] { return is_seen(1); }));
+    show_text("\033[2 q");
+    EXPECT_FALSE(QTest::qWaitFor([&] { return !is_seen(1); }, 700)) << "steady";
 }
 
 TEST_F(TerminalPainterTest, CursorIsFilledOnlyWithTheFocus) {
