@@ -27,10 +27,10 @@ class BoxGlyphs {
     void draw(QPainter& painter, const QRect& cell, char32_t character, QRgb colour);
 
   private:
-    using ShapeKey = std::pair<char32_t, std::pair<int, int>>;  ///< character; width and height
+    using ShapeKey = std::pair<char32_t, BoxCell>;
 
-    const BoxShape& shape(char32_t character, QSize size);
-    const QImage& picture(char32_t character, QSize size, QRgb colour);
+    const BoxShape& shape(const ShapeKey& key);
+    const QImage& picture(const ShapeKey& key, QRgb colour);
 
     QHash<ShapeKey, BoxShape> shapes_;
     QHash<std::pair<ShapeKey, QRgb>, QImage> pictures_;  ///< of shapes that are paths

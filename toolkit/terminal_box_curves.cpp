@@ -10,8 +10,8 @@ BoxShape arc_shape(const BoxCell& cell, char32_t character) {
     constexpr qreal handle = 0.5523;  // of the radius: where a cubic curve comes nearest to a quarter circle
     const bool to_right = character == 0x256d || character == 0x2570;
     const bool to_bottom = character == 0x256d || character == 0x256e;
-    const qreal x = cell.middle_x(cell.line()) + cell.line() / 2.0;
-    const qreal y = cell.middle_y(cell.line()) + cell.line() / 2.0;
+    const qreal x = cell.middle_x(cell.line) + cell.line / 2.0;
+    const qreal y = cell.middle_y(cell.line) + cell.line / 2.0;
     const qreal radius = std::min(cell.width, cell.height) / 2.0;
     const qreal right = to_right ? 1 : -1;
     const qreal down = to_bottom ? 1 : -1;
@@ -20,7 +20,7 @@ BoxShape arc_shape(const BoxCell& cell, char32_t character) {
     path.cubicTo(x, y + down * radius * (1 - handle), x + right * radius * (1 - handle), y,
                  x + right * radius, y);
     path.lineTo(to_right ? cell.width : 0, y);
-    return {.path = path, .pen = cell.line()};
+    return {.path = path, .pen = cell.line};
 }
 
 /// The ends lie beyond the corners, so that the line fills them.
@@ -36,7 +36,7 @@ BoxShape diagonals_shape(const BoxCell& cell, char32_t character) {
         path.moveTo(-width, -height);
         path.lineTo(2 * width, 2 * height);
     }
-    return {.path = path, .pen = cell.line()};
+    return {.path = path, .pen = cell.line};
 }
 
 /// To the right, filled and as a line; then to the left.
@@ -48,7 +48,7 @@ BoxShape arrow_shape(const BoxCell& cell, unsigned number) {
     QPainterPath path(QPointF(back, 0));
     path.lineTo(tip, cell.height / 2.0);
     path.lineTo(back, cell.height);
-    return {.path = path, .pen = filled ? 0 : cell.line()};
+    return {.path = path, .pen = filled ? 0 : cell.line};
 }
 
 }  // namespace

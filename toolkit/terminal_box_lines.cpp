@@ -34,7 +34,7 @@ enum Weight : std::uint8_t { absent, light, heavy, twofold };
 /// routine.
 class Arms {
   public:
-    Arms(const BoxCell& cell, const char* weights) : cell_(cell), line_(cell.line()), weights_(weights) {}
+    Arms(const BoxCell& cell, const char* weights) : cell_(cell), line_(cell.line), weights_(weights) {}
 
     BoxShape shape() {
         for (const Direction direction : {up, right, down, left}) {
@@ -137,7 +137,7 @@ constexpr std::array dash_groups{Dashes{0x2504, 3}, Dashes{0x2508, 4}, Dashes{0x
 /// Half a gap stands at either end, so that the dashes go on evenly in the next cell.
 BoxShape dashes_shape(const BoxCell& cell, unsigned kind, int count) {
     const bool vertical = (kind & 2) != 0;
-    const int thick = (kind & 1) != 0 ? cell.heavy_line() : cell.line();
+    const int thick = (kind & 1) != 0 ? cell.heavy_line() : cell.line;
     const int length = vertical ? cell.height : cell.width;
     const int gap = std::max(1, length / count / 3);
     BoxShape shape;
@@ -153,8 +153,8 @@ BoxShape dashes_shape(const BoxCell& cell, unsigned kind, int count) {
 /// The horizontal lines at the heights of scans 1, 3, 7 and 9 of nine; scan 5 is U+2500.
 BoxShape scan_line_shape(const BoxCell& cell, int number) {
     constexpr std::array eighths{0, 2, 6, 8};
-    const int top = (cell.height - cell.line()) * eighths[static_cast<std::size_t>(number)] / 8;
-    return {.rectangles = {QRect(0, top, cell.width, cell.line())}};
+    const int top = (cell.height - cell.line) * eighths[static_cast<std::size_t>(number)] / 8;
+    return {.rectangles = {QRect(0, top, cell.width, cell.line)}};
 }
 
 }  // namespace

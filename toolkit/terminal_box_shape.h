@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QHashFunctions>
 #include <QPainterPath>
 #include <QRect>
 
+#include <cstddef>
 #include <vector>
 
 /// What a drawn character consists of, in device pixels from the cell's upper left corner: rectangles, or
@@ -15,18 +17,21 @@ struct BoxShape {
     int pen = 0;  ///< width of the path's line; 0: the path is filled
 };
 
-/// A cell's size in device pixels.
+/// A cell in device pixels. Where a pixel is not a whole number of them, cells of one font differ in size.
 struct BoxCell {
     int width;
     int height;
+    int line;  ///< thickness of a light line
 
-    /// Thickness of a light line.
-    [[nodiscard]] int line() const { return width < 12 ? 1 : (width + 2) / 8; }
+    bool operator==(const BoxCell&) const = default;
+    [[nodiscard]] friend std::size_t qHash(const BoxCell& cell, std::size_t seed = 0) {
+        return qHashMulti(seed, cell.width, cell.height, cell.line);
+    }
     /// Where a line of that thickness begins so that it lies in the middle. Heavy lines are even when light
     /// ones are, so that all have one middle.
     [[nodiscard]] int middle_x(int thickness) const { return width / 2 - thickness / 2; }
     [[nodiscard]] int middle_y(int thickness) const { return height / 2 - thickness / 2; }
-    [[nodiscard]] int heavy_line() const { return 2 * line() + line() % 2; }
+    [[nodiscard]] int heavy_line() const { return 2 * line + line % 2; }
 };
 
 /// Straight lines of box drawing (U+2500 to U+257F, but for arcs and diagonals), and the scan lines of DEC's

@@ -77,14 +77,25 @@ TEST(TerminalBox, ArmsMeetThoseOfTheNextCellAndNothingElseTouchesAnEdge) {
     }
 }
 
-TEST(TerminalBox, LightHeavyAndDoubleLinesDiffer) {
-    for (const QSize size : cell_sizes) {
-        const auto thickness = [&](char32_t character) {
-            const std::string edge = edge_of(drawn(character, size), left);
-            return std::count(edge.begin(), edge.end(), '#');
-        };
-        EXPECT_EQ(thickness(U'\u2550'), 2 * thickness(U'\u2500'));
-        EXPECT_GT(thickness(U'\u2501'), thickness(U'\u2500'));
+TEST(TerminalBox, CellsNextToEachOtherJoinAtAnyScale) {
+    constexpr QSize cell(9, 19);
+    for (const qreal ratio : {1.0, 1.25, 1.5, 1.75, 2.0}) {
+        QImage image(cell * 3 * ratio, QImage::Format_RGB32);
+        image.setDevicePixelRatio(ratio);
+        image.fill(Qt::black);
+        QPainter painter(&image);
+        BoxGlyphs boxes;
+        for (int i = 0; i < 9; ++i) {
+            const QPoint corner(i % 3 * cell.width(), i / 3 * cell.height());
+            boxes.draw(painter, QRect(corner, cell), U'\u253c', qRgb(255, 255, 255));
+        }
+        painter.end();
+        // Where a line leaves the picture, it has come all the way.
+        const auto at = [&](Edge edge) { return static_cast<int>(edge_of(image, edge).find('#')); };
+        const QImage row = image.copy(0, at(left), image.width(), 1);
+        const QImage column = image.copy(at(top), 0, 1, image.height());
+        EXPECT_EQ(edge_of(row, top).find(' '), std::string::npos) << ratio;
+        EXPECT_EQ(edge_of(column, left).find(' '), std::string::npos) << ratio;
     }
 }
 

@@ -100,20 +100,6 @@ TEST_F(TerminalPainterTest, ColoursAreThoseAskedFor) {
     show_text("\033[?5l");
 }
 
-TEST_F(TerminalPainterTest, BoxLinesJoinAcrossCells) {
-    look_at("\u250c\u2500\u2510\r\n\u2502 \u2502\r\n\u2514\u2500\u2518\r\n\u2588\u2588\r\n\u2551\r\n\u2551");
-    for (int y = area(0, 0).center().y() + 1; y < area(0, 2).center().y(); ++y) {
-        EXPECT_EQ(pixel({area(0, 0).x() + area(0, 0).width() / 2, y}), ink) << y;
-    }
-    for (int x = area(0, 0).center().x() + 1; x < area(2, 0).center().x(); ++x) {
-        EXPECT_EQ(pixel({x, area(0, 0).y() + area(0, 0).height() / 2}), ink) << x;
-    }
-    for (int x = area(0, 3).left(); x <= area(1, 3).right(); ++x) {
-        EXPECT_EQ(pixel({x, area(0, 3).top()}), ink) << x;
-        EXPECT_EQ(pixel({x, area(0, 3).bottom()}), ink) << x;
-    }
-}
-
 TEST_F(TerminalPainterTest, ColumnsDoNotDriftBehindWideAndCombinedCharacters) {
     look_at(
         "abcdefgh\u2588\r\n\u4e2d\u6587\u4e2d\u6587\u2588\r\ne\u0301e\u0301cdefgh\u2588\r\n"
