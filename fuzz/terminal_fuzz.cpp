@@ -95,8 +95,10 @@ void take_step(Terminal& whole, Terminal& pieces, char step, std::uint8_t first,
         case 'i':
             whole.reset();
             return pieces.reset();
-        default:
+        case 'q':
             return ask(whole, place(whole, first, second));
+        default:
+            return;
     }
 }
 
