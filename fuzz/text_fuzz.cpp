@@ -17,6 +17,21 @@ bool holds(std::string_view text, std::string_view any) {
     return text.find_first_of(any) != std::string_view::npos;
 }
 
+void check_comments(const std::string& text) {
+    require(remove_comments1(text).size() == text.size(), "a comment took other room");
+    require(remove_comments1(text).find("/*") == std::string::npos, "a comment is left");
+    require(std::ranges::count(remove_comments2(text), '\n') == std::ranges::count(text, '\n'),
+            "a line is lost");
+    const std::string blank(text.size() + 4, ' ');
+    if (text.find("*/") == std::string::npos) {
+        require(remove_comments1("/*" + text + "*/x") == blank + "x", "a comment ends elsewhere");
+    }
+    if (!holds(text, "\n")) {
+        require(remove_comments2("//" + text + "\n//") == blank.substr(2) + "\n  ",
+                "a line's comment ends elsewhere");
+    }
+}
+
 void check_removal(std::string_view text) {
     require(!holds(remove_spaces(text), " "), "a space is left");
     require(!holds(remove_nontext(text), " \t\n"), "a blank is left");
@@ -24,10 +39,6 @@ void check_removal(std::string_view text) {
     require(text.ends_with(remove_leading_blanks(text)), "not the end of the text");
     require(text.starts_with(remove_trailing_spaces(text)), "not the beginning of the text");
     require(!remove_trailing_slashes(text).ends_with('/'), "a slash is left");
-    require(remove_comments1(text).size() == text.size(), "a comment took other room");
-    require(remove_comments1(text).find("/*") == std::string::npos, "a comment is left");
-    require(std::ranges::count(remove_comments2(text), '\n') == std::ranges::count(text, '\n'),
-            "a line is lost");
     require(convert_tolower(convert_toupper(text)) == convert_tolower(text), "another letter");
 }
 
@@ -72,6 +83,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::string_view first = take_part(rest);
     const std::string_view second = take_part(rest);
     check_removal(first);
+    check_comments(std::string(first));
     check_paths(first, second);
     check_command(first, second, take_part(rest));
     return 0;
