@@ -21,10 +21,12 @@ std::size_t printable_run(std::string_view bytes) {
         std::uint64_t word = 0;
         std::memcpy(&word, at, sizeof word);
         // The high bit of a byte gets set when it is 128 or more, below 2/0, or 7/15. What borrows and
-        // carries spoil lies behind the first hit, and the slow loop below looks again at each of the eight.
+        // carries spoil lies in the more significant bytes: the least significant hit is one.
         const std::uint64_t below = word - each_byte(0x20);
         const std::uint64_t above = word + each_byte(0x01);
-        if (((word | below | above) & each_byte(0x80)) != 0) {
+        const std::uint64_t hits = (word | below | above) & each_byte(0x80);
+        if (hits != 0) {
+            at += std::endian::native == std::endian::little ? std::countr_zero(hits) / 8 : 0;
             break;
         }
     }
@@ -65,7 +67,10 @@ void Parser::read_text(std::string_view& bytes) {
         if (static_cast<std::uint8_t>(bytes.front()) < 0x80) {
             const std::size_t length = printable_run(bytes);
             if (length == 0) {
-                return;
+                if (!read_plain_sequence(bytes)) {
+                    return;
+                }
+                continue;
             }
             handler_.print_ascii(bytes.substr(0, length));
             bytes.remove_prefix(length);
@@ -77,6 +82,39 @@ void Parser::read_text(std::string_view& bytes) {
         }
         handler_.print({characters.data(), count});
     }
+}
+
+inline void Parser::take_parameter(char32_t character) {
+    if (character == ';') {
+        function_.parameters.semicolon();
+    } else if (character == ':') {
+        function_.parameters.colon();
+    } else {
+        function_.parameters.digit(static_cast<int>(character - '0'));
+    }
+}
+
+/// Takes a control sequence at once that is all there and has nothing but numbers before its final byte, as
+/// nearly all have. Else false, and nothing is taken: the state machine knows what to do.
+bool Parser::read_plain_sequence(std::string_view& bytes) {
+    if (!bytes.starts_with("\x1b[")) {
+        return false;
+    }
+    function_.clear();
+    for (std::size_t at = 2; at < bytes.size(); ++at) {
+        const auto byte = static_cast<std::uint8_t>(bytes[at]);
+        if (byte >= 0x30 && byte <= 0x3B) {
+            take_parameter(byte);
+        } else if (byte >= 0x40 && byte <= 0x7E) {
+            bytes.remove_prefix(at + 1);
+            string_kind_ = StringKind::none;
+            dispatch_csi(static_cast<char>(byte));
+            return true;
+        } else {
+            return false;
+        }
+    }
+    return false;
 }
 
 /// Takes the ASCII text of a string at once.
@@ -200,16 +238,6 @@ void Parser::collect(char character) {
     }
     if (function_.intermediate_count <= max_intermediates) {
         ++function_.intermediate_count;
-    }
-}
-
-void Parser::take_parameter(char32_t character) {
-    if (character == ';') {
-        function_.parameters.semicolon();
-    } else if (character == ':') {
-        function_.parameters.colon();
-    } else {
-        function_.parameters.digit(static_cast<int>(character - '0'));
     }
 }
 

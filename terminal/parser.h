@@ -57,6 +57,7 @@ class Parser {
     enum class StringKind : std::uint8_t { none, osc, dcs };
 
     void read_text(std::string_view& bytes);
+    bool read_plain_sequence(std::string_view& bytes);
     void read_string(std::string_view& bytes);
     void step(std::uint8_t byte);
     void accept(char32_t character);
