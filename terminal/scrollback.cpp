@@ -5,6 +5,7 @@
 #include "terminal/width.h"
 
 #include <algorithm>
+#include <bit>
 #include <cassert>
 
 namespace terminal {
@@ -33,6 +34,14 @@ std::uint32_t decode(char32_t value) {
 }
 
 bool is_blank(const Cell& cell) { return cell == Cell{}; }
+
+std::uint64_t bits(const Cell& cell) { return std::bit_cast<std::uint64_t>(cell); }
+
+/// What a run says of a cell, as bits to compare.
+std::uint64_t attributes(const Cell& cell) {
+    constexpr Cell all{Cell::guarded, 0xFFFF, 0xFFFF};
+    return bits(cell) & std::bit_cast<std::uint64_t>(all);
+}
 
 }  // namespace
 
@@ -116,16 +125,20 @@ void Scrollback::append(Piece& piece, std::span<const Cell> cells) {
     if (cells.empty()) {
         return;
     }
-    append_runs(piece, cells);
-    append_text(piece, cells);
+    std::uint64_t any_bits = 0;
+    for (const Cell& cell : cells) {
+        any_bits |= bits(cell);
+    }
+    const Cell any = std::bit_cast<Cell>(any_bits);
+    if (piece.run_count > 0 || attributes(any) != 0) {
+        append_runs(piece, cells);
+    }
+    append_text(piece, cells, any.glyph);
     piece.cells = static_cast<std::uint16_t>(piece.cells + cells.size());
 }
 
-void Scrollback::append_text(Piece& piece, std::span<const Cell> cells) {
-    std::uint32_t glyphs = 0;
-    for (const Cell& cell : cells) {
-        glyphs |= cell.glyph;
-    }
+/// `glyphs` has the bits of all the cells' glyphs.
+void Scrollback::append_text(Piece& piece, std::span<const Cell> cells, std::uint32_t glyphs) {
     const bool ascii = (glyphs & ~Cell::guarded) < 0x80;
     piece.text = text_.extend(piece.text, cells.size() * (ascii ? 1 : max_utf8_bytes));
     char* const begin = text_.at(piece.text) + piece.bytes;
@@ -136,7 +149,8 @@ void Scrollback::append_text(Piece& piece, std::span<const Cell> cells) {
         }
     } else {
         for (const Cell& cell : cells) {
-            to = cell.is_wide_tail() ? to : write_utf8(encode(cell), to);
+            char* const end = write_utf8(encode(cell), to);
+            to = cell.is_wide_tail() ? to : end;
         }
         piece.wide = piece.wide || (glyphs & Cell::wide) != 0;
     }
@@ -144,48 +158,29 @@ void Scrollback::append_text(Piece& piece, std::span<const Cell> cells) {
     text_.truncate(piece.text + piece.bytes);
 }
 
+/// Every cell is the end of its run so far, so that there is no branch where a run begins: that would be
+/// foretold wrongly at each change of colour.
 void Scrollback::append_runs(Piece& piece, std::span<const Cell> cells) {
-    const auto attributes = [](const Cell& cell) {
-        return static_cast<std::uint64_t>(cell.glyph & Cell::guarded) << 32 |
-               static_cast<std::uint64_t>(cell.style) << 16 | cell.link;
-    };
-    int before = piece.cells;
-    for (std::size_t i = 0; i < cells.size();) {
-        const Cell& first = cells[i];
-        const std::uint64_t wanted = attributes(first);
-        std::size_t end = i + 1;
-        while (end < cells.size() && attributes(cells[end]) == wanted) {
-            ++end;
-        }
-        const bool guarded = (first.glyph & Cell::guarded) != 0;
-        const auto length = static_cast<std::uint16_t>(end - i);
-        append_run(piece, before, {length, guarded, first.style, first.link});
-        before += length;
-        i = end;
+    piece.runs = runs_.extend(piece.runs, cells.size() + 1);
+    Run* const runs = runs_.at(piece.runs);
+    std::size_t count = piece.run_count;
+    if (count == 0 && piece.cells > 0) {
+        runs[count++] = {piece.cells, false, 0, 0};
     }
-}
-
-/// `before` cells of the piece come before the run.
-void Scrollback::append_run(Piece& piece, int before, Run run) {
-    if (piece.run_count == 0) {
-        if (run.style == 0 && run.link == 0 && !run.guarded) {
-            return;
-        }
-        if (before > 0) {
-            piece.runs = runs_.extend(piece.runs, 1);
-            *runs_.at(piece.runs) = {static_cast<std::uint16_t>(before), false, 0, 0};
-            piece.run_count = 1;
-        }
-    } else {
-        Run& last_run = *runs_.at(piece.runs + piece.run_count - 1);
-        if (last_run.style == run.style && last_run.link == run.link && last_run.guarded == run.guarded) {
-            last_run.length = static_cast<std::uint16_t>(last_run.length + run.length);
-            return;
-        }
+    std::uint64_t before = ~attributes(cells.front());
+    if (count > 0) {
+        const Run& last_run = runs[count - 1];
+        before = attributes({last_run.guarded ? Cell::guarded : 0, last_run.style, last_run.link});
     }
-    piece.runs = runs_.extend(piece.runs, 1);
-    *runs_.at(piece.runs + piece.run_count) = run;
-    ++piece.run_count;
+    std::uint16_t end = piece.cells;
+    for (const Cell& cell : cells) {
+        const std::uint64_t now = attributes(cell);
+        count += now != before ? 1 : 0;
+        before = now;
+        runs[count - 1] = {++end, (cell.glyph & Cell::guarded) != 0, cell.style, cell.link};
+    }
+    piece.run_count = static_cast<std::uint16_t>(count);
+    runs_.truncate(piece.runs + count);
 }
 
 std::optional<std::vector<Cell>> Scrollback::pop() {
@@ -240,18 +235,16 @@ void Scrollback::unpack(const Piece& piece, Spot begin, Spot end, std::vector<Ce
 
 /// Puts the attributes on the cells unpacked from `begin` on.
 void Scrollback::paint(const Piece& piece, int begin, std::vector<Cell>& cells) const {
-    int run_begin = -begin;
+    int from = 0;
     for (const Run& run : runs(piece)) {
-        const int run_end = run_begin + run.length;
-        const int end = std::min(run_end, static_cast<int>(cells.size()));
+        const int end = std::min(run.end - begin, static_cast<int>(cells.size()));
         const std::uint32_t guarded = run.guarded ? Cell::guarded : 0;
-        for (int i = std::max(run_begin, 0); i < end; ++i) {
-            Cell& cell = cells[static_cast<std::size_t>(i)];
+        for (; from < end; ++from) {
+            Cell& cell = cells[static_cast<std::size_t>(from)];
             cell.glyph |= guarded;
             cell.style = run.style;
             cell.link = run.link;
         }
-        run_begin = run_end;
     }
 }
 

@@ -73,7 +73,7 @@ class Scrollback {
   private:
     /// Attributes of consecutive cells. A piece without runs is plain.
     struct Run {
-        std::uint16_t length;
+        std::uint16_t end;  // the piece's cells up to here
         bool guarded;
         StyleId style;
         LinkId link;
@@ -103,9 +103,8 @@ class Scrollback {
     [[nodiscard]] bool empty() const { return first_ == pieces_.end(); }
     [[nodiscard]] bool joins_last(std::span<const Cell> cells) const;
     void append(Piece& piece, std::span<const Cell> cells);
-    void append_text(Piece& piece, std::span<const Cell> cells);
+    void append_text(Piece& piece, std::span<const Cell> cells, std::uint32_t glyphs);
     void append_runs(Piece& piece, std::span<const Cell> cells);
-    void append_run(Piece& piece, int before, Run run);
 
     [[nodiscard]] Ordinal find_piece(RowId id) const;
     [[nodiscard]] const char* text(const Piece& piece) const;
