@@ -314,6 +314,7 @@ class Engine final : public ParserHandler {
     Parser parser_;
     Parser local_parser_;
     std::vector<Cell> row_buffer_;
+    std::array<Cell, 257> run_;  // characters on their way into a row
 };
 
 }  // namespace terminal

@@ -6,7 +6,6 @@
 #include <algorithm>
 #include <array>
 #include <cassert>
-#include <cstring>
 
 // Characters: placing them, wrapping, and the attributes they get.
 
@@ -24,14 +23,10 @@ std::size_t count_characters(std::string_view text) {
 }  // namespace
 
 std::size_t StyleHash::operator()(const Style& style) const {
-    static_assert(sizeof(Style) == 14);
-    std::uint64_t head = 0;
-    std::uint64_t tail = 0;  // the two overlap
-    std::memcpy(&head, &style, sizeof head);
-    std::memcpy(&tail, reinterpret_cast<const char*>(&style) + sizeof(Style) - sizeof tail, sizeof tail);
+    const Style::Key key = style.key();
     constexpr std::uint64_t odd = 0x9E3779B97F4A7C15;  // spreads what differs in few bits
-    const std::uint64_t hash = (head * odd ^ tail) * odd;
-    return static_cast<std::size_t>(hash >> 32);
+    const std::uint64_t mixed = key.colours ^ key.rest * odd;
+    return static_cast<std::size_t>((mixed ^ mixed >> 32) * odd >> 32);
 }
 
 std::size_t LinkHash::operator()(const Link& link) const {
@@ -70,6 +65,9 @@ void Engine::refresh_pen() {
 
 /// The number of a style; the plain one when there are too many styles.
 StyleId Engine::intern_style(const Style& style) {
+    if (style == Style{}) {
+        return 0;
+    }
     auto id = styles_.intern(style);
     if (!id && styles_.wants_collection()) {
         collect_unused();
@@ -146,31 +144,30 @@ void Engine::print(std::span<const char32_t> text) {
 /// Places characters from the front of `text` as long as they take cells of their own and the row has room;
 /// returns how many.
 std::size_t Engine::print_run(std::span<const char32_t> text) {
-    if (inner_.insert || cursor_.wrap_pending || text.front() < first_extended) {
+    if (inner_.insert || cursor_.wrap_pending) {
         return 0;
     }
     const int limit = right_limit();
-    const auto room = static_cast<std::size_t>(limit - cursor_.column);
-    const Cell& attributes = pen();
-    std::array<Cell, 256> cells;
+    const std::size_t room = std::min(static_cast<std::size_t>(limit - cursor_.column), run_.size() - 1);
+    const char32_t first_taken = sets_.plain() ? 0 : first_extended;
+    const Cell attributes = pen();
+    const Cell tail{attributes.glyph | Cell::wide_tail, attributes.style, attributes.link};
     std::size_t length = 0;
     std::size_t count = 0;
     for (; count < text.size(); ++count) {
         const char32_t character = text[count];
         const auto width = static_cast<std::size_t>(character_width(character));
-        if (width == 0 || length + width > std::min(room, cells.size())) {
+        if (width == 0 || length + width > room || character < first_taken) {
             break;
         }
-        cells[length] = {attributes.glyph | character, attributes.style, attributes.link};
-        if (width == 2) {
-            cells[length].glyph |= Cell::wide;
-            cells[length + 1] = {attributes.glyph | Cell::wide_tail, attributes.style, attributes.link};
-        }
+        const std::uint32_t wide = width == 2 ? Cell::wide : 0U;
+        run_[length] = {attributes.glyph | character | wide, attributes.style, attributes.link};
+        run_[length + 1] = tail;  // written over where the character is not wide
         length += width;
     }
     if (count > 0) {
         last_character_ = text[count - 1];
-        screen_->write(cursor_.row, cursor_.column, std::span(cells).first(length));
+        screen_->write(cursor_.row, cursor_.column, std::span(run_).first(length));
         advance_cursor(static_cast<int>(length), limit);
     }
     return count;

@@ -18,7 +18,7 @@ class InternTable {
   public:
     using Id = std::uint32_t;
 
-    InternTable(std::size_t capacity, Value first) : capacity_(capacity), slots_(64, empty_slot) {
+    InternTable(std::size_t capacity, Value first) : capacity_(capacity), slots_(first_slots, empty_slot) {
         add(std::move(first));
     }
 
@@ -67,6 +67,7 @@ class InternTable {
     }
 
   private:
+    static constexpr std::size_t first_slots = 256;
     static constexpr Id empty_slot = std::numeric_limits<Id>::max();
 
     [[nodiscard]] std::size_t first_slot(const Value& value) const {

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <bit>
 #include <cstdint>
+#include <cstring>
 
 namespace terminal {
 
@@ -44,7 +46,23 @@ struct Style {
     bool invisible : 1 = false;
     bool struck : 1 = false;
     bool overlined : 1 = false;
-    bool operator==(const Style&) const = default;
+    bool operator==(const Style& other) const { return key() == other.key(); }
+
+    /// All of it as two numbers, read in the portions in which it is written: a processor is slow to read at
+    /// once what has just been written in parts.
+    struct Key {
+        std::uint64_t colours;
+        std::uint64_t rest;
+        bool operator==(const Key&) const = default;
+    };
+    [[nodiscard]] Key key() const {
+        const auto bits = [](Colour colour) { return std::uint64_t{std::bit_cast<std::uint32_t>(colour)}; };
+        std::uint8_t flags = 0;
+        std::memcpy(&flags, reinterpret_cast<const char*>(this) + sizeof(Style) - 1, 1);
+        return {bits(foreground) << 32 | bits(background),
+                bits(underline_colour) << 32 | static_cast<std::uint64_t>(underline) << 8 | flags};
+    }
 };
+static_assert(sizeof(Style) == 3 * sizeof(Colour) + 2, "the flags are the last byte");
 
 }  // namespace terminal

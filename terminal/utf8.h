@@ -36,33 +36,32 @@ class Utf8Decoder {
     std::uint8_t high_ = 0xBF;
 };
 
-/// Decodes well-formed sequences of two to four bytes from the front of `bytes` into `out`, up to the first
-/// byte that is ASCII, a C1 control, ill-formed or cut off. Removes what it decoded; returns the number of
-/// characters.
+/// Decodes well-formed sequences of two to four bytes, and single ASCII characters between them, from the
+/// front of `bytes` into `out`: up to the first byte that is of a longer run of ASCII, a control, ill-formed
+/// or among the last three. Removes what it decoded; returns the number of characters.
 std::size_t decode_run(std::string_view& bytes, std::span<char32_t> out);
 
-/// Writes a value below 2^21 in UTF-8's pattern, at most four bytes; returns behind them. Values above
-/// U+10FFFF are for our own use in the scrollback.
-inline char* write_utf8(char32_t value, char* to) {
-    const auto put = [&to](char32_t byte) { *to++ = static_cast<char>(byte); };
-    if (value < 0x80) {
-        put(value);
-    } else if (value < 0x800) {
-        put(0xC0 | value >> 6);
-        put(0x80 | (value & 0x3F));
-    } else if (value < 0x10000) {
-        put(0xE0 | value >> 12);
-        put(0x80 | (value >> 6 & 0x3F));
-        put(0x80 | (value & 0x3F));
-    } else {
-        put(0xF0 | value >> 18);
-        put(0x80 | (value >> 12 & 0x3F));
-        put(0x80 | (value >> 6 & 0x3F));
-        put(0x80 | (value & 0x3F));
-    }
-    return to;
-}
 inline constexpr std::size_t max_utf8_bytes = 4;
+
+/// Writes a value below 2^21 in UTF-8's pattern, at most four bytes, into a place that has room for four;
+/// returns behind them. Values above U+10FFFF are for our own use in the scrollback. Up to three bytes it
+/// chooses, but does not branch: in mixed text a processor can't foretell which it is.
+inline char* write_utf8(char32_t value, char* to) {
+    const auto following = [value](int shift) { return 0x80 | (value >> shift & 0x3F); };
+    if (value < 0x10000) {
+        constexpr std::array<char32_t, 3> marks{0x00, 0xC0, 0xE0};
+        const std::size_t more = (value >= 0x80 ? 1U : 0U) + (value >= 0x800 ? 1U : 0U);
+        to[0] = static_cast<char>(marks[more] | value >> 6 * more);
+        to[1] = static_cast<char>(following(more == 2 ? 6 : 0));
+        to[2] = static_cast<char>(following(0));
+        return to + 1 + more;
+    }
+    to[0] = static_cast<char>(0xF0 | value >> 18);
+    to[1] = static_cast<char>(following(12));
+    to[2] = static_cast<char>(following(6));
+    to[3] = static_cast<char>(following(0));
+    return to + 4;
+}
 
 inline void append_utf8(char32_t value, std::string& out) {
     std::array<char, max_utf8_bytes> bytes;

@@ -5,18 +5,8 @@
 
 namespace terminal {
 
-int character_width(char32_t character) {
-    // The most frequent ones without a look into the tables: Latin, Greek, Cyrillic, lines and blocks, Han.
-    const auto within = [character](char32_t first, char32_t last) {
-        return character >= first && character <= last;
-    };
-    if (character < 0x300 || within(0x370, 0x482) || within(0x2500, 0x259F)) {
-        return 1;
-    }
-    if (within(0x4E00, 0x9FFF)) {
-        return 2;
-    }
-    if (within(0x1160, 0x11FF)) {  // vowels and finals of a Hangul syllable
+int look_up_character_width(char32_t character) {
+    if (character >= 0x1160 && character <= 0x11FF) {  // vowels and finals of a Hangul syllable
         return 0;
     }
     const auto code = static_cast<utf8proc_int32_t>(character);
