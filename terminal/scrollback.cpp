@@ -57,6 +57,7 @@ Scrollback::Scrollback(std::size_t row_limit, int columns)
     : row_limit_(std::min(row_limit, max_scrollback_rows)), columns_(columns) {}
 
 void Scrollback::close() {
+    ended_lines_ += open_ && !empty() ? 1 : 0;
     open_ = false;
     if (!empty()) {
         last().continued = false;
@@ -71,6 +72,7 @@ void Scrollback::clear() {
     laid_out_.reset();
     begin_row_ = end_row_;
     open_ = false;
+    ended_lines_ = 0;
 }
 
 /// Whether a row can be laid out as the next row of the last piece.
@@ -96,6 +98,7 @@ void Scrollback::push(std::span<const Cell> cells, bool wrapped, std::uint64_t s
     Piece& piece = last();
     append(piece, cells);
     piece.continued = open_ = wrapped;
+    ended_lines_ += wrapped ? 0 : 1;
     piece.stamp = std::max(piece.stamp, stamp);
     tail_cells_ = static_cast<int>(cells.size());
     ++end_row_;
@@ -109,6 +112,7 @@ void Scrollback::trim() {
         if (piece_end > begin_row_) {
             continue;
         }
+        ended_lines_ -= pieces_.at(first_)->continued ? 0 : 1;
         ++first_;
         if (is_last) {
             text_.drop_before(text_.end());
@@ -195,6 +199,7 @@ std::optional<std::vector<Cell>> Scrollback::pop() {
     runs_.truncate(piece.runs);
     end_row_ = piece.first_row;
     begin_row_ = std::min(begin_row_, end_row_);
+    ended_lines_ -= piece.continued ? 0 : 1;
     pieces_.truncate(pieces_.end() - 1);
     open_ = !empty() && last().continued;
     tail_cells_ = empty() ? 0 : last_row_cells(last());

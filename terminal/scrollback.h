@@ -101,6 +101,7 @@ class Scrollback {
 
     [[nodiscard]] Piece& last() { return *pieces_.at(pieces_.end() - 1); }
     [[nodiscard]] bool empty() const { return first_ == pieces_.end(); }
+    [[nodiscard]] std::int64_t open_cells() const;
     [[nodiscard]] bool joins_last(std::span<const Cell> cells) const;
     void append(Piece& piece, std::span<const Cell> cells);
     void append_text(Piece& piece, std::span<const Cell> cells, std::uint32_t glyphs);
@@ -122,8 +123,9 @@ class Scrollback {
     RowId begin_row_ = 0;
     RowId end_row_ = 0;
     bool open_ = false;
-    int tail_cells_ = 0;  // cells of the last row
-    Ordinal first_ = 0;   // the oldest piece
+    int tail_cells_ = 0;            // cells of the last row
+    std::int64_t ended_lines_ = 0;  // lines that do not go on below the last row
+    Ordinal first_ = 0;             // the oldest piece
 
     RecordStore<char, 65'536> text_;
     RecordStore<Run, 16'384> runs_;

@@ -146,18 +146,25 @@ Mark Scrollback::mark(Position position) const {
     return mark;
 }
 
-Mark Scrollback::from_beginning(Mark mark) const {
-    std::int64_t lines = 0;
-    std::int64_t line_cells = 0;
-    for (Ordinal ordinal = first_; ordinal < pieces_.end(); ++ordinal) {
-        const Piece& piece = *pieces_.at(ordinal);
-        lines += piece.continued ? 0 : 1;
-        line_cells = piece.continued ? line_cells + piece.cells : 0;
+/// The cells of the line that goes on below the last row.
+std::int64_t Scrollback::open_cells() const {
+    std::int64_t cells = 0;
+    for (Ordinal end = pieces_.end(); end > first_ && pieces_.at(end - 1)->continued; --end) {
+        cells += pieces_.at(end - 1)->cells;
     }
-    return {mark.line + lines, mark.offset + (mark.line == 0 ? line_cells : 0)};
+    return cells;
+}
+
+Mark Scrollback::from_beginning(Mark mark) const {
+    return {mark.line + ended_lines_, mark.offset + (mark.line == 0 ? open_cells() : 0)};
 }
 
 std::optional<Position> Scrollback::find(Mark& mark) const {
+    if (mark.line > ended_lines_ || (mark.line == ended_lines_ && mark.offset >= open_cells())) {
+        mark.line -= ended_lines_;
+        mark.offset -= mark.line == 0 ? open_cells() : 0;
+        return std::nullopt;
+    }
     for (Ordinal ordinal = first_; ordinal < pieces_.end(); ++ordinal) {
         const Piece& piece = *pieces_.at(ordinal);
         const bool here = mark.line == 0 && (!piece.continued || mark.offset < piece.cells);

@@ -34,6 +34,9 @@ const Case cases[] = {
     {"DcsHoldsBell", "\033P$q\am\033\\x", "x|||", {}, "\033P1$r0m\033\\"},
     {"IgnoredStrings", "\033_a\a\033\\\033^b\033\\\033Xc\033\\d", "d|||", {}},
     {"C1AsUtf8", "\302\2332Cx\302\205y\302\2350;t\a", "  x|y||", {"t"}},
+    {"BlanksBetweenOtherCharacters", "é 漢 ж.漢\302\205λ x", "é 漢 ж.漢|λ x||", {}},
+    {"OtherSetBetweenUtf8Characters", "\033(0éqéq", "é─é─|||", {}},
+    {"SequencesOfNumbersCutByOthers", "\033[1;\0332\033[2;3Hx\033[38:5:1;4 my\033[", "|  xy||", {}},
     {"RawC1BytesAreIllFormed", "\2331m", "\uFFFD1m|||", {}},
     // Unicode 15, table 3-8 and its neighbours: one replacement for each maximal subpart.
     {"Overlong",
