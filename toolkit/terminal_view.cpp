@@ -20,6 +20,7 @@ using terminal::RowId;
 namespace {
 
 constexpr int frame_milliseconds = 16;
+constexpr int longest_frame_milliseconds = 100;  // where painting is slow
 constexpr terminal::Size smallest{2, 1};
 
 }  // namespace
@@ -141,9 +142,11 @@ void TerminalView::content_changed() {
     if (frame_timer_.isActive()) {
         return;
     }
-    const qint64 passed = since_frame_.isValid() ? since_frame_.elapsed() : frame_milliseconds;
-    frame_timer_.start(
-        static_cast<int>(std::clamp<qint64>(frame_milliseconds - passed, 0, frame_milliseconds)));
+    // At least half of the time is for reading what comes.
+    const qint64 interval =
+        std::clamp<qint64>(2 * paint_milliseconds_, frame_milliseconds, longest_frame_milliseconds);
+    const qint64 passed = since_frame_.isValid() ? since_frame_.elapsed() : interval;
+    frame_timer_.start(static_cast<int>(std::max<qint64>(interval - passed, 0)));
 }
 
 void TerminalView::frame() {
@@ -151,7 +154,6 @@ void TerminalView::frame() {
         frame_timer_.start(frame_milliseconds);
         return;
     }
-    since_frame_.start();
     refresh();
     reader_->tell_changes(*this);
 }
@@ -280,6 +282,7 @@ void TerminalView::paintEvent(QPaintEvent* event) {
     if (pictures_.empty()) {
         refresh();
     }
+    since_frame_.start();
     QPainter painter(this);
     TerminalPainter rows(painter, terminal(), *font_, look_);
     const terminal::Rgb standard = look_.reverse_video ? terminal().foreground() : terminal().background();
@@ -307,4 +310,5 @@ void TerminalView::paintEvent(QPaintEvent* event) {
         }
     }
     await_blink(rows.has_blinking_text());
+    paint_milliseconds_ = since_frame_.elapsed();
 }

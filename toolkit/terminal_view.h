@@ -188,7 +188,8 @@ class TerminalView final : public QWidget {
     ScreenLook look_;
     std::vector<terminal::Rgb> colours_;  ///< painted with
     QTimer frame_timer_;
-    QElapsedTimer since_frame_;
+    QElapsedTimer since_frame_;  ///< only such as painted something: a key typed must not put its echo off
+    qint64 paint_milliseconds_ = 0;  ///< what the last frame took
 
     bool laid_out_ = false;  ///< has a size of its own; till then the terminal keeps the standard one
     bool follows_output_ = true;
