@@ -2,6 +2,7 @@
 #include "toolkit/terminal_pane.h"
 
 #include "terminal/text.h"
+#include "toolkit/resources.h"
 #include "toolkit/terminal_accessible.h"
 #include "toolkit/terminal_colours.h"
 #include "toolkit/terminal_find_bar.h"
@@ -16,6 +17,8 @@
 #include <QGuiApplication>
 #include <QMenu>
 #include <QScrollBar>
+
+#include <algorithm>
 
 /// The widgets of a pane and its session: the view with a scroll bar, and the find bar under them.
 class PaneWidget final : public QWidget {
@@ -45,6 +48,13 @@ void call(const std::function<void()>& callback) {
     }
 }
 
+/// The number of rows kept above the screen: as the user's X resources say, 10,000 unless they do.
+std::size_t scrollback_rows() {
+    const int rows = defaults_get_integer("orvik.scrollback", "Orvik.Scrollback",
+                                          static_cast<int>(terminal::Options{}.scrollback_rows));
+    return static_cast<std::size_t>(std::max(rows, 0));
+}
+
 /// The scroll bar stands in the terminal's dark frame.
 QPalette scroll_bar_palette() {
     const terminal::Rgb background = terminal_colours::background;
@@ -58,6 +68,7 @@ QPalette scroll_bar_palette() {
 
 PaneWidget::PaneWidget(QWidget* parent)
     : QWidget(parent),
+      session_(scrollback_rows()),
       scroll_bar_(new QScrollBar(Qt::Vertical, this)),
       view_(new TerminalView(session_, *scroll_bar_, this)),
       find_bar_(new TerminalFindBar(*view_, this)) {

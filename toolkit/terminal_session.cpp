@@ -52,7 +52,8 @@ std::string end_text(int status) {
 
 }  // namespace
 
-TerminalSession::TerminalSession() : terminal_(terminal::Options{}, *this) {
+TerminalSession::TerminalSession(std::size_t scrollback_rows)
+    : terminal_({.size = {}, .scrollback_rows = scrollback_rows}, *this) {
     terminal_.set_standard_colours(terminal_colours::foreground, terminal_colours::background,
                                    terminal_colours::cursor, terminal_colours::palette);
     hung_up_.setInterval(hung_up_interval_milliseconds);

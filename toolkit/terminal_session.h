@@ -28,7 +28,7 @@ class TerminalSession final : private terminal::Client {
         std::function<void()> restarted;  ///< the user has started it anew
     };
 
-    TerminalSession();
+    explicit TerminalSession(std::size_t scrollback_rows);
     ~TerminalSession() override;
     TerminalSession(const TerminalSession&) = delete;
     TerminalSession& operator=(const TerminalSession&) = delete;

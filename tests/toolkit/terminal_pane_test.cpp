@@ -2,6 +2,7 @@
 #include "toolkit/terminal_pane.h"
 
 #include "tests/toolkit/terminal_fixture.h"
+#include "toolkit/resource_database.h"
 
 #include <QAction>
 #include <QLineEdit>
@@ -178,6 +179,28 @@ TEST_F(TerminalPaneTest, PaneNotYetShownHasTheStandardSize) {
     unseen.set_font(xv_find("fixed"));
     EXPECT_EQ(unseen.columns(), 80);
     EXPECT_EQ(unseen.rows(), 24);
+}
+
+TEST_F(TerminalPaneTest, ScrollbackIsAsLongAsTheResourceSays) {
+    constexpr int lines = 10'100;
+    constexpr int screen = 24;
+    const std::pair<const char*, terminal::RowId> cases[] = {
+        {"", 10'000},
+        {"Orvik.scrollback: 7", 7},
+        {"orvik.scrollback: 1000000", lines - screen},
+        {"Orvik.scrollback: 0", 0},
+        {"Orvik.scrollback: -1", 0},
+        {"Orvik.scrollback: many", 10'000},
+    };
+    for (const auto& [resource, rows] : cases) {
+        load_resource_database(resource, {});
+        QWidget hidden;
+        TerminalPane other(&hidden, "other");
+        ttysw_output(other, std::string(lines - 1, '\n'));
+        const auto* shown = dynamic_cast<TerminalView*>(other.widget()->focusProxy());
+        EXPECT_EQ(shown->terminal().screen_top() - shown->terminal().first_row(), rows) << resource;
+    }
+    load_resource_database("", {});
 }
 
 TEST_F(TerminalPaneTest, ProgramIsToldTheNewSize) {
