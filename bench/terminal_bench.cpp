@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "terminal/engine.h"
 #include "terminal/terminal.h"
 #include "terminal/text.h"
 
@@ -95,15 +96,35 @@ void utf8(benchmark::State& state) { write_text(state, utf8_text(), small); }
 void scrolling_small(benchmark::State& state) { write_text(state, line_feeds(), small); }
 void scrolling_large(benchmark::State& state) { write_text(state, line_feeds(), large); }
 
-/// Between two widths and back, with 10,000 rows of scrollback.
-void reflow(benchmark::State& state, const std::string& text) {
+/// What 10,000 and more lines of 90 columns of plain text take.
+void scrollback_memory(benchmark::State& state) {
+    const auto lines = static_cast<std::size_t>(state.range());
+    const std::string line = std::string(90, 'x') + "\r\n";
     Silent client;
-    terminal::Terminal terminal({small, 10'000}, client);
-    terminal.write(text);
+    std::size_t bytes = 0;
+    for (auto _ : state) {
+        terminal::Engine engine({{100, 24}, lines}, client);
+        for (std::size_t i = 0; i < lines + lines / 2; ++i) {
+            engine.write(line);
+        }
+        bytes = engine.scrollback_memory();
+    }
+    state.counters["MB"] = static_cast<double>(bytes) / 1e6;
+}
+
+/// Between two widths and back with a full scrollback, the view standing in its middle.
+void reflow(benchmark::State& state, const std::string& text) {
+    const auto rows = static_cast<std::size_t>(state.range());
+    Silent client;
+    terminal::Terminal terminal({small, rows}, client);
+    while (terminal.screen_top() < state.range()) {
+        terminal.write(text);
+    }
+    std::array anchors{terminal::Position{terminal.end_row() - state.range() / 2, 0}};
     bool narrow = false;
     for (auto _ : state) {
         narrow = !narrow;
-        terminal.resize({narrow ? 60 : 80, 24});
+        terminal.resize({narrow ? 60 : 80, 24}, anchors);
     }
     state.counters["rows"] = static_cast<double>(terminal.end_row() - terminal.first_row());
 }
@@ -135,7 +156,8 @@ BENCHMARK(coloured);
 BENCHMARK(utf8);
 BENCHMARK(scrolling_small);
 BENCHMARK(scrolling_large);
-BENCHMARK(reflow_plain)->Unit(benchmark::kMicrosecond);
-BENCHMARK(reflow_utf8)->Unit(benchmark::kMicrosecond);
+BENCHMARK(scrollback_memory)->Arg(10'000)->Arg(1'000'000)->Unit(benchmark::kMillisecond);
+BENCHMARK(reflow_plain)->Arg(10'000)->Arg(1'000'000)->Unit(benchmark::kMicrosecond);
+BENCHMARK(reflow_utf8)->Arg(10'000)->Arg(1'000'000)->Unit(benchmark::kMicrosecond);
 BENCHMARK(search_ignoring_case)->Unit(benchmark::kMicrosecond);
 BENCHMARK(search_exactly)->Unit(benchmark::kMicrosecond);
