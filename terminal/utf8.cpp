@@ -95,10 +95,10 @@ std::size_t decode_run(std::string_view& bytes, std::span<char32_t> out) {
         const char32_t four = static_cast<char32_t>(lead.bits) << 18 | (second & 0x3FU) << 12 |
                               (third & 0x3FU) << 6 | (fourth & 0x3FU);
         const char32_t character = four >> lead.excess_bits;
-        const bool well_formed = (second >= lead.low) & (second <= lead.high) &
-                                 ((lead.following < 2) | follows(third)) &
-                                 ((lead.following < 3) | follows(fourth));
-        if (!well_formed || is_c1_control(character)) {
+        const int well_formed = int{second >= lead.low} & int{second <= lead.high} &
+                                (int{lead.following < 2} | int{follows(third)}) &
+                                (int{lead.following < 3} | int{follows(fourth)});
+        if (well_formed == 0 || is_c1_control(character)) {
             break;
         }
         out[count++] = character;
