@@ -43,6 +43,9 @@ class Record : public ParserHandler {
         note("system command", {}, data);
         check(data);
     }
+    void vt52_sequence(char final, std::array<char, max_intermediates> /*arguments*/) override {
+        note("vt52", {}, {&final, 1});
+    }
 
   private:
     static void check(std::string_view data) {

@@ -49,8 +49,11 @@ void check_row(const Terminal& terminal, const Row& row) {
 }  // namespace
 
 void CheckedClient::reply(std::string_view bytes) {
-    require(bytes.size() > 1 && bytes.front() == '\x1b', "a reply is no escape sequence");
-    require(std::ranges::all_of(bytes, [](char c) { return c == '\x1b' || (is_graphic(c) && c > 0); }),
+    // As a program asked for them (S7C1T, S8C1T): ESC and a letter, or DCS, CSI, ST and OSC of 8 bits.
+    constexpr std::string_view introducers = "\x1b\x90\x9b\x9c\x9d";
+    const auto introduces = [&](char c) { return introducers.find(c) != std::string_view::npos; };
+    require(bytes.size() > 1 && introduces(bytes.front()), "a reply is no escape sequence");
+    require(std::ranges::all_of(bytes, [&](char c) { return introduces(c) || (is_graphic(c) && c > 0); }),
             "a control character in a reply");
     told.append(bytes) += '\n';
 }

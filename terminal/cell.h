@@ -18,7 +18,9 @@ struct Cell {
     static constexpr std::uint32_t cluster = 1U << 31;
     static constexpr std::uint32_t wide = 1U << 30;
     static constexpr std::uint32_t wide_tail = 1U << 29;
-    static constexpr std::uint32_t guarded = 1U << 28;  ///< protected against selective erase (DECSCA)
+    static constexpr std::uint32_t guarded = 1U << 28;  ///< against selective erase (DECSCA)
+    static constexpr std::uint32_t area_guarded = 1U
+                                                  << 27;  ///< in a guarded area (SPA, EPA); lost on scrolling
 
     std::uint32_t glyph = 0;
     StyleId style = 0;

@@ -24,22 +24,27 @@ constexpr char si = 0x0F;
 
 }  // namespace
 
+/// A sequence by what stands before its final byte, the prefix or the intermediate or both in order.
+struct Engine::Entry {
+    std::string_view lead;
+    char final;
+    Handler handler;
+    int level = 1;  ///< of conformance (DECSCL) from which on it is there
+};
+
 struct Engine::Tables {
-    /// A sequence by what stands before its final byte, the prefix or the intermediate or both in order.
-    struct Entry {
-        std::string_view lead;
-        char final;
-        Handler handler;
-    };
     using Row = std::array<Handler, final_count>;
 
     static constexpr Entry escapes[] = {
-        {"", '6', &Engine::decbi}, {"", '7', &Engine::decsc},   {"", '8', &Engine::decrc},
-        {"", '9', &Engine::decfi}, {"", '=', &Engine::deckpam}, {"", '>', &Engine::deckpnm},
-        {"", 'D', &Engine::ind},   {"", 'E', &Engine::nel},     {"", 'H', &Engine::hts},
-        {"", 'M', &Engine::ri},    {"", 'N', &Engine::ss2},     {"", 'O', &Engine::ss3},
-        {"", 'Z', &Engine::decid}, {"", 'c', &Engine::ris},     {"", 'n', &Engine::ls2},
-        {"", 'o', &Engine::ls3},   {"#", '8', &Engine::decaln},
+        {"", '6', &Engine::decbi},       {"", '7', &Engine::decsc},     {"", '8', &Engine::decrc},
+        {"", '9', &Engine::decfi},       {"", '=', &Engine::deckpam},   {"", '>', &Engine::deckpnm},
+        {"", 'D', &Engine::ind},         {"", 'E', &Engine::nel},       {"", 'H', &Engine::hts},
+        {"", 'M', &Engine::ri},          {"", 'N', &Engine::ss2},       {"", 'O', &Engine::ss3},
+        {"", 'V', &Engine::spa},         {"", 'W', &Engine::epa},       {"", 'Z', &Engine::decid},
+        {"", 'c', &Engine::ris},         {"", 'n', &Engine::ls2},       {"", 'o', &Engine::ls3},
+        {"", '|', &Engine::ls3r},        {"", '}', &Engine::ls2r},      {"", '~', &Engine::ls1r},
+        {"#", '8', &Engine::decaln},     {" ", 'F', &Engine::s7c1t},    {" ", 'G', &Engine::s8c1t, 2},
+        {"%", '@', &Engine::use_latin1}, {"%", 'G', &Engine::use_utf8},
     };
 
     static constexpr Entry sequences[] = {
@@ -62,12 +67,13 @@ struct Engine::Tables {
         {"", 'T', &Engine::sd},
         {"", 'X', &Engine::ech},
         {"", 'Z', &Engine::cbt},
+        {"", '^', &Engine::sd},
         {"", '`', &Engine::cha},  // HPA
-        {"", 'a', &Engine::cuf},  // HPR
+        {"", 'a', &Engine::hpr},
         {"", 'b', &Engine::rep},
         {"", 'c', &Engine::da1},
         {"", 'd', &Engine::vpa},
-        {"", 'e', &Engine::cud},  // VPR
+        {"", 'e', &Engine::vpr},
         {"", 'f', &Engine::cup},  // HVP
         {"", 'g', &Engine::tbc},
         {"", 'h', &Engine::sm},
@@ -81,32 +87,49 @@ struct Engine::Tables {
         {"", 't', &Engine::xtwinops},
         {"", 'u', &Engine::decrc},  // SCORC
         {"", 'x', &Engine::decreqtparm},
-        {"?", 'J', &Engine::decsed},
-        {"?", 'K', &Engine::decsel},
+        {"?", 'J', &Engine::decsed, 2},
+        {"?", 'K', &Engine::decsel, 2},
+        {"?", 'W', &Engine::decst8c},
         {"?", 'h', &Engine::decset},
         {"?", 'l', &Engine::decrst},
+        {"?", 'm', &Engine::xtqmodkeys},
         {"?", 'n', &Engine::decdsr},
         {"?", 'r', &Engine::xtrestore},
         {"?", 's', &Engine::xtsave},
+        {">", 'T', &Engine::xtrmtitle},
         {">", 'c', &Engine::da2},
+        {">", 'm', &Engine::xtmodkeys},
+        {">", 'n', &Engine::xtunmodkeys},
         {">", 'q', &Engine::xtversion},
+        {">", 't', &Engine::xtsmtitle},
         {"=", 'c', &Engine::da3},
         {"!", 'p', &Engine::decstr},
         {" ", '@', &Engine::sl},
         {" ", 'A', &Engine::sr},
         {" ", 'q', &Engine::decscusr},
-        {"\"", 'q', &Engine::decsca},
-        {"$", 'p', &Engine::decrqm},
-        {"?$", 'p', &Engine::decrqm},
-        {"$", 'r', &Engine::deccara},
-        {"$", 't', &Engine::decrara},
-        {"$", 'v', &Engine::deccra},
-        {"$", 'x', &Engine::decfra},
-        {"$", 'z', &Engine::decera},
-        {"$", '{', &Engine::decsera},
-        {"*", 'x', &Engine::decsace},
-        {"'", '}', &Engine::decic},
-        {"'", '~', &Engine::decdc},
+        {"\"", 'p', &Engine::decscl},
+        {"\"", 'q', &Engine::decsca, 2},
+        {"#", 'p', &Engine::xtpushsgr},
+        {"#", 'q', &Engine::xtpopsgr},
+        {"#", 'y', &Engine::xtchecksum},
+        {"#", '{', &Engine::xtpushsgr},
+        {"#", '}', &Engine::xtpopsgr},
+        {"$", 'p', &Engine::decrqm, 3},
+        {"?$", 'p', &Engine::decrqm, 3},
+        {"$", 'r', &Engine::deccara, 4},
+        {"$", 't', &Engine::decrara, 4},
+        {"$", 'v', &Engine::deccra, 4},
+        {"$", 'w', &Engine::decrqpsr, 3},
+        {"$", 'x', &Engine::decfra, 4},
+        {"$", 'z', &Engine::decera, 4},
+        {"$", '{', &Engine::decsera, 4},
+        {"$", '|', &Engine::decscpp},
+        {"&", 'u', &Engine::decrqupss, 3},
+        {"*", 'x', &Engine::decsace, 4},
+        {"*", 'y', &Engine::decrqcra},
+        {"*", '|', &Engine::decsnls, 4},
+        {"'", '}', &Engine::decic, 4},
+        {"'", '~', &Engine::decdc, 4},
     };
 
     /// The plain control sequences once more, by their final byte: nearly all that come are of these.
@@ -120,7 +143,7 @@ struct Engine::Tables {
         return row;
     }();
 
-    static Handler find(std::span<const Entry> entries, Function function) {
+    static Handler find(std::span<const Entry> entries, Function function, int level) {
         std::array<char, 1 + max_intermediates> lead{};
         std::size_t length = 0;
         if (function.prefix != 0) {
@@ -131,7 +154,7 @@ struct Engine::Tables {
         }
         for (const Entry& entry : entries) {
             if (entry.final == function.final && entry.lead == std::string_view(lead.data(), length)) {
-                return entry.handler;
+                return entry.level <= level ? entry.handler : nullptr;
             }
         }
         return nullptr;
@@ -144,7 +167,7 @@ void Engine::control(char c0) {
             client_.bell();
             break;
         case bs:
-            backspace();
+            back(1);
             break;
         case ht:
             tab(1);
@@ -174,9 +197,9 @@ void Engine::control(char c0) {
 
 void Engine::escape_sequence(const ControlFunction& function) {
     const char lead = function.intermediates[0];
-    if (function.intermediate_count == 1 && lead >= '(' && lead <= '+') {
+    if (function.intermediate_count > 0 && lead >= '(' && lead <= '/' && lead != ',') {
         scs(function);
-    } else if (const Handler handler = Tables::find(Tables::escapes, function)) {
+    } else if (const Handler handler = Tables::find(Tables::escapes, function, level_)) {
         (this->*handler)(function);
     }
     assert(is_consistent());
@@ -185,7 +208,7 @@ void Engine::escape_sequence(const ControlFunction& function) {
 void Engine::control_sequence(const ControlFunction& function) {
     const bool is_plain = function.prefix == 0 && function.intermediate_count == 0;
     const Handler handler = is_plain ? Tables::plain[static_cast<std::size_t>(function.final) - 0x30]
-                                     : Tables::find(Tables::sequences, function);
+                                     : Tables::find(Tables::sequences, function, level_);
     if (handler != nullptr) {
         (this->*handler)(function);
     }

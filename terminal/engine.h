@@ -14,6 +14,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <initializer_list>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -49,6 +50,7 @@ class Engine final : public ParserHandler {
     void resize(Size wanted, std::span<Position> anchors);
     void clear_all();
     void reset();
+    void permit(const Permissions& permissions) { permissions_ = permissions; }
 
     [[nodiscard]] Size size() const { return primary_.size(); }
     [[nodiscard]] const Modes& modes() const { return modes_; }
@@ -68,8 +70,10 @@ class Engine final : public ParserHandler {
     [[nodiscard]] std::size_t scrollback_memory() const { return scrollback_.memory(); }
 
   private:
+    static constexpr int top_level = 4;  // a VT420
     using Function = const ControlFunction&;
     using Handler = void (Engine::*)(Function);
+    struct Entry;   // a sequence and its handler
     struct Tables;  // which handler does what: dispatch.cpp
     struct Mode;    // what can be set and reset: engine_modes.cpp
     class Flow;     // the primary screen's text while it is laid out anew: engine_resize.cpp
@@ -85,20 +89,42 @@ class Engine final : public ParserHandler {
         CursorState place;
         Style pen;
         bool guarded = false;
+        bool area_guarded = false;
         bool origin = false;
+        bool autowrap = true;
+        bool saved = false;  // by a program
         CharacterSets sets;
     };
     /// Modes that nobody above needs to know.
     struct InnerModes {
-        bool insert = false;           // IRM
-        bool origin = false;           // DECOM
-        bool autowrap = true;          // DECAWM
-        bool reverse_wrap = false;     // xterm 45
-        bool side_margins = false;     // DECLRMM
+        bool insert = false;            // IRM
+        bool origin = false;            // DECOM
+        bool autowrap = true;           // DECAWM
+        bool reverse_wrap = false;      // xterm 45
+        bool far_reverse_wrap = false;  // xterm 1045
+        bool side_margins = false;      // DECLRMM
+        bool tab_wraps = false;         // xterm 41
+        bool national_sets = false;     // DECNRCM
+        bool allow_columns = false;     // xterm 40
+        bool columns_132 = false;       // DECCOLM
+        bool keep_on_columns = false;   // DECNCSM
+        bool allow_alternate = true;    // xterm 1046
+        // Kept, without effect here: DECSCLM, DECPFF, DECPEX.
+        bool smooth_scroll = false;
+        bool printer_form_feed = false;
+        bool printer_extent = true;
         bool cursor_visible = true;    // DECTCEM
         bool cursor_blinking = false;  // xterm 12, DECSCUSR
     };
     enum class Which : std::uint8_t { begin_to_cursor, cursor_to_end, all };
+    enum class Controls : std::uint8_t { of_7_bits, of_8_bits };
+    enum class Encoding : std::uint8_t { utf8, latin1 };
+    enum class Erasure : std::uint8_t { plain, selective };
+    /// Which names a title operation concerns; a name that it does not is absent.
+    struct Titles {
+        std::optional<std::string> icon;
+        std::optional<std::string> window;
+    };
 
     // ParserHandler
     void print_ascii(std::string_view text) override;
@@ -108,8 +134,10 @@ class Engine final : public ParserHandler {
     void control_sequence(const ControlFunction& function) override;
     void device_control(const ControlFunction& function, std::string_view data) override;
     void operating_system_command(std::string_view data) override;
+    void vt52_sequence(char final, std::array<char, max_intermediates> arguments) override;
 
     // engine_text.cpp: characters
+    void print_latin1(std::span<const char32_t> text);
     void print_plain(std::string_view text);
     std::size_t print_run(std::span<const char32_t> text);
     void advance_cursor(int columns, int limit);
@@ -134,7 +162,8 @@ class Engine final : public ParserHandler {
     void carriage_return();
     void line_feed();
     void reverse_line_feed();
-    void backspace();
+    void back(int count);
+    bool back_to_previous_row();
     void tab(int count);
     void back_tab(int count);
     void save_cursor();
@@ -147,11 +176,14 @@ class Engine final : public ParserHandler {
     void cnl(Function function);
     void cpl(Function function);
     void cha(Function function);
+    void hpr(Function function);
+    void vpr(Function function);
     void cup(Function function);
     void cht(Function function);
     void cbt(Function function);
     void vpa(Function function);
     void tbc(Function function);
+    void decst8c(Function function);
     void hts(Function function);
     void ind(Function function);
     void nel(Function function);
@@ -163,9 +195,10 @@ class Engine final : public ParserHandler {
     void scosc_or_decslrm(Function function);
 
     // engine_edit.cpp: erasing, inserting, deleting, scrolling
-    void erase_row(int row, int from, int to, bool selective);
-    void erase_in_row(Which which, bool selective);
-    void erase_on_screen(Which which, bool selective);
+    [[nodiscard]] static std::optional<Which> which(Function function);
+    void erase_row(int row, int from, int to, Erasure erasure);
+    void erase_in_row(Which which, Erasure erasure);
+    void erase_on_screen(Which which, Erasure erasure);
     void scroll_text_up(int count);
     void scroll_text_down(int count);
     [[nodiscard]] Region below_cursor() const;
@@ -195,9 +228,13 @@ class Engine final : public ParserHandler {
     void deccara(Function function);
     void decrara(Function function);
     void decsace(Function function);
+    void decrqcra(Function function);
+    void xtchecksum(Function function);
+    [[nodiscard]] int checksum(const Region& region) const;
+    [[nodiscard]] int checksum(const Cell& cell) const;
     void change_styles(Function function, void (*change)(const Parameters&, std::size_t, Style&));
 
-    // engine_modes.cpp: modes, resets
+    // engine_modes.cpp: modes
     void sm(Function function);
     void rm(Function function);
     void decset(Function function);
@@ -206,18 +243,6 @@ class Engine final : public ParserHandler {
     void xtrestore(Function function);
     void decrqm(Function function);
     void decstbm(Function function);
-    void decstr(Function function);
-    void ris(Function function);
-    void sgr(Function function);
-    void decsca(Function function);
-    void decscusr(Function function);
-    void deckpam(Function function);
-    void deckpnm(Function function);
-    void scs(Function function);
-    void ls2(Function function);
-    void ls3(Function function);
-    void ss2(Function function);
-    void ss3(Function function);
     void change_modes(Function function, bool on);
     template <auto flag>
     void set_mode(bool on);
@@ -238,9 +263,54 @@ class Engine final : public ParserHandler {
     void set_alternate_cleared(bool on);
     void set_alternate_saved(bool on);
     void set_saved_cursor(bool on);
+    void set_send_receive(bool on);
+    [[nodiscard]] bool has_send_receive() const { return !modes_.local_echo; }
+    void set_ansi(bool on);
+    void set_columns(bool on);
+    void set_allow_alternate(bool on);
+    [[nodiscard]] bool is_ansi() const { return true; }  // who asks speaks it
+    [[nodiscard]] bool has_saved_cursor() const { return saved_[is_alternate() ? 1 : 0].saved; }
     [[nodiscard]] bool is_alternate() const { return modes_.alternate_screen; }
+    [[nodiscard]] int mode_state(std::span<const Mode> modes, int number) const;
+
+    // engine_pen.cpp: attributes, protection, character sets
+    void sgr(Function function);
+    void xtpushsgr(Function function);
+    void xtpopsgr(Function function);
+    void decsca(Function function);
+    void spa(Function function);
+    void epa(Function function);
+    void decscusr(Function function);
+    void deckpam(Function function);
+    void deckpnm(Function function);
+    void xtmodkeys(Function function);
+    void xtunmodkeys(Function function);
+    void xtqmodkeys(Function function);
+    void scs(Function function);
+    void ls2(Function function);
+    void ls3(Function function);
+    void ls1r(Function function);
+    void ls2r(Function function);
+    void ls3r(Function function);
+    void ss2(Function function);
+    void ss3(Function function);
+
+    // engine_reset.cpp: resets, conformance
+    void decstr(Function function);
+    void ris(Function function);
+    void decscl(Function function);
+    void s7c1t(Function function);
+    void s8c1t(Function function);
+    void use_latin1(Function function);
+    void use_utf8(Function function);
     void soft_reset();
     void reset_margins();
+    void choose_controls(Controls controls);
+    void choose_encoding(Encoding encoding);
+    void update_parser();
+
+    // engine_vt52.cpp: the sequences of a VT52
+    void vt52_move(char final);
 
     // engine_report.cpp: replies
     void reply(std::string_view bytes);
@@ -252,16 +322,45 @@ class Engine final : public ParserHandler {
     void decdsr(Function function);
     void decreqtparm(Function function);
     void xtversion(Function function);
-    void xtwinops(Function function);
+    void decrqupss(Function function);
     void report_position(std::string_view introducer, std::string_view end);
+    void report_checksum(int id, int sum);
+
+    // engine_settings.cpp: reports of settings and state
     void decrqss(std::string_view request);
+    [[nodiscard]] std::string setting(std::string_view request) const;
+    void xtgettcap(std::string_view request);
+    void decrqpsr(Function function);
+    void decrsps(Function function, std::string_view data);
+    void deccir();
+    void dectabsr();
+
+    // engine_window.cpp: the window's size, place and titles
+    void xtwinops(Function function);
+    void decscpp(Function function);
+    void decsnls(Function function);
+    void request_size(Size wanted);
+    void request_pixels(Function function);
+    void request_characters(Function function);
+    void request_window(WindowRequest::Kind kind, WindowGeometry::Place place = {});
+    bool change_window(Function function);
+    void report_window(Function function);
+    void report_title(char kind, const std::string& title);
+    void push_titles(int which);
+    void pop_titles(int which);
+    void change_title_modes(Function function, bool on);
+    void xtsmtitle(Function function);
+    void xtrmtitle(Function function);
+    void set_titles(int which, std::string_view text);
+    void change_titles(const Titles& titles);
 
     // engine_osc.cpp: operating system commands
-    void set_title(std::string_view text);
     void set_link(std::string_view data);
-    void osc_palette(std::string_view data);
+    void osc_palette(std::string_view number, int base, std::string_view data);
     void osc_role(int number, std::string_view data);
-    void osc_reset_palette(std::string_view data);
+    void osc_reset_palette(int base, std::string_view data);
+    void osc_selection(std::string_view data);
+    [[nodiscard]] std::optional<Rgb> colour(std::string_view text);
     void reply_colour(std::string_view prefix, Rgb colour);
     void palette_changed();
 
@@ -297,11 +396,25 @@ class Engine final : public ParserHandler {
     InnerModes inner_;
     std::vector<std::pair<int, bool>> saved_modes_;
     CharacterSets sets_;
-    char32_t last_character_ = 0;    // for REP
-    bool whole_rectangles_ = false;  // DECSACE
+    char32_t last_character_ = 0;              // for REP
+    bool whole_rectangles_ = false;            // DECSACE
+    int checksum_flags_ = 0;                   // XTCHECKSUM
+    int level_ = top_level;                    // of conformance (DECSCL)
+    Controls controls_ = Controls::of_7_bits;  // in replies
+    Encoding encoding_ = Encoding::utf8;
+    Permissions permissions_;
+    std::string title_;
+    std::string icon_title_;
+    std::vector<Titles> title_stack_;
+    std::vector<std::pair<std::string, std::optional<Rgb>>> asked_colours_;  // what the client said
+    bool hex_titles_ = false;  // XTSMTITLE: set in hexadecimal digits
+    bool hex_title_reports_ = false;
 
     Style style_;  // the pen's
     bool guarded_ = false;
+    bool area_guarded_ = false;
+    bool guards_areas_ = false;  // what SPA guards withstands ED, EL and ECH
+    std::vector<Style> saved_styles_;
     bool pen_changed_ = false;
     bool blank_changed_ = false;
     Cell pen_;    // no character, the pen's attributes

@@ -64,17 +64,44 @@ void Engine::reverse_line_feed() {
     cursor_.wrap_pending = false;
 }
 
-void Engine::backspace() {
-    const bool at_left = cursor_.column == margins_.left || cursor_.column == 0;
-    if (at_left && inner_.reverse_wrap && inner_.autowrap && cursor_.row > margins_.top &&
-        screen_->wrapped(cursor_.row - 1)) {
-        move_to(cursor_.row - 1, margins_.right - 1);
+/// To the left, and with reverse wrap-around (xterm's modes 45 and 1045) on to the end of the row above. A
+/// pending wrap then counts as a column.
+void Engine::back(int count) {
+    if (!inner_.autowrap || !(inner_.reverse_wrap || inner_.far_reverse_wrap)) {
+        move_horizontally(-count);
         return;
     }
-    move_horizontally(-1);
+    count = std::min(count, size().columns * size().rows) - (cursor_.wrap_pending ? 1 : 0);
+    cursor_.wrap_pending = false;
+    for (bool moved = true; count > 0 && moved; --count) {
+        const bool at_left = cursor_.column == margins_.left || cursor_.column == 0;
+        if (at_left) {
+            moved = back_to_previous_row();
+        } else {
+            --cursor_.column;
+        }
+    }
+}
+
+/// Only to a row that wraps, in mode 45; in 1045 to any, from the top one to the bottom.
+bool Engine::back_to_previous_row() {
+    const bool at_top = cursor_.row == margins_.top || cursor_.row == 0;
+    if (inner_.far_reverse_wrap) {
+        move_to(at_top ? margins_.bottom - 1 : cursor_.row - 1, margins_.right - 1);
+        return true;
+    }
+    const bool marked = margins_.width() == size().columns;  // rows that wrap at side margins are not
+    if (at_top || (marked && !screen_->wrapped(cursor_.row - 1))) {
+        return false;
+    }
+    move_to(cursor_.row - 1, margins_.right - 1);
+    return true;
 }
 
 void Engine::tab(int count) {
+    if (inner_.tab_wraps && cursor_.wrap_pending && inner_.autowrap) {
+        wrap();
+    }
     const int last = right_limit() - 1;
     for (; count > 0 && cursor_.column < last; --count) {
         do {
@@ -101,15 +128,19 @@ void Engine::reset_tabs(int from) {
     }
 }
 
-void Engine::save_cursor() { saved() = {cursor_, style_, guarded_, inner_.origin, sets_}; }
+void Engine::save_cursor() {
+    saved() = {cursor_, style_, guarded_, area_guarded_, inner_.origin, inner_.autowrap, true, sets_};
+}
 
 void Engine::restore_cursor() {
     const SavedCursor& from = saved();
     style_ = from.pen;
     guarded_ = from.guarded;
+    area_guarded_ = from.area_guarded;
     change_pen();
     sets_ = from.sets;
     inner_.origin = from.origin;
+    inner_.autowrap = from.autowrap;
     move_to(from.place.row, from.place.column);
     cursor_.wrap_pending = from.place.wrap_pending && from.place.column == cursor_.column;
 }
@@ -118,16 +149,7 @@ void Engine::cuu(Function function) { move_vertically(-function.parameters.count
 void Engine::cud(Function function) { move_vertically(function.parameters.count(0)); }
 void Engine::cuf(Function function) { move_horizontally(function.parameters.count(0)); }
 
-void Engine::cub(Function function) {
-    int count = function.parameters.count(0);
-    if (inner_.reverse_wrap) {
-        for (count = std::min(count, size().columns * size().rows); count > 0; --count) {
-            backspace();
-        }
-        return;
-    }
-    move_horizontally(-count);
-}
+void Engine::cub(Function function) { back(function.parameters.count(0)); }
 
 void Engine::cnl(Function function) {
     move_vertically(function.parameters.count(0));
@@ -142,6 +164,19 @@ void Engine::cpl(Function function) {
 void Engine::cha(Function function) {
     const int row = inner_.origin ? cursor_.row - margins_.top : cursor_.row;
     move_in_origin(row, function.parameters.count(0) - 1);
+}
+
+/// HPR and VPR are not held by the margins, unless in origin mode.
+void Engine::hpr(Function function) {
+    const int row = inner_.origin ? cursor_.row - margins_.top : cursor_.row;
+    const int column = inner_.origin ? cursor_.column - margins_.left : cursor_.column;
+    move_in_origin(row, column + function.parameters.count(0));
+}
+
+void Engine::vpr(Function function) {
+    const int row = inner_.origin ? cursor_.row - margins_.top : cursor_.row;
+    const int column = inner_.origin ? cursor_.column - margins_.left : cursor_.column;
+    move_in_origin(row + function.parameters.count(0), column);
 }
 
 void Engine::cup(Function function) {
@@ -165,13 +200,20 @@ void Engine::tbc(Function function) {
     }
 }
 
+/// The stops of a new terminal.
+void Engine::decst8c(Function function) {
+    if (function.parameters.get(0) == 5) {
+        reset_tabs(0);
+    }
+}
+
 void Engine::hts(Function /*function*/) { tabs_[static_cast<std::size_t>(cursor_.column)] = true; }
 
 void Engine::ind(Function /*function*/) { line_feed(); }
 
 void Engine::nel(Function /*function*/) {
-    carriage_return();
     line_feed();
+    carriage_return();
 }
 
 void Engine::ri(Function /*function*/) { reverse_line_feed(); }

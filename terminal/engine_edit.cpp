@@ -2,14 +2,19 @@
 #include "terminal/engine.h"
 
 #include <algorithm>
+#include <array>
 
 // Erasing, inserting, deleting and scrolling.
 
 namespace terminal {
 
-void Engine::erase_row(int row, int from, int to, bool selective) {
-    if (selective) {
-        screen_->erase_unguarded(row, from, to);
+/// Selective erasing (DECSED, DECSEL) spares what DECSCA guards; the other spares guarded areas, once there
+/// are any.
+void Engine::erase_row(int row, int from, int to, Erasure erasure) {
+    if (erasure == Erasure::selective) {
+        screen_->erase_unguarded(row, from, to, Cell::guarded);
+    } else if (guards_areas_) {
+        screen_->erase_unguarded(row, from, to, Cell::area_guarded, blank());
     } else {
         screen_->erase(row, from, to, blank());
     }
@@ -17,22 +22,22 @@ void Engine::erase_row(int row, int from, int to, bool selective) {
 
 /// With a wrap pending the cursor stands behind the last column: erasing from there to the end of the row
 /// spares the character before it, or programs that end coloured text with EL would lose it.
-void Engine::erase_in_row(Which which, bool selective) {
+void Engine::erase_in_row(Which which, Erasure erasure) {
     const int columns = size().columns;
     const int behind = cursor_.wrap_pending ? cursor_.column + 1 : cursor_.column;
     const int from = which == Which::cursor_to_end ? behind : 0;
     const int to = which == Which::begin_to_cursor ? cursor_.column + 1 : columns;
-    erase_row(cursor_.row, from, to, selective);
+    erase_row(cursor_.row, from, to, erasure);
 }
 
-void Engine::erase_on_screen(Which which, bool selective) {
+void Engine::erase_on_screen(Which which, Erasure erasure) {
     const int first = which == Which::cursor_to_end ? cursor_.row + 1 : 0;
     const int end = which == Which::begin_to_cursor ? cursor_.row : size().rows;
     for (int row = first; row < end; ++row) {
-        erase_row(row, 0, size().columns, selective);
+        erase_row(row, 0, size().columns, erasure);
     }
     if (which != Which::all) {
-        erase_in_row(which, selective);
+        erase_in_row(which, erasure);
     }
 }
 
@@ -68,25 +73,26 @@ Region Engine::below_cursor() const {
     return {cursor_.row, margins_.bottom, margins_.left, margins_.right};
 }
 
+/// Outside the side margins ICH and DCH do nothing.
 void Engine::ich(Function function) {
-    if (cursor_.column < margins_.left) {
-        return;
-    }
-    screen_->insert_cells(cursor_.row, cursor_.column, right_limit(), function.parameters.count(0), blank());
     cursor_.wrap_pending = false;
+    if (cursor_.column >= margins_.left && cursor_.column < margins_.right) {
+        screen_->insert_cells(cursor_.row, cursor_.column, margins_.right, function.parameters.count(0),
+                              blank());
+    }
 }
 
 void Engine::dch(Function function) {
-    if (cursor_.column < margins_.left) {
-        return;
-    }
-    screen_->delete_cells(cursor_.row, cursor_.column, right_limit(), function.parameters.count(0), blank());
     cursor_.wrap_pending = false;
+    if (cursor_.column >= margins_.left && cursor_.column < margins_.right) {
+        screen_->delete_cells(cursor_.row, cursor_.column, margins_.right, function.parameters.count(0),
+                              blank());
+    }
 }
 
 void Engine::ech(Function function) {
     const int end = std::min(cursor_.column + function.parameters.count(0), size().columns);
-    screen_->erase(cursor_.row, cursor_.column, end, blank());
+    erase_row(cursor_.row, cursor_.column, end, Erasure::plain);
     cursor_.wrap_pending = false;
 }
 
@@ -110,50 +116,36 @@ void Engine::dl(Function function) {
     carriage_return();
 }
 
+std::optional<Engine::Which> Engine::which(Function function) {
+    constexpr std::array places = {Which::cursor_to_end, Which::begin_to_cursor, Which::all};
+    const auto number = static_cast<std::size_t>(function.parameters.get(0));
+    return number < places.size() ? std::optional(places[number]) : std::nullopt;
+}
+
 void Engine::ed(Function function) {
-    switch (function.parameters.get(0)) {
-        case 0:
-            return erase_on_screen(Which::cursor_to_end, false);
-        case 1:
-            return erase_on_screen(Which::begin_to_cursor, false);
-        case 2:
-            return erase_on_screen(Which::all, false);
-        case 3:
-            scrollback_.clear();
-            count_change();
-            return;
-        default:
-            return;
+    if (const auto place = which(function)) {
+        erase_on_screen(*place, Erasure::plain);
+    } else if (function.parameters.get(0) == 3) {
+        scrollback_.clear();
+        count_change();
     }
 }
 
 void Engine::decsed(Function function) {
-    const int which = function.parameters.get(0);
-    if (which <= 2) {
-        erase_on_screen(which == 0   ? Which::cursor_to_end
-                        : which == 1 ? Which::begin_to_cursor
-                                     : Which::all,
-                        true);
+    if (const auto place = which(function)) {
+        erase_on_screen(*place, Erasure::selective);
     }
 }
 
 void Engine::el(Function function) {
-    const int which = function.parameters.get(0);
-    if (which <= 2) {
-        erase_in_row(which == 0   ? Which::cursor_to_end
-                     : which == 1 ? Which::begin_to_cursor
-                                  : Which::all,
-                     false);
+    if (const auto place = which(function)) {
+        erase_in_row(*place, Erasure::plain);
     }
 }
 
 void Engine::decsel(Function function) {
-    const int which = function.parameters.get(0);
-    if (which <= 2) {
-        erase_in_row(which == 0   ? Which::cursor_to_end
-                     : which == 1 ? Which::begin_to_cursor
-                                  : Which::all,
-                     true);
+    if (const auto place = which(function)) {
+        erase_in_row(*place, Erasure::selective);
     }
 }
 
@@ -197,6 +189,7 @@ void Engine::decdc(Function function) {
 
 void Engine::decaln(Function /*function*/) {
     reset_margins();
+    inner_.origin = inner_.side_margins = false;
     screen_->fill(screen_->all(), {U'E', 0, 0});
     move_to(0, 0);
 }

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/engine.h"
-#include "terminal/sgr.h"
 
 #include <algorithm>
 #include <type_traits>
 
-// Modes, margins, character sets and resets.
+// Modes and margins.
 
 namespace terminal {
 
@@ -74,7 +73,9 @@ bool Engine::has_mouse_encoding() const {
 
 std::span<const Engine::Mode> Engine::Mode::ansi() {
     static constexpr Mode modes[] = {
+        of<&Modes::keyboard_locked>(2),
         of<&InnerModes::insert>(4),
+        {12, &Engine::set_send_receive, &Engine::has_send_receive},
         of<&Modes::newline>(20),
     };
     return modes;
@@ -83,17 +84,27 @@ std::span<const Engine::Mode> Engine::Mode::ansi() {
 std::span<const Engine::Mode> Engine::Mode::dec() {
     static constexpr Mode modes[] = {
         of<&Modes::application_cursor_keys>(1),
+        {2, &Engine::set_ansi, &Engine::is_ansi},
+        {3, &Engine::set_columns, &Engine::mode<&InnerModes::columns_132>},
+        of<&InnerModes::smooth_scroll>(4),
         {5, &Engine::set_reverse_video, &Engine::mode<&Modes::reverse_video>},
         {6, &Engine::set_origin, &Engine::mode<&InnerModes::origin>},
         of<&InnerModes::autowrap>(7),
+        of<&Modes::auto_repeat>(8),
         of_tracking<MouseTracking::press>(9),
         of<&InnerModes::cursor_blinking>(12),
+        of<&InnerModes::printer_form_feed>(18),
+        of<&InnerModes::printer_extent>(19),
         of<&InnerModes::cursor_visible>(25),
+        of<&InnerModes::allow_columns>(40),
+        of<&InnerModes::tab_wraps>(41),
+        of<&InnerModes::national_sets>(42),
         of<&InnerModes::reverse_wrap>(45),
         {47, &Engine::set_alternate, &Engine::is_alternate},
         of<&Modes::application_keypad>(66),
         of<&Modes::backarrow_sends_backspace>(67),
         {69, &Engine::set_side_margins, &Engine::mode<&InnerModes::side_margins>},
+        of<&InnerModes::keep_on_columns>(95),
         of_tracking<MouseTracking::press_release>(1000),
         of_tracking<MouseTracking::drag>(1002),
         of_tracking<MouseTracking::motion>(1003),
@@ -102,14 +113,47 @@ std::span<const Engine::Mode> Engine::Mode::dec() {
         of_encoding<MouseEncoding::sgr>(1006),
         of<&Modes::alternate_scroll>(1007),
         of_encoding<MouseEncoding::urxvt>(1015),
+        of_encoding<MouseEncoding::sgr_pixels>(1016),
+        of<&InnerModes::far_reverse_wrap>(1045),
+        {1046, &Engine::set_allow_alternate, &Engine::mode<&InnerModes::allow_alternate>},
         {1047, &Engine::set_alternate_cleared, &Engine::is_alternate},
-        {1048, &Engine::set_saved_cursor, &Engine::is_alternate},
+        {1048, &Engine::set_saved_cursor, &Engine::has_saved_cursor},
         {1049, &Engine::set_alternate_saved, &Engine::is_alternate},
         of<&Modes::bracketed_paste>(2004),
         of<&Modes::synchronized_output>(2026),
     };
     return modes;
 }
+
+namespace {
+
+// What DECRQM answers.
+constexpr int mode_unknown = 0;
+constexpr int mode_set = 1;
+constexpr int mode_reset = 2;
+constexpr int mode_always_set = 3;
+constexpr int mode_always_reset = 4;
+
+struct FixedMode {
+    int number;
+    int state;
+};
+
+/// Modes of ECMA-48 that a terminal like this cannot set: GATM, SRTM, VEM, HEM, PUM, FEAM, FETM, MATM, TTM,
+/// SATM, TSM, EBM.
+constexpr FixedMode fixed_ansi[] = {
+    {1, mode_always_reset},  {5, mode_always_reset},  {7, mode_always_reset},  {10, mode_always_reset},
+    {11, mode_always_reset}, {13, mode_always_reset}, {14, mode_always_reset}, {15, mode_always_reset},
+    {16, mode_always_reset}, {17, mode_always_reset}, {18, mode_always_reset}, {19, mode_always_reset},
+};
+/// DECHCCM, DECVCCM and DECPCCM (a screen shows its whole page), DECKBUM, DECXRLM, DECKPM; alt and meta send
+/// an escape before the key (xterm).
+constexpr FixedMode fixed_dec[] = {
+    {60, mode_always_reset}, {61, mode_always_reset}, {64, mode_always_reset}, {68, mode_always_reset},
+    {73, mode_always_reset}, {81, mode_always_reset}, {1036, mode_always_set}, {1039, mode_always_set},
+};
+
+}  // namespace
 
 void Engine::change_modes(Function function, bool on) {
     const auto modes = function.prefix == '?' ? Mode::dec() : Mode::ansi();
@@ -145,14 +189,62 @@ void Engine::xtrestore(Function function) {
     }
 }
 
-/// The reply names the mode and says 1 for set, 2 for reset, 0 for unknown.
+int Engine::mode_state(std::span<const Mode> modes, int number) const {
+    const Mode* const mode = Mode::find(modes, number);
+    if (mode == nullptr) {
+        return mode_unknown;
+    }
+    return (this->*mode->get)() ? mode_set : mode_reset;
+}
+
 void Engine::decrqm(Function function) {
     const bool is_private = function.prefix == '?';
     const int number = function.parameters.get(0);
-    const Mode* const mode = Mode::find(is_private ? Mode::dec() : Mode::ansi(), number);
-    const int state = mode == nullptr ? 0 : (this->*mode->get)() ? 1 : 2;
+    const std::span<const FixedMode> fixed = is_private ? std::span<const FixedMode>(fixed_dec) : fixed_ansi;
+    const auto found = std::ranges::find(fixed, number, &FixedMode::number);
+    const int state =
+        found != fixed.end() ? found->state : mode_state(is_private ? Mode::dec() : Mode::ansi(), number);
     reply("\x1b[" + std::string(is_private ? "?" : "") + std::to_string(number) + ';' +
           std::to_string(state) + "$y");
+}
+
+void Engine::set_send_receive(bool on) { modes_.local_echo = !on; }
+
+/// A VT52 has one character set and no margins.
+void Engine::set_ansi(bool on) {
+    modes_.vt52 = !on;
+    parser_.set_language(on ? Parser::Language::ansi : Parser::Language::vt52);
+    sets_ = CharacterSets{};
+    if (!on) {
+        inner_.origin = inner_.side_margins = false;
+        reset_margins();
+    }
+}
+
+/// DECCOLM, where xterm's mode 40 and the user let it: besides the width it empties the screen, unless
+/// DECNCSM forbids that, and resets the margins.
+void Engine::set_columns(bool on) {
+    if (!inner_.allow_columns || !permissions_.window_operations) {
+        return;
+    }
+    constexpr int narrow = 80;
+    constexpr int wide = 132;
+    inner_.columns_132 = on;
+    request_size({on ? wide : narrow, size().rows});
+    inner_.side_margins = false;
+    reset_margins();
+    if (!inner_.keep_on_columns) {
+        screen_->fill(screen_->all(), blank());
+    }
+    move_in_origin(0, 0);
+}
+
+/// Without the permission to show the alternate screen a program goes back to the primary one.
+void Engine::set_allow_alternate(bool on) {
+    if (!on) {
+        set_alternate(false);
+    }
+    inner_.allow_alternate = on;
 }
 
 void Engine::set_origin(bool on) {
@@ -160,8 +252,9 @@ void Engine::set_origin(bool on) {
     move_in_origin(0, 0);
 }
 
+/// Of a VT420.
 void Engine::set_side_margins(bool on) {
-    inner_.side_margins = on;
+    inner_.side_margins = on && level_ >= 4;
     if (!on) {
         margins_.left = 0;
         margins_.right = size().columns;
@@ -175,7 +268,7 @@ void Engine::set_reverse_video(bool on) {
 
 /// Shows the one or the other screen. The cursor is one for both.
 void Engine::set_alternate(bool on) {
-    if (is_alternate() == on) {
+    if (is_alternate() == on || !inner_.allow_alternate) {
         return;
     }
     modes_.alternate_screen = on;
@@ -194,7 +287,7 @@ void Engine::set_alternate_cleared(bool on) {
 }
 
 void Engine::set_alternate_saved(bool on) {
-    if (is_alternate() == on) {
+    if (is_alternate() == on || !inner_.allow_alternate) {
         return;
     }
     if (!on) {
@@ -215,8 +308,6 @@ void Engine::set_saved_cursor(bool on) {
     }
 }
 
-void Engine::reset_margins() { margins_ = screen_->all(); }
-
 void Engine::decstbm(Function function) {
     const int top = function.parameters.count(0);
     const int asked = function.parameters.get(1);
@@ -227,75 +318,5 @@ void Engine::decstbm(Function function) {
         move_in_origin(0, 0);
     }
 }
-
-/// What DECSTR resets, and a full reset too.
-void Engine::soft_reset() {
-    inner_.insert = inner_.origin = inner_.reverse_wrap = inner_.side_margins = false;
-    inner_.autowrap = inner_.cursor_visible = true;
-    modes_.application_cursor_keys = modes_.application_keypad = false;
-    reset_margins();
-    style_ = Style{};
-    pen_.link = 0;
-    guarded_ = whole_rectangles_ = false;
-    change_pen();
-    sets_ = CharacterSets{};
-    saved() = SavedCursor{};
-    cursor_.wrap_pending = false;
-}
-
-void Engine::decstr(Function /*function*/) { soft_reset(); }
-void Engine::ris(Function /*function*/) { reset(); }
-
-void Engine::reset() {
-    set_alternate(false);
-    modes_ = Modes{};
-    inner_ = InnerModes{};
-    saved_ = {};
-    saved_modes_.clear();
-    cursor_shape_ = CursorShape::block;
-    last_character_ = 0;
-    soft_reset();
-    scrollback_.close();
-    screen_->fill(screen_->all(), Cell{});
-    move_to(0, 0);
-    reset_tabs(0);
-    palette_.reset_all();
-    palette_changed();
-}
-
-void Engine::sgr(Function function) {
-    apply_sgr(function.parameters, style_);
-    change_pen();
-}
-
-void Engine::decsca(Function function) {
-    guarded_ = function.parameters.get(0) == 1;
-    change_pen();
-}
-
-/// 0 is the standard cursor; then by twos block, underline, bar, the odd ones blinking.
-void Engine::decscusr(Function function) {
-    const int style = function.parameters.get(0);
-    if (style > 6) {
-        return;
-    }
-    cursor_shape_ = style <= 2 ? CursorShape::block : style <= 4 ? CursorShape::underline : CursorShape::bar;
-    inner_.cursor_blinking = style % 2 == 1;
-    count_change();
-}
-
-void Engine::deckpam(Function /*function*/) { modes_.application_keypad = true; }
-void Engine::deckpnm(Function /*function*/) { modes_.application_keypad = false; }
-
-/// `ESC ( F` to `ESC + F` designate G0 to G3.
-void Engine::scs(Function function) {
-    const auto index = static_cast<std::size_t>(function.intermediates[0] - '(');
-    sets_.designated[index] = character_set(function.final);
-}
-
-void Engine::ls2(Function /*function*/) { sets_.invoked = 2; }
-void Engine::ls3(Function /*function*/) { sets_.invoked = 3; }
-void Engine::ss2(Function /*function*/) { sets_.single_shift = 2; }
-void Engine::ss3(Function /*function*/) { sets_.single_shift = 3; }
 
 }  // namespace terminal

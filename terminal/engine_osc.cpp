@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/engine.h"
+#include "terminal/text_codes.h"
+#include "terminal/utf8.h"
 
+#include <algorithm>
 #include <cassert>
 #include <charconv>
 
-// Operating system commands: title, colours and links. All others are read and ignored: nothing written to
-// the terminal gets at the clipboard, the directory shown, notices or files.
+// Operating system commands: titles, colours and links. All others are read and ignored: nothing written to
+// the terminal gets at the directory shown, notices or files, nor, unless the user permits it, the clipboard.
 
 namespace terminal {
 
@@ -27,59 +30,53 @@ int parse_number(std::string_view text) {
     return result.ec == std::errc{} && result.ptr == end ? value : -1;
 }
 
-/// Cuts valid UTF-8 to at most `size` bytes, between characters.
-std::string_view cut(std::string_view text, std::size_t size) {
-    if (text.size() <= size) {
-        return text;
-    }
-    while (size > 0 && (static_cast<std::uint8_t>(text[size]) & 0xC0) == 0x80) {
-        --size;
-    }
-    return text.substr(0, size);
-}
+constexpr int special_base = 256;  // OSC 4 takes the colours of OSC 5 from here on
+constexpr int special_count = static_cast<int>(Palette::role_count) - static_cast<int>(ColourRole::bold);
 
-constexpr int first_role = 10;  // OSC 10, 11, 12 set what OSC 110, 111, 112 reset
-constexpr int role_count = 3;
+constexpr int first_role = 10;  // OSC 10 to 19 set what OSC 110 to 119 reset
+constexpr int last_role = 19;
 
 ColourRole role_of(int number) { return static_cast<ColourRole>(number % 100 - first_role); }
+ColourRole special_role(int index) {
+    return static_cast<ColourRole>(static_cast<int>(ColourRole::bold) + index - special_base);
+}
+bool is_colour(int index) { return index >= 0 && index < special_base + special_count; }
 
 }  // namespace
 
 void Engine::operating_system_command(std::string_view data) {
-    const int number = parse_number(take_field(data));
+    const std::string_view text = take_field(data);
+    const int number = parse_number(text);
     switch (number) {
         case 0:
+        case 1:
         case 2:
-            set_title(data);
+            set_titles(number, data);
             break;
         case 4:
-            osc_palette(data);
+            osc_palette(text, 0, data);
+            break;
+        case 5:
+            osc_palette(text, special_base, data);
             break;
         case 8:
             set_link(data);
             break;
-        case 10:
-        case 11:
-        case 12:
-            osc_role(number, data);
+        case 52:
+            osc_selection(data);
             break;
         case 104:
-            osc_reset_palette(data);
+            osc_reset_palette(0, data);
             break;
-        case 110:
-        case 111:
-        case 112:
-            palette_.reset(role_of(number));
-            palette_changed();
+        case 105:
+            osc_reset_palette(special_base, data);
             break;
         default:
+            osc_role(number, data);
             break;
     }
     assert(is_consistent());
 }
-
-/// The parser has left no controls in it.
-void Engine::set_title(std::string_view text) { client_.title_changed(cut(text, max_title)); }
 
 /// `8 ; parameters ; address`. Addresses are in printable ASCII; with anything else, or when there are too
 /// many, the text that follows is no link.
@@ -99,7 +96,7 @@ void Engine::set_link(std::string_view data) {
     const std::size_t id = parameters.find("id=");
     if (id != std::string_view::npos) {
         parameters.remove_prefix(id + 3);
-        link.id = cut(parameters.substr(0, parameters.find(':')), max_link);
+        link.id = cut_utf8(parameters.substr(0, parameters.find(':')), max_link);
     }
     auto number = links_.intern(link);
     if (!number && links_.wants_collection()) {
@@ -116,47 +113,91 @@ void Engine::reply_colour(std::string_view prefix, Rgb colour) {
     reply("\x1b]" + std::string(prefix) + ';' + colour_text(colour) + "\x1b\\");
 }
 
-/// Pairs of index and colour; "?" asks.
-void Engine::osc_palette(std::string_view data) {
+/// A number of colour names is looked up by the client, each once: it may have to ask the X server.
+std::optional<Rgb> Engine::colour(std::string_view text) {
+    if (const auto colour = parse_colour(text)) {
+        return colour;
+    }
+    const bool is_name = !text.empty() && text.size() <= max_colour_name &&
+                         std::ranges::all_of(text, [](char c) { return c >= 0x20 && c < 0x7F; });
+    if (!is_name || text == "?") {
+        return std::nullopt;
+    }
+    const auto asked =
+        std::ranges::find_if(asked_colours_, [text](const auto& known) { return known.first == text; });
+    if (asked != asked_colours_.end()) {
+        return asked->second;
+    }
+    if (asked_colours_.size() == max_asked_colours) {
+        return std::nullopt;
+    }
+    return asked_colours_.emplace_back(text, client_.named_colour(text)).second;
+}
+
+/// Pairs of index and colour; "?" asks. Indices count from `base` on.
+void Engine::osc_palette(std::string_view number, int base, std::string_view data) {
     while (!data.empty()) {
-        const int index = parse_number(take_field(data));
+        const int given = parse_number(take_field(data));
         const std::string_view text = take_field(data);
-        if (index < 0 || index >= Palette::size) {
+        if (given < 0 || !is_colour(base + given)) {
             continue;
         }
+        const int index = base + given;
+        const bool special = index >= special_base;
         if (text == "?") {
-            reply_colour("4;" + std::to_string(index), palette_.colour(index));
-        } else if (const auto colour = parse_colour(text)) {
-            palette_.set(index, *colour);
+            reply_colour(std::string(number) + ';' + std::to_string(given),
+                         special ? palette_.colour(special_role(index)) : palette_.colour(index));
+        } else if (const auto wanted = colour(text)) {
+            special ? palette_.set(special_role(index), *wanted) : palette_.set(index, *wanted);
             palette_changed();
         }
     }
 }
 
-/// The colours from role `number` on.
+/// 10 to 19: the colours from role `number` on. 110 to 119: takes one back.
 void Engine::osc_role(int number, std::string_view data) {
-    for (; !data.empty() && number < first_role + role_count; ++number) {
+    if (number >= 100 + first_role && number <= 100 + last_role) {
+        palette_.reset(role_of(number));
+        palette_changed();
+        return;
+    }
+    for (; number >= first_role && number <= last_role && !data.empty(); ++number) {
         const std::string_view text = take_field(data);
         if (text == "?") {
             reply_colour(std::to_string(number), palette_.colour(role_of(number)));
-        } else if (const auto colour = parse_colour(text)) {
-            palette_.set(role_of(number), *colour);
+        } else if (const auto wanted = colour(text)) {
+            palette_.set(role_of(number), *wanted);
             palette_changed();
         }
     }
 }
 
-void Engine::osc_reset_palette(std::string_view data) {
+/// Without an index all of OSC 4's or 5's.
+void Engine::osc_reset_palette(int base, std::string_view data) {
     if (data.empty()) {
-        palette_.reset_indexed();
+        base == 0 ? palette_.reset_indexed() : palette_.reset_special();
     }
     while (!data.empty()) {
-        const int index = parse_number(take_field(data));
-        if (index >= 0 && index < Palette::size) {
-            palette_.reset(index);
+        const int given = parse_number(take_field(data));
+        if (given < 0 || !is_colour(base + given)) {
+            continue;
         }
+        const int index = base + given;
+        index >= special_base ? palette_.reset(special_role(index)) : palette_.reset(index);
     }
     palette_changed();
+}
+
+/// `selections ; text in base 64`. Never read; written where the user permits it.
+void Engine::osc_selection(std::string_view data) {
+    const std::string_view which = take_field(data);
+    const std::string text = from_base64(data);
+    const bool is_text = text.find('\0') == std::string::npos;
+    if (!permissions_.clipboard || data == "?" || text.empty() || !is_text) {
+        return;
+    }
+    const bool clipboard = which.find('c') != std::string_view::npos;
+    client_.selection_written(clipboard ? Client::Selection::clipboard : Client::Selection::primary, text);
 }
 
 }  // namespace terminal

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/engine.h"
 #include "terminal/sgr.h"
+#include "terminal/utf8.h"
 
 #include <algorithm>
 #include <optional>
@@ -58,7 +59,7 @@ void Engine::decera(Function function) { screen_->fill(rectangle(function, 0), b
 void Engine::decsera(Function function) {
     const Region region = rectangle(function, 0);
     for (int row = region.top; row < region.bottom; ++row) {
-        screen_->erase_unguarded(row, region.left, region.right);
+        screen_->erase_unguarded(row, region.left, region.right, Cell::guarded);
     }
 }
 
@@ -107,6 +108,82 @@ void Engine::change_styles(Function function, void (*change)(const Parameters&, 
             screen_->replace(row, column, cell);
         }
     }
+}
+
+namespace {
+
+// What XTCHECKSUM changes of the checksum, by bits of its parameter. (Bit 5 is about sets of 7-bit
+// characters, which a screen of Unicode characters does not know.)
+constexpr int checksum_not_negated = 1;
+constexpr int checksum_without_attributes = 2;
+constexpr int checksum_with_blanks = 4;
+constexpr int checksum_of_written_only = 8;
+constexpr int checksum_of_whole_characters = 16;
+
+}  // namespace
+
+void Engine::xtchecksum(Function function) { checksum_flags_ = function.parameters.get(0); }
+
+/// `id ; page ; rectangle`. Off unless the user wants it: with it whatever is shown can read what else is
+/// shown.
+void Engine::decrqcra(Function function) {
+    if (permissions_.checksum) {
+        report_checksum(function.parameters.get(0), checksum(rectangle(function, 2)));
+    }
+}
+
+/// A character with its attributes, as a VT420 adds them up.
+int Engine::checksum(const Cell& cell) const {
+    int sum = cell.character() == 0 ? ' ' : static_cast<int>(cell.character());
+    if (cell.is_cluster()) {
+        const std::string& text = clusters_[cell.character()];
+        const char* from = text.data();
+        sum = static_cast<int>(take_utf8(from));
+        while ((checksum_flags_ & checksum_of_whole_characters) != 0 && from < text.data() + text.size()) {
+            sum += static_cast<int>(take_utf8(from));
+        }
+    }
+    if ((checksum_flags_ & checksum_of_whole_characters) == 0) {
+        sum &= 0xFF;
+    }
+    if ((checksum_flags_ & checksum_without_attributes) != 0) {
+        return sum;
+    }
+    const Style& style = styles_[cell.style];
+    const auto add = [&sum](bool set, int weight) { sum += set ? weight : 0; };
+    add((cell.glyph & (Cell::guarded | Cell::area_guarded)) != 0, 0x04);
+    add(style.invisible, 0x08);
+    add(style.underline != Underline::none, 0x10);
+    add(style.reverse, 0x20);
+    add(style.blink, 0x40);
+    add(style.bold, 0x80);
+    return sum;
+}
+
+/// The negated sum. Blanks at the ends of rows do not count, except as the very first character.
+int Engine::checksum(const Region& region) const {
+    int sum = 0;
+    bool first = true;
+    for (int row = region.top; row < region.bottom; ++row) {
+        int blanks = 0;
+        for (int column = region.left; column < region.right; ++column) {
+            const Cell cell = screen_->cell(row, column);
+            const bool unwritten = cell.character() == 0 && !cell.is_cluster();
+            if (cell.is_wide_tail() || (unwritten && (checksum_flags_ & checksum_of_written_only) != 0)) {
+                continue;
+            }
+            const int value = checksum(cell);
+            if (value == ' ' && !first) {
+                blanks += value;
+                continue;
+            }
+            sum += blanks + value;
+            blanks = 0;
+            first = false;
+        }
+        sum += (checksum_flags_ & checksum_with_blanks) != 0 ? blanks : 0;
+    }
+    return (checksum_flags_ & checksum_not_negated) != 0 ? sum : -sum;
 }
 
 void Engine::decsace(Function function) { whole_rectangles_ = function.parameters.get(0) == 2; }

@@ -1,24 +1,43 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/engine.h"
-#include "terminal/sgr.h"
 
+#include <array>
 #include <cassert>
+#include <cstdio>
 
 // Replies. They hold numbers and fixed texts only: whatever a program writes, nothing of it may come back as
 // if it had been typed.
 
 namespace terminal {
 
-void Engine::reply(std::string_view bytes) { client_.reply(bytes); }
-
-/// A VT420 with selective erase, colours and rectangular editing.
-void Engine::da1(Function function) {
-    if (function.parameters.get(0) == 0) {
-        reply("\x1b[?64;6;22;28c");
+/// Replies are written in 7-bit form; the C1 controls in them become single bytes for who wants them so.
+void Engine::reply(std::string_view bytes) {
+    if (controls_ == Controls::of_7_bits) {
+        client_.reply(bytes);
+        return;
     }
+    std::string short_form;
+    for (std::size_t i = 0; i < bytes.size(); ++i) {
+        const bool c1 = bytes[i] == '\x1b' && i + 1 < bytes.size();
+        short_form += c1 ? static_cast<char>(bytes[++i] + 0x40) : bytes[i];
+    }
+    client_.reply(short_form);
 }
 
-void Engine::decid(Function /*function*/) { reply("\x1b[?64;6;22;28c"); }
+/// What the terminal is at a conformance level: up to 64, a VT420. Then: 132 columns, selective erase,
+/// national sets, technical characters, state reports, windows, horizontal scrolling, colours, rectangles.
+void Engine::da1(Function function) {
+    if (function.parameters.get(0) != 0) {
+        return;
+    }
+    if (level_ == 1) {
+        reply("\x1b[?1;2c");  // a VT100 with advanced video
+        return;
+    }
+    reply("\x1b[?" + std::to_string(60 + level_) + ";1;6;9;15;17;18;21;22;28c");
+}
+
+void Engine::decid(Function /*function*/) { da1({}); }
 
 /// VT420; programs take the number for the patch level of an xterm and expect SGR mouse reports from 277 on.
 void Engine::da2(Function function) {
@@ -57,19 +76,46 @@ void Engine::dsr(Function function) {
     }
 }
 
+namespace {
+
+/// Device status reports that are always the same.
+struct Status {
+    int request;
+    std::string_view reply;
+};
+constexpr Status statuses[] = {
+    {15, "\x1b[?13n"},                             // no printer
+    {25, "\x1b[?21n"},                             // user-defined keys are locked
+    {26, "\x1b[?27;1;0;0n"},                       // North American keyboard, ready, of a VT320 or later
+    {53, "\x1b[?50n"},                             // no locator
+    {55, "\x1b[?50n"},       {56, "\x1b[?57;0n"},  // of no kind
+    {62, "\x1b[0*{"},                              // no space for macros
+    {75, "\x1b[?70n"},                             // no errors on the line
+    {85, "\x1b[?83n"},                             // not configured for several sessions
+};
+
+}  // namespace
+
 void Engine::decdsr(Function function) {
-    switch (function.parameters.get(0)) {
-        case 6:
-            return report_position("\x1b[?", ";1R");
-        case 15:  // no printer
-            return reply("\x1b[?13n");
-        case 25:  // no user-defined keys
-            return reply("\x1b[?21n");
-        case 26:  // North American keyboard, ready
-            return reply("\x1b[?27;1;0;0n");
-        default:
-            return;
+    const int request = function.parameters.get(0);
+    if (request == 6) {
+        return report_position("\x1b[?", ";1R");
     }
+    if (request == 63) {  // the checksum of macros, of which there are none
+        return report_checksum(function.parameters.get(1), 0);
+    }
+    for (const Status& status : statuses) {
+        if (status.request == request) {
+            reply(status.reply);
+        }
+    }
+}
+
+void Engine::report_checksum(int id, int sum) {
+    std::array<char, 32> text{};
+    const auto value = static_cast<unsigned>(sum) & 0xFFFFU;
+    const int length = std::snprintf(text.data(), text.size(), "\x1bP%d!~%04X\x1b\\", id, value);
+    reply({text.data(), static_cast<std::size_t>(length)});
 }
 
 /// The line settings of a VT100: no parity, 8 bits, 19,200 baud.
@@ -80,48 +126,7 @@ void Engine::decreqtparm(Function function) {
     }
 }
 
-/// Of xterm's window operations only the size in characters is told. Nothing may move the window or read its
-/// title.
-void Engine::xtwinops(Function function) {
-    if (function.parameters.get(0) == 18) {
-        reply("\x1b[8;" + std::to_string(size().rows) + ';' + std::to_string(size().columns) + 't');
-    }
-}
-
-void Engine::device_control(const ControlFunction& function, std::string_view data) {
-    if (function.prefix == 0 && function.final == 'q' && function.intermediates[0] == '$' &&
-        function.intermediate_count == 1) {
-        decrqss(data);
-    } else if (function.prefix == 0 && function.final == 'q' && function.intermediates[0] == '+' &&
-               function.intermediate_count == 1) {
-        reply("\x1bP0+r\x1b\\");  // XTGETTCAP: no such capability
-    }
-    assert(is_consistent());
-}
-
-/// DECRQSS: the settings asked for by the end of the sequence that would make them.
-void Engine::decrqss(std::string_view request) {
-    const auto pair = [](int first, int second) {
-        return std::to_string(first) + ';' + std::to_string(second);
-    };
-    std::string setting;
-    if (request == "m") {
-        setting = sgr_text(style_) + 'm';
-    } else if (request == "r") {
-        setting = pair(margins_.top + 1, margins_.bottom) + 'r';
-    } else if (request == "s" && inner_.side_margins) {
-        setting = pair(margins_.left + 1, margins_.right) + 's';
-    } else if (request == " q") {
-        const int steady = 2 + 2 * static_cast<int>(cursor_shape_);
-        setting = std::to_string(inner_.cursor_blinking ? steady - 1 : steady) + " q";
-    } else if (request == "\"q") {
-        setting = std::string(guarded_ ? "1" : "0") + "\"q";
-    } else if (request == "\"p") {
-        setting = "64;1\"p";
-    } else if (request == "*x") {
-        setting = std::string(whole_rectangles_ ? "2" : "1") + "*x";
-    }
-    reply(setting.empty() ? "\x1bP0$r\x1b\\" : "\x1bP1$r" + setting + "\x1b\\");
-}
+/// The user-preferred supplemental set is DEC's, of 94 characters.
+void Engine::decrqupss(Function /*function*/) { reply("\x1bP0!u%5\x1b\\"); }
 
 }  // namespace terminal

@@ -59,7 +59,7 @@ const Cell& Engine::blank() {
 
 void Engine::refresh_pen() {
     pen_changed_ = false;
-    pen_.glyph = guarded_ ? Cell::guarded : 0;
+    pen_.glyph = (guarded_ ? Cell::guarded : 0) | (area_guarded_ ? Cell::area_guarded : 0);
     pen_.style = intern_style(style_);
 }
 
@@ -128,7 +128,25 @@ void Engine::print_plain(std::string_view text) {
     assert(is_consistent());
 }
 
+/// With UTF-8 switched off the right half of the code table is a designated set's too.
+void Engine::print_latin1(std::span<const char32_t> text) {
+    constexpr char32_t right_begin = 0xA0;
+    constexpr char32_t right_end = 0x100;
+    for (const char32_t character : text) {
+        const bool right = character >= right_begin && character < right_end;
+        const bool left = character < first_extended;
+        put(left    ? sets_.take(static_cast<char>(character))
+            : right ? sets_.take_right(character)
+                    : character);
+    }
+    assert(is_consistent());
+}
+
 void Engine::print(std::span<const char32_t> text) {
+    if (encoding_ == Encoding::latin1) {
+        print_latin1(text);
+        return;
+    }
     while (!text.empty()) {
         std::size_t count = print_run(text);
         if (count == 0) {  // the first needs care
@@ -240,7 +258,7 @@ void Engine::combine(char32_t character) {
         id = clusters_.intern(text);
     }
     if (id) {
-        cell.glyph = (cell.glyph & (Cell::wide | Cell::guarded)) | Cell::cluster | *id;
+        cell.glyph = (cell.glyph & (Cell::wide | Cell::guarded | Cell::area_guarded)) | Cell::cluster | *id;
         screen_->replace(cursor_.row, column, cell);
     }
 }

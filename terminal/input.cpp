@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/input.h"
 
+#include "terminal/utf8.h"
+
 #include <array>
 
 #include <fmt/format.h>
@@ -121,6 +123,17 @@ std::string encode_return(Modifiers modifiers, const Modes& modes) {
     return with_escape_for_alt(modifiers, modes.newline ? "\r\n" : "\r");
 }
 
+/// A VT52 has no modifiers, and a keypad and four keys beside the cursor's.
+std::string encode_vt52(const Sequence& sequence, const Modes& modes) {
+    const std::string_view last(&sequence.last, 1);
+    if (sequence.form == Form::keypad && modes.application_keypad) {
+        return fmt::format("\x1b?{}", last);
+    }
+    const bool has_it = sequence.form == Form::letter || (sequence.last >= 'A' && sequence.last <= 'D') ||
+                        sequence.last == 'H';
+    return has_it && sequence.form != Form::keypad ? fmt::format("\x1b{}", last) : std::string();
+}
+
 std::string encode_keypad(const Sequence& sequence, Modifiers modifiers, std::string_view text,
                           const Modes& modes) {
     if (modes.application_keypad) {
@@ -135,6 +148,9 @@ std::string encode_keypad(const Sequence& sequence, Modifiers modifiers, std::st
 
 std::string encode_sequence(const Sequence& sequence, Modifiers modifiers, std::string_view text,
                             const Modes& modes) {
+    if (modes.vt52 && (sequence.form != Form::keypad || modes.application_keypad)) {
+        return encode_vt52(sequence, modes);
+    }
     if (sequence.form == Form::keypad) {
         return encode_keypad(sequence, modifiers, text, modes);
     }
@@ -156,9 +172,53 @@ std::string encode_backspace(Modifiers modifiers, const Modes& modes) {
     return with_escape_for_alt(modifiers, backspace ? "\b" : "\x7f");
 }
 
+/// The character that xterm reports a modified key by; 0 for keys that have sequences of their own.
+char32_t reported_character(Key key, std::string_view text) {
+    switch (key) {
+        case Key::none: {
+            if (text.empty()) {
+                return 0;
+            }
+            const char* end = text.data();
+            const char32_t character = take_utf8(end);
+            return end == text.data() + text.size() ? character : 0;
+        }
+        case Key::backspace:
+            return 0x7F;
+        case Key::tab:
+            return '\t';
+        case Key::enter:
+            return '\r';
+        case Key::escape:
+            return 0x1B;
+        default:
+            return 0;
+    }
+}
+
+/// xterm's modifyOtherKeys: at 1 what would lose its modifiers is reported as `CSI 27 ; modifiers ; character
+/// ~`, at 2 also what has a C0 character or an escape for them.
+bool is_reported(Key key, Modifiers modifiers, char32_t character, int level) {
+    const bool shift_only = modifiers == Modifiers{.shift = true};
+    if (level == 0 || character == 0 || modifiers == Modifiers{} ||
+        (shift_only && (key == Key::none || key == Key::tab))) {
+        return false;
+    }
+    if (level >= 2 || key == Key::tab || key == Key::enter || key == Key::escape) {
+        return true;
+    }
+    const bool has_control =
+        character < 0x80 && control_character(static_cast<char>(character)) != static_cast<char>(character);
+    return key == Key::none && modifiers.control && !has_control;
+}
+
 }  // namespace
 
 std::string encode_key(Key key, Modifiers modifiers, std::string_view text, const Modes& modes) {
+    const char32_t character = reported_character(key, text);
+    if (is_reported(key, modifiers, character, modes.modify_other_keys)) {
+        return fmt::format("\x1b[27;{};{}~", modifier_parameter(modifiers), static_cast<unsigned>(character));
+    }
     switch (key) {
         case Key::none:
             return encode_text(modifiers, text);

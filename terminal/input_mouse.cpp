@@ -73,7 +73,8 @@ std::optional<std::string> encode_mouse(MouseAction action, MouseButton button, 
     if (column < 0 || row < 0 || wheel_release || !is_reported(action, button, modes.mouse_tracking)) {
         return std::nullopt;
     }
-    const bool names_released_button = modes.mouse_encoding == MouseEncoding::sgr;
+    const bool names_released_button =
+        modes.mouse_encoding == MouseEncoding::sgr || modes.mouse_encoding == MouseEncoding::sgr_pixels;
     const bool released = action == MouseAction::release;
     int code = released && !names_released_button ? no_button : button_code(button);
     code += action == MouseAction::motion ? motion_flag : 0;
@@ -85,6 +86,7 @@ std::optional<std::string> encode_mouse(MouseAction action, MouseButton button, 
     ++row;
     switch (modes.mouse_encoding) {
         case MouseEncoding::sgr:
+        case MouseEncoding::sgr_pixels:
             return fmt::format("\x1b[<{};{};{}{}", code, column, row, released ? 'm' : 'M');
         case MouseEncoding::urxvt:
             return fmt::format("\x1b[{};{};{}M", code + value_offset, column, row);

@@ -19,6 +19,10 @@ inline constexpr std::size_t max_intermediates = 2;  ///< a sequence with more i
 inline constexpr std::size_t max_string = 8'192;     ///< bytes of an OSC or DCS; a longer one is ignored
 inline constexpr std::size_t max_title = 1'024;      ///< bytes; a longer title is cut
 
+inline constexpr std::size_t max_saved_states = 10;    ///< pushed titles, pushed attributes
+inline constexpr std::size_t max_asked_colours = 256;  ///< different colour names that are looked up
+inline constexpr std::size_t max_colour_name = 64;
+
 inline constexpr std::size_t max_styles = 65'535;          ///< at one time, the plain one included
 inline constexpr std::size_t max_links = 16'384;           ///< at one time
 inline constexpr std::size_t max_link = 2'048;             ///< bytes of an address; a longer one is no link

@@ -93,9 +93,13 @@ std::string colour_text(Rgb colour) {
     return {text.data(), static_cast<std::size_t>(length)};
 }
 
-Palette::Palette()
-    : standard_colours_(make_colours()), standard_roles_{{{0, 0, 0}, {255, 255, 255}, {0, 0, 0}}} {
-    reset_all();
+Palette::Palette() : standard_colours_(make_colours()) {
+    set_standard({0, 0, 0}, {255, 255, 255}, {0, 0, 0}, {});
+}
+
+void Palette::reset_special() {
+    constexpr auto first = static_cast<std::ptrdiff_t>(ColourRole::bold);
+    std::copy(standard_roles_.begin() + first, standard_roles_.end(), roles_.begin() + first);
 }
 
 void Palette::reset_all() {
@@ -104,7 +108,13 @@ void Palette::reset_all() {
 }
 
 void Palette::set_standard(Rgb foreground, Rgb background, Rgb cursor, std::span<const Rgb> colours) {
-    standard_roles_ = {foreground, background, cursor};
+    standard_roles_.fill(foreground);
+    using Role = ColourRole;
+    for (const Role role : {Role::background, Role::pointer_background, Role::tektronix_background,
+                            Role::highlight_foreground}) {
+        standard_roles_[static_cast<std::size_t>(role)] = background;
+    }
+    standard_roles_[static_cast<std::size_t>(Role::cursor)] = cursor;
     std::copy_n(colours.begin(), std::min(colours.size(), first_colours.size()), standard_colours_.begin());
     reset_all();
 }

@@ -76,7 +76,7 @@ void Parser::read_text(std::string_view& bytes) {
             bytes.remove_prefix(length);
             continue;
         }
-        const std::size_t count = decode_run(bytes, characters);
+        const std::size_t count = encoding_ == Encoding::latin1 ? 0 : decode_run(bytes, characters);
         if (count == 0) {
             return;
         }
@@ -127,13 +127,19 @@ void Parser::read_string(std::string_view& bytes) {
 }
 
 void Parser::step(std::uint8_t byte) {
+    if (encoding_ == Encoding::latin1) {
+        decoder_.reset();
+        return accept(byte);
+    }
     switch (decoder_.push(byte)) {
         case Utf8Decoder::Step::incomplete:
             return;
         case Utf8Decoder::Step::character:
             return accept(decoder_.character());
-        case Utf8Decoder::Step::invalid:
-            return accept(replacement_character);
+        case Utf8Decoder::Step::invalid: {
+            const bool control = byte < 0xA0 && encoding_ == Encoding::utf8_with_8bit_controls;
+            return accept(control ? byte : replacement_character);
+        }
         case Utf8Decoder::Step::invalid_before:
             accept(replacement_character);
             return step(byte);
@@ -213,6 +219,16 @@ void Parser::apply(ParserAction action, char32_t character) {
         case ParserAction::end_osc:
             end_string();
             break;
+        case ParserAction::dispatch_vt52:
+            if (byte == 'Y') {
+                state_ = ParserState::vt52_row;
+            } else {
+                handler_.vt52_sequence(byte, {});
+            }
+            break;
+        case ParserAction::vt52_argument:
+            take_vt52_argument(byte);
+            break;
     }
 }
 
@@ -221,6 +237,9 @@ void Parser::apply(ParserAction action, char32_t character) {
 void Parser::begin_escape() {
     if (string_kind_ == StringKind::none) {
         function_.clear();
+    }
+    if (language_ == Language::vt52) {
+        state_ = ParserState::vt52_escape;
     }
 }
 
@@ -280,6 +299,14 @@ void Parser::dispatch_escape(char final) {
     function_.final = final;
     if (function_.intermediate_count <= max_intermediates) {
         handler_.escape_sequence(function_);
+    }
+}
+
+/// The arguments of `ESC Y` are kept as intermediates.
+void Parser::take_vt52_argument(char character) {
+    function_.intermediates[function_.intermediate_count++] = character;
+    if (function_.intermediate_count == 2) {
+        handler_.vt52_sequence('Y', function_.intermediates);
     }
 }
 

@@ -43,6 +43,8 @@ class ParserHandler {
     virtual void control_sequence(const ControlFunction& function) = 0;
     virtual void device_control(const ControlFunction& function, std::string_view data) = 0;
     virtual void operating_system_command(std::string_view data) = 0;
+    /// Of a VT52. The arguments are those of `Y`: characters from 2/0 on.
+    virtual void vt52_sequence(char final, std::array<char, max_intermediates> arguments) = 0;
 };
 
 /// Reads a program's output as text and control functions (ECMA-48), in UTF-8. Input may be cut anywhere.
@@ -52,6 +54,14 @@ class Parser {
   public:
     explicit Parser(ParserHandler& handler) : handler_(handler) {}
     void feed(std::string_view bytes);
+
+    /// How bytes from 8/0 on are read. In UTF-8 bytes that stand alone are ill-formed; a program that asked
+    /// for 8-bit controls may send them so. In ISO 8859-1 each is a character or a control.
+    enum class Encoding : std::uint8_t { utf8, utf8_with_8bit_controls, latin1 };
+    void set_encoding(Encoding encoding) { encoding_ = encoding; }
+    /// Escape sequences are those of a VT52: `ESC F`, and `ESC Y` with a row and a column.
+    enum class Language : std::uint8_t { ansi, vt52 };
+    void set_language(Language language) { language_ = language; }
 
   private:
     enum class StringKind : std::uint8_t { none, osc, dcs };
@@ -71,10 +81,13 @@ class Parser {
     void end_string();
     void dispatch_escape(char final);
     void dispatch_csi(char final);
+    void take_vt52_argument(char character);
 
     ParserHandler& handler_;
     ParserState state_ = ParserState::ground;
     Utf8Decoder decoder_;
+    Encoding encoding_ = Encoding::utf8;
+    Language language_ = Language::ansi;
     ControlFunction function_;
     std::string string_;
     StringKind string_kind_ = StringKind::none;  // the string begun and not yet ended by ST

@@ -114,6 +114,11 @@ constexpr Rule rules[] = {
     {State::dcs_intermediate, final_first, final_last, Action::begin_dcs, State::dcs_passthrough},
     {State::dcs_intermediate, Class::rubout, Class::other, Action::none, State::dcs_ignore},
 
+    {State::vt52_escape, Class::control, Class::bell, Action::execute, State::vt52_escape},
+    {State::vt52_escape, Class::intermediate, final_last, Action::dispatch_vt52, State::ground},
+    {State::vt52_row, Class::intermediate, final_last, Action::vt52_argument, State::vt52_column},
+    {State::vt52_column, Class::intermediate, final_last, Action::vt52_argument, State::ground},
+
     {State::dcs_passthrough, Class::control, Class::bell, Action::none, State::dcs_passthrough},
     {State::dcs_passthrough, Class::intermediate, final_last, Action::put, State::dcs_passthrough},
     {State::dcs_passthrough, Class::rubout, Class::rubout, Action::none, State::dcs_passthrough},

@@ -22,12 +22,15 @@ enum class ParserState : std::uint8_t {
     dcs_entry,
     dcs_parameter,
     dcs_intermediate,
-    dcs_passthrough,
+    vt52_escape,
+    vt52_row,  ///< the two characters behind ESC Y
+    vt52_column,
+    dcs_passthrough,  ///< this and the following read strings
     dcs_ignore,
     osc_string,
     ignored_string,  ///< SOS, PM, APC
 };
-inline constexpr int parser_state_count = 14;
+inline constexpr int parser_state_count = 17;
 
 enum class ByteClass : std::uint8_t {
     control,  ///< C0 but the following
@@ -63,6 +66,8 @@ enum class ParserAction : std::uint8_t {
     begin_dcs,
     put,
     end_osc,
+    dispatch_vt52,
+    vt52_argument,
 };
 
 struct Transition {

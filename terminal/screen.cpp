@@ -134,16 +134,19 @@ void Screen::erase(int row, int from, int to, Cell blank) {
     touch(at);
 }
 
-void Screen::erase_unguarded(int row, int from, int to) {
+void Screen::erase_unguarded(int row, int from, int to, std::uint32_t guard, std::optional<Cell> blank) {
     Line& at = line(row);
+    if (blank && *blank != Cell{}) {
+        extend(at, to);
+    }
     to = std::min<int>(to, at.length);
     if (from >= to) {
         return;
     }
     open_gap(at, from, to);
     for (Cell& cell : std::span(data(at) + from, data(at) + to)) {
-        if ((cell.glyph & Cell::guarded) == 0) {
-            cell.glyph = 0;
+        if ((cell.glyph & guard) == 0) {
+            cell = blank.value_or(Cell{0, cell.style, cell.link});
         }
     }
     touch(at);

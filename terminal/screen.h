@@ -5,6 +5,7 @@
 #include "terminal/terminal.h"
 
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string_view>
 #include <vector>
@@ -59,8 +60,9 @@ class Screen {
     void replace(int row, int column, Cell cell);
 
     void erase(int row, int from, int to, Cell blank);
-    /// As `erase`, but leaves guarded characters and the attributes of the others.
-    void erase_unguarded(int row, int from, int to);
+    /// As `erase`, but leaves the characters that have the flag `guard`. With no blank the others keep their
+    /// attributes.
+    void erase_unguarded(int row, int from, int to, std::uint32_t guard, std::optional<Cell> blank = {});
     void fill(const Region& region, Cell cell);
     /// Moves the cells from `column` up to `right` right or left by `count`; `blank` comes in.
     void insert_cells(int row, int column, int right, int count, Cell blank);

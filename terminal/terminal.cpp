@@ -12,6 +12,7 @@ Terminal::~Terminal() = default;
 void Terminal::write(std::string_view bytes) { engine_->write(bytes); }
 void Terminal::write_local(std::string_view text) { engine_->write_local(text); }
 void Terminal::resize(Size size, std::span<Position> anchors) { engine_->resize(size, anchors); }
+void Terminal::permit(const Permissions& permissions) { engine_->permit(permissions); }
 void Terminal::clear_all() { engine_->clear_all(); }
 void Terminal::reset() { engine_->reset(); }
 

@@ -22,6 +22,14 @@ struct Size {
     bool operator==(const Size&) const = default;
 };
 
+/// What programs may do beyond writing text and asking for numbers. All off unless the user wants it: with
+/// them, whatever is shown in the terminal can do it too.
+struct Permissions {
+    bool checksum = false;           ///< read the screen back (DECRQCRA)
+    bool window_operations = false;  ///< move, resize and iconify the window; read its title
+    bool clipboard = false;          ///< write the clipboard and the primary selection (OSC 52)
+};
+
 struct Options {
     Size size;
     std::size_t scrollback_rows = 10'000;
@@ -65,6 +73,7 @@ class Terminal {
     /// Wrapped lines flow anew, in the screen and lazily in the scrollback. `anchors` are moved with their
     /// text. Sizes are limited (limits.h).
     void resize(Size size, std::span<Position> anchors = {});
+    void permit(const Permissions& permissions);
     /// Empties screen and scrollback, as `clear` with the scrollback does; the cursor goes home.
     void clear_all();
     /// Back to the state of a new terminal (RIS); the scrollback stays.

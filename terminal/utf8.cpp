@@ -108,4 +108,39 @@ std::size_t decode_run(std::string_view& bytes, std::span<char32_t> out) {
     return count;
 }
 
+std::string_view cut_utf8(std::string_view text, std::size_t size) {
+    if (text.size() <= size) {
+        return text;
+    }
+    while (size > 0 && (static_cast<std::uint8_t>(text[size]) & 0xC0) == 0x80) {
+        --size;
+    }
+    return text.substr(0, size);
+}
+
+std::string plain_utf8(std::string_view text) {
+    std::string plain;
+    const auto append = [&plain](char32_t character) {
+        if (character >= 0xA0 || (character >= 0x20 && character < 0x7F)) {
+            append_utf8(character, plain);
+        }
+    };
+    Utf8Decoder decoder;
+    for (const char character : text) {
+        const auto byte = static_cast<std::uint8_t>(character);
+        auto step = decoder.push(byte);
+        if (step == Utf8Decoder::Step::invalid_before) {
+            append(replacement_character);
+            step = decoder.push(byte);
+        }
+        if (step != Utf8Decoder::Step::incomplete) {
+            append(step == Utf8Decoder::Step::character ? decoder.character() : replacement_character);
+        }
+    }
+    if (!decoder.idle()) {
+        append(replacement_character);
+    }
+    return plain;
+}
+
 }  // namespace terminal

@@ -68,6 +68,11 @@ inline void append_utf8(char32_t value, std::string& out) {
     out.append(bytes.data(), write_utf8(value, bytes.data()));
 }
 
+/// Cuts well-formed UTF-8 to at most `size` bytes, between characters.
+std::string_view cut_utf8(std::string_view text, std::size_t size);
+/// Text without controls: C0, DEL and C1 go, ill-formed parts become U+FFFD.
+std::string plain_utf8(std::string_view text);
+
 /// The first value of text made by `append_utf8`, which is therefore well-formed; moves `text` behind it.
 inline char32_t take_utf8(const char*& text) {
     const auto next = [&text] { return static_cast<char32_t>(static_cast<std::uint8_t>(*text++)); };

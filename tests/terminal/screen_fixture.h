@@ -15,8 +15,23 @@ struct Recorder : Client {
     void reply(std::string_view bytes) override { replies += bytes; }
     void bell() override { ++bells; }
     void title_changed(std::string_view text) override { titles.emplace_back(text); }
+    void size_changed() override { heard += "size|"; }
+    void window_requested(const WindowRequest& request) override {
+        heard += "window " + std::to_string(static_cast<int>(request.kind)) + ' ' +
+                 std::to_string(request.place.x) + ',' + std::to_string(request.place.y) + '|';
+    }
+    [[nodiscard]] WindowGeometry window() const override {
+        return {{8, 16}, {80, 64}, {160, 128}, {800, 640}, {3, 4}, {5, 6}};
+    }
+    std::optional<Rgb> named_colour(std::string_view name) override {
+        return name == "light blue" ? std::optional(Rgb{0xAD, 0xD8, 0xE6}) : std::nullopt;
+    }
+    void selection_written(Selection selection, std::string_view text) override {
+        heard.append(selection == Selection::clipboard ? "clipboard " : "primary ").append(text) += '|';
+    }
 
     std::string replies;
+    std::string heard;
     int bells = 0;
     std::vector<std::string> titles;
 };

@@ -1,0 +1,115 @@
+// SPDX-License-Identifier: MIT
+#include "terminal/engine.h"
+#include "terminal/sgr.h"
+
+#include <algorithm>
+
+// What text gets on its way to the screen: attributes, protection, character sets; the cursor's look; and how
+// keys are sent.
+
+namespace terminal {
+
+void Engine::sgr(Function function) {
+    apply_sgr(function.parameters, style_);
+    change_pen();
+}
+
+/// All attributes are saved, whichever are named. The stack is as deep as xterm's.
+void Engine::xtpushsgr(Function /*function*/) {
+    if (saved_styles_.size() < max_saved_states) {
+        saved_styles_.push_back(style_);
+    }
+}
+
+void Engine::xtpopsgr(Function /*function*/) {
+    if (!saved_styles_.empty()) {
+        style_ = saved_styles_.back();
+        saved_styles_.pop_back();
+        change_pen();
+    }
+}
+
+void Engine::decsca(Function function) {
+    guarded_ = function.parameters.get(0) == 1;
+    guards_areas_ = false;  // of the two ways to protect the one used last counts, as on xterm
+    change_pen();
+}
+
+void Engine::spa(Function /*function*/) {
+    area_guarded_ = guards_areas_ = true;
+    change_pen();
+}
+
+void Engine::epa(Function /*function*/) {
+    area_guarded_ = false;
+    change_pen();
+}
+
+/// 0 is the standard cursor; then by twos block, underline, bar, the odd ones blinking.
+void Engine::decscusr(Function function) {
+    const int style = function.parameters.get(0);
+    if (style > 6) {
+        return;
+    }
+    cursor_shape_ = style <= 2 ? CursorShape::block : style <= 4 ? CursorShape::underline : CursorShape::bar;
+    inner_.cursor_blinking = style % 2 == 1;
+    count_change();
+}
+
+void Engine::deckpam(Function /*function*/) { modes_.application_keypad = true; }
+void Engine::deckpnm(Function /*function*/) { modes_.application_keypad = false; }
+
+namespace {
+
+constexpr int modify_other_keys = 4;  // of xterm's resources for keys the one that can be changed here
+
+}  // namespace
+
+/// `CSI > 4 ; 0 to 2 m`; without a value, or without any parameter, back to the beginning.
+void Engine::xtmodkeys(Function function) {
+    const bool concerns_it =
+        function.parameters.size() == 0 || function.parameters.get(0) == modify_other_keys;
+    const int value = function.parameters.get(1);
+    if (concerns_it && value <= 2) {
+        modes_.modify_other_keys = value;
+    }
+}
+
+void Engine::xtunmodkeys(Function function) {
+    if (function.parameters.get(0) == modify_other_keys) {
+        modes_.modify_other_keys = 0;
+    }
+}
+
+void Engine::xtqmodkeys(Function function) {
+    if (function.parameters.get(0) == modify_other_keys) {
+        reply("\x1b[>4;" + std::to_string(modes_.modify_other_keys) + 'm');
+    }
+}
+
+/// `ESC ( F` to `ESC + F` designate sets of 94 characters to G0 to G3, `ESC - F` to `ESC / F` those of 96 to
+/// G1 to G3. Sets that we do not have change nothing.
+void Engine::scs(Function function) {
+    const char where = function.intermediates[0];
+    const SetSize set_size = where >= '-' ? SetSize::of_96 : SetSize::of_94;
+    const auto index = static_cast<std::size_t>(where - (set_size == SetSize::of_96 ? ',' : '('));
+    std::string code;
+    if (function.intermediate_count > 1) {
+        code += function.intermediates[1];
+    }
+    code += function.final;
+    const NationalSets national = inner_.national_sets ? NationalSets::shown : NationalSets::hidden;
+    if (const auto set = character_set(code, set_size, national)) {
+        sets_.designated[index] = *set;
+    }
+}
+
+void Engine::ls2(Function /*function*/) { sets_.invoked = 2; }
+void Engine::ls3(Function /*function*/) { sets_.invoked = 3; }
+void Engine::ls1r(Function /*function*/) { sets_.right = 1; }
+void Engine::ls2r(Function /*function*/) { sets_.right = 2; }
+void Engine::ls3r(Function /*function*/) { sets_.right = 3; }
+void Engine::ss2(Function /*function*/) { sets_.single_shift = 2; }
+void Engine::ss3(Function /*function*/) { sets_.single_shift = 3; }
+
+}  // namespace terminal

@@ -1,0 +1,95 @@
+// SPDX-License-Identifier: MIT
+#include "terminal/engine.h"
+
+// Resets, the conformance level, and the form of controls.
+
+namespace terminal {
+
+void Engine::reset_margins() { margins_ = screen_->all(); }
+
+/// What DECSTR resets, and a full reset too. Unlike a VT420's, autowrap is on then, as on xterm.
+void Engine::soft_reset() {
+    inner_.insert = inner_.origin = inner_.reverse_wrap = inner_.far_reverse_wrap = false;
+    inner_.side_margins = inner_.national_sets = false;
+    inner_.autowrap = inner_.cursor_visible = true;
+    modes_.application_cursor_keys = modes_.application_keypad = modes_.keyboard_locked = false;
+    modes_.modify_other_keys = 0;
+    reset_margins();
+    style_ = Style{};
+    pen_.link = 0;
+    guarded_ = area_guarded_ = guards_areas_ = whole_rectangles_ = false;
+    change_pen();
+    sets_ = CharacterSets{};
+    saved() = SavedCursor{};
+    cursor_.wrap_pending = false;
+}
+
+void Engine::decstr(Function /*function*/) { soft_reset(); }
+void Engine::ris(Function /*function*/) { reset(); }
+
+void Engine::reset() {
+    inner_.allow_alternate = true;
+    set_alternate(false);
+    if (inner_.columns_132) {
+        set_columns(false);
+    }
+    modes_ = Modes{};
+    inner_ = InnerModes{};
+    saved_ = {};
+    saved_modes_.clear();
+    saved_styles_.clear();
+    cursor_shape_ = CursorShape::block;
+    last_character_ = 0;
+    checksum_flags_ = 0;
+    hex_titles_ = hex_title_reports_ = false;
+    level_ = top_level;
+    encoding_ = Encoding::utf8;
+    choose_controls(Controls::of_7_bits);
+    parser_.set_language(Parser::Language::ansi);
+    soft_reset();
+    scrollback_.close();
+    screen_->fill(screen_->all(), Cell{});
+    move_to(0, 0);
+    reset_tabs(0);
+    palette_.reset_all();
+    palette_changed();
+}
+
+/// `61 to 64 ; controls`: the level, and whether replies use 7-bit controls (1) or 8-bit ones. A reset too
+/// (VT420 manual).
+void Engine::decscl(Function function) {
+    constexpr int base = 60;
+    const int level = function.parameters.get(0) - base;
+    if (level < 1 || level > top_level) {
+        return;
+    }
+    reset();
+    level_ = level;
+    if (level > 1 && function.parameters.get(1) != 1) {
+        choose_controls(Controls::of_8_bits);
+    }
+}
+
+void Engine::s7c1t(Function /*function*/) { choose_controls(Controls::of_7_bits); }
+void Engine::s8c1t(Function /*function*/) { choose_controls(Controls::of_8_bits); }
+void Engine::use_latin1(Function /*function*/) { choose_encoding(Encoding::latin1); }
+void Engine::use_utf8(Function /*function*/) { choose_encoding(Encoding::utf8); }
+
+void Engine::choose_controls(Controls controls) {
+    controls_ = controls;
+    update_parser();
+}
+
+void Engine::choose_encoding(Encoding encoding) {
+    encoding_ = encoding;
+    update_parser();
+}
+
+/// A program that wants 8-bit controls in replies may send them too, also within UTF-8.
+void Engine::update_parser() {
+    using Wanted = Parser::Encoding;
+    const Wanted utf8 = controls_ == Controls::of_8_bits ? Wanted::utf8_with_8bit_controls : Wanted::utf8;
+    parser_.set_encoding(encoding_ == Encoding::latin1 ? Wanted::latin1 : utf8);
+}
+
+}  // namespace terminal

@@ -1,0 +1,161 @@
+// SPDX-License-Identifier: MIT
+#include "terminal/engine.h"
+#include "terminal/sgr.h"
+#include "terminal/text_codes.h"
+
+#include <algorithm>
+#include <array>
+#include <cassert>
+#include <charconv>
+
+// Device control strings: reports of settings, of the terminal's capabilities and of what it presents.
+
+namespace terminal {
+
+namespace {
+
+/// What XTGETTCAP tells, by the names of terminfo and termcap.
+struct Capability {
+    std::string_view name;
+    std::string_view value;
+};
+constexpr Capability capabilities[] = {
+    {"TN", "xterm-256color"}, {"name", "xterm-256color"}, {"Co", "256"}, {"colors", "256"}, {"RGB", "8"},
+};
+
+/// DECCIR writes four bits as a character from 4/0 on.
+char bits(std::initializer_list<bool> low_first) {
+    int value = 0x40;
+    int weight = 1;
+    for (const bool bit : low_first) {
+        value += bit ? weight : 0;
+        weight *= 2;
+    }
+    return static_cast<char>(value);
+}
+
+}  // namespace
+
+void Engine::device_control(const ControlFunction& function, std::string_view data) {
+    if (function.prefix == 0 && function.intermediate_count == 1) {
+        const char intermediate = function.intermediates[0];
+        if (function.final == 'q' && intermediate == '$' && level_ >= 3) {
+            decrqss(data);
+        } else if (function.final == 'q' && intermediate == '+') {
+            xtgettcap(data);
+        } else if (function.final == 't' && intermediate == '$') {
+            decrsps(function, data);
+        }
+    }
+    assert(is_consistent());
+}
+
+/// DECRQSS: the settings asked for by the end of the sequence that would make them.
+void Engine::decrqss(std::string_view request) {
+    const std::string text = setting(request);
+    reply(text.empty() ? "\x1bP0$r\x1b\\" : "\x1bP1$r" + text + std::string(request) + "\x1b\\");
+}
+
+/// The parameters; empty for a request that is not known.
+std::string Engine::setting(std::string_view request) const {
+    const auto pair = [](int first, int second) {
+        return std::to_string(first) + ';' + std::to_string(second);
+    };
+    const int steady = 2 + 2 * static_cast<int>(cursor_shape_);
+    const int controls = controls_ == Controls::of_8_bits ? 0 : 1;
+    const std::string rows = std::to_string(size().rows);
+    const std::pair<std::string_view, std::string> settings[] = {
+        {"m", sgr_text(style_)},
+        {"r", pair(margins_.top + 1, margins_.bottom)},
+        {"s", pair(margins_.left + 1, margins_.right)},
+        {"t", rows},                             // DECSLPP
+        {"*|", rows},                            // DECSNLS
+        {"$|", std::to_string(size().columns)},  // DECSCPP
+        {" q", std::to_string(inner_.cursor_blinking ? steady - 1 : steady)},
+        {"\"q", guarded_ ? "1" : "0"},
+        {"\"p", level_ == 1 ? "61" : pair(60 + level_, controls)},
+        {"*x", whole_rectangles_ ? "2" : "1"},
+    };
+    for (const auto& [name, value] : settings) {
+        if (name == request) {
+            return value;
+        }
+    }
+    return {};
+}
+
+/// Names in hexadecimal digits, with semicolons between; the answer ends with the first one not known.
+void Engine::xtgettcap(std::string_view request) {
+    std::string known;
+    while (!request.empty()) {
+        const std::string_view name = request.substr(0, request.find(';'));
+        const auto* const found = std::ranges::find(capabilities, from_hexadecimal(name), &Capability::name);
+        if (found == std::end(capabilities)) {
+            break;
+        }
+        known += (known.empty() ? "" : ";") + hexadecimal(found->name) + '=' + hexadecimal(found->value);
+        request.remove_prefix(std::min(name.size() + 1, request.size()));
+    }
+    reply(known.empty() ? "\x1bP0+r\x1b\\" : "\x1bP1+r" + known + "\x1b\\");
+}
+
+/// `1`: what DECSC would save; `2`: the tab stops.
+void Engine::decrqpsr(Function function) {
+    const int report = function.parameters.get(0);
+    if (report == 1) {
+        deccir();
+    } else if (report == 2) {
+        dectabsr();
+    }
+}
+
+/// Cursor information report: row, column, page; attributes, protection and flags as bits; the sets invoked,
+/// their sizes and their names.
+void Engine::deccir() {
+    const int row = inner_.origin ? cursor_.row - margins_.top : cursor_.row;
+    const int column = inner_.origin ? cursor_.column - margins_.left : cursor_.column;
+    std::string text = std::to_string(row + 1) + ';' + std::to_string(column + 1) + ";1;";
+    text += bits({style_.bold, style_.underline != Underline::none, style_.blink, style_.reverse});
+    text += std::string(";") + bits({guarded_}) + ';';
+    text += bits({inner_.origin, sets_.single_shift == 2, sets_.single_shift == 3, cursor_.wrap_pending});
+    text += ';' + std::to_string(sets_.invoked) + ';' + std::to_string(sets_.right) + ';';
+    std::string names;
+    int weight = 1;
+    int sizes = 0x40;
+    for (const CharacterSet set : sets_.designated) {
+        sizes += set == CharacterSet::latin1 ? weight : 0;
+        weight *= 2;
+        names += designation(set);
+    }
+    text += static_cast<char>(sizes);
+    reply("\x1bP1$u" + text + ';' + names + "\x1b\\");
+}
+
+void Engine::dectabsr() {
+    std::string text;
+    for (std::size_t column = 0; column < tabs_.size(); ++column) {
+        if (tabs_[column]) {
+            text += (text.empty() ? "" : "/") + std::to_string(column + 1);
+        }
+    }
+    reply("\x1bP2$u" + text + "\x1b\\");
+}
+
+/// DECRSPS: takes the report of the tab stops back.
+void Engine::decrsps(Function function, std::string_view data) {
+    if (function.parameters.get(0) != 2 || data.find_first_not_of("0123456789/") != std::string_view::npos) {
+        return;
+    }
+    tabs_.assign(tabs_.size(), false);
+    while (!data.empty()) {
+        const std::string_view number = data.substr(0, data.find('/'));
+        std::size_t column = 0;
+        std::from_chars(number.data(), number.data() + number.size(), column);
+        if (column >= 1 && column <= tabs_.size()) {
+            tabs_[column - 1] = true;
+        }
+        data.remove_prefix(std::min(number.size() + 1, data.size()));
+    }
+}
+
+}  // namespace terminal

@@ -1,0 +1,248 @@
+// SPDX-License-Identifier: MIT
+#include "terminal/engine.h"
+#include "terminal/text_codes.h"
+#include "terminal/utf8.h"
+
+#include <algorithm>
+#include <array>
+
+// xterm's window operations: the size and the place of the window, and its titles. Numbers are told to all;
+// changing the window and reading titles is the user's to permit.
+
+namespace terminal {
+
+namespace {
+
+std::string report(int kind, int first, int second) {
+    return "\x1b[" + std::to_string(kind) + ';' + std::to_string(first) + ';' + std::to_string(second) + 't';
+}
+
+std::string report(int kind, WindowGeometry::Extent extent) {
+    return report(kind, extent.height, extent.width);
+}
+
+std::string report(WindowGeometry::Place place) {
+    return report(3, std::max(place.x, 0), std::max(place.y, 0));
+}
+
+/// Which titles an operation names: 0 both, 1 the icon's, 2 the window's.
+bool concerns_icon(int which) { return which == 0 || which == 1; }
+bool concerns_window(int which) { return which == 0 || which == 2; }
+
+}  // namespace
+
+/// The terminal has the new size at once, so that what the program writes next already finds it; the window
+/// follows. One that cannot has the terminal resized again.
+void Engine::request_size(Size wanted) {
+    wanted = within_limits(wanted);
+    if (permissions_.window_operations && wanted != size()) {
+        resize(wanted, {});
+        client_.size_changed();
+    }
+}
+
+void Engine::request_window(WindowRequest::Kind kind, WindowGeometry::Place place) {
+    if (permissions_.window_operations) {
+        client_.window_requested({kind, place});
+    }
+}
+
+/// `height ; width`. What is left out stays, 0 is as much as the screen has.
+void Engine::request_characters(Function function) {
+    const WindowGeometry window = client_.window();
+    const auto wanted = [&function](std::size_t index, int now, int pixels, int cell) {
+        const int value = function.parameters.get(index, now);
+        return value == 0 ? (cell > 0 ? pixels / cell : now) : value;
+    };
+    const int room_x = window.screen.width - (window.window.width - window.text.width);
+    const int room_y = window.screen.height - (window.window.height - window.text.height);
+    request_size({wanted(2, size().columns, room_x, window.cell.width),
+                  wanted(1, size().rows, room_y, window.cell.height)});
+}
+
+void Engine::request_pixels(Function function) {
+    const WindowGeometry window = client_.window();
+    if (window.cell.width == 0 || window.cell.height == 0) {
+        return;
+    }
+    const auto wanted = [&function](std::size_t index, int now, int screen, int cell) {
+        const int value = function.parameters.get(index, now * cell);
+        return (value == 0 ? screen : value) / cell;
+    };
+    request_size({wanted(2, size().columns, window.screen.width, window.cell.width),
+                  wanted(1, size().rows, window.screen.height, window.cell.height)});
+}
+
+/// Whether it was an operation that changes the window.
+bool Engine::change_window(Function function) {
+    using Kind = WindowRequest::Kind;
+    constexpr std::array maximizing = {Kind::unmaximize, Kind::maximize, Kind::maximize_vertically,
+                                       Kind::maximize_horizontally};
+    constexpr std::array filling = {Kind::leave_full_screen, Kind::full_screen, Kind::toggle_full_screen};
+    const auto how = static_cast<std::size_t>(function.parameters.get(1));
+    switch (function.parameters.get(0)) {
+        case 1:
+            request_window(Kind::restore);
+            return true;
+        case 2:
+            request_window(Kind::iconify);
+            return true;
+        case 3:
+            request_window(Kind::move, {function.parameters.get(1), function.parameters.get(2)});
+            return true;
+        case 4:
+            request_pixels(function);
+            return true;
+        case 5:
+            request_window(Kind::raise);
+            return true;
+        case 6:
+            request_window(Kind::lower);
+            return true;
+        case 7:
+            request_window(Kind::refresh);
+            return true;
+        case 8:
+            request_characters(function);
+            return true;
+        case 9:
+            request_window(how < maximizing.size() ? maximizing[how] : Kind::refresh);
+            return true;
+        case 10:
+            request_window(how < filling.size() ? filling[how] : Kind::refresh);
+            return true;
+        default:
+            return false;
+    }
+}
+
+/// In pixels only where there are any.
+void Engine::report_window(Function function) {
+    const WindowGeometry window = client_.window();
+    const bool exists = window.cell.width > 0 && window.cell.height > 0;
+    const bool other = function.parameters.get(1) == 2;
+    switch (function.parameters.get(0)) {
+        case 11:
+            return reply(window.iconified ? "\x1b[2t" : "\x1b[1t");
+        case 13:
+            return exists ? reply(report(other ? window.text_place : window.window_place)) : void();
+        case 14:
+            return exists ? reply(other ? report(4, window.window)
+                                        : report(4, size().rows * window.cell.height,
+                                                 size().columns * window.cell.width))
+                          : void();
+        case 15:
+            return exists ? reply(report(5, window.screen)) : void();
+        case 16:
+            return exists ? reply(report(6, window.cell)) : void();
+        case 18:
+            return reply(report(8, size().rows, size().columns));
+        case 19:
+            return exists ? reply(report(9, window.screen.height / window.cell.height,
+                                         window.screen.width / window.cell.width))
+                          : void();
+        default:
+            return;
+    }
+}
+
+void Engine::xtwinops(Function function) {
+    constexpr int first_lines = 24;
+    const int operation = function.parameters.get(0);
+    switch (operation) {
+        case 20:
+            return report_title('L', icon_title_);
+        case 21:
+            return report_title('l', title_);
+        case 22:
+            return push_titles(function.parameters.get(1));
+        case 23:
+            return pop_titles(function.parameters.get(1));
+        default:
+            break;
+    }
+    if (operation >= first_lines) {  // DECSLPP
+        request_size({size().columns, operation});
+    } else if (!change_window(function)) {
+        report_window(function);
+    }
+}
+
+void Engine::decscpp(Function function) {
+    const int columns = function.parameters.get(0);
+    if (columns == 0 || columns == 80 || columns == 132) {
+        request_size({columns == 0 ? 80 : columns, size().rows});
+    }
+}
+
+void Engine::decsnls(Function function) {
+    const int rows = function.parameters.get(0);
+    if (rows > 0) {
+        request_size({size().columns, rows});
+    }
+}
+
+// Titles.
+
+/// Titles are text that a program chose: without the user's permission they are never sent.
+void Engine::report_title(char kind, const std::string& title) {
+    if (permissions_.window_operations) {
+        reply(std::string("\x1b]") + kind + (hex_title_reports_ ? hexadecimal(title) : title) + "\x1b\\");
+    }
+}
+
+/// OSC 0, 1 and 2.
+void Engine::set_titles(int which, std::string_view text) {
+    std::string decoded;
+    if (hex_titles_) {
+        decoded = from_hexadecimal(text);
+        text = decoded;
+    }
+    const std::string title(cut_utf8(plain_utf8(text), max_title));
+    change_titles({concerns_icon(which) ? std::optional(title) : std::nullopt,
+                   concerns_window(which) ? std::optional(title) : std::nullopt});
+}
+
+void Engine::change_titles(const Titles& titles) {
+    icon_title_ = titles.icon.value_or(icon_title_);
+    if (titles.window) {
+        title_ = *titles.window;
+        client_.title_changed(title_);
+    }
+}
+
+void Engine::push_titles(int which) {
+    if (title_stack_.size() < max_saved_states) {
+        title_stack_.push_back({concerns_icon(which) ? std::optional(icon_title_) : std::nullopt,
+                                concerns_window(which) ? std::optional(title_) : std::nullopt});
+    }
+}
+
+void Engine::pop_titles(int which) {
+    if (title_stack_.empty()) {
+        return;
+    }
+    Titles titles = std::move(title_stack_.back());
+    title_stack_.pop_back();
+    if (!concerns_icon(which)) {
+        titles.icon.reset();
+    }
+    if (!concerns_window(which)) {
+        titles.window.reset();
+    }
+    change_titles(titles);
+}
+
+/// 0: titles are set, 1: reported in hexadecimal digits. (2 and 3, UTF-8, always hold.)
+void Engine::change_title_modes(Function function, bool on) {
+    for (std::size_t i = 0; i < std::max<std::size_t>(function.parameters.size(), 1); ++i) {
+        const int mode = function.parameters.get(i);
+        hex_titles_ = mode == 0 ? on : hex_titles_;
+        hex_title_reports_ = mode == 1 ? on : hex_title_reports_;
+    }
+}
+
+void Engine::xtsmtitle(Function function) { change_title_modes(function, true); }
+void Engine::xtrmtitle(Function function) { change_title_modes(function, false); }
+
+}  // namespace terminal
