@@ -114,6 +114,10 @@ void read_resources() {
     set_pointer_limits(multiclick_timeout, drag_threshold);
     const std::string visual_bell = defaults_get_string("orvik.visualBell", "Orvik.VisualBell", "on");
     main_window().termpane.set_visual_bell(visual_bell == "off" ? VisualBell::off : VisualBell::on);
+    main_window().termpane.permit(
+        {.checksum = defaults_get_boolean("orvik.allowChecksum", "Orvik.AllowChecksum"),
+         .window_operations = defaults_get_boolean("orvik.allowWindowOps", "Orvik.AllowWindowOps"),
+         .clipboard = defaults_get_boolean("orvik.allowClipboard", "Orvik.AllowClipboard")});
 }
 
 CommandLineOptions read_options(const std::vector<std::string>& arguments) {

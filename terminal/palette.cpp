@@ -45,13 +45,20 @@ constexpr std::array<Rgb, Palette::size> make_colours() {
     return colours;
 }
 
-/// The digits as the fraction of the greatest number of that many digits, scaled to 8 bits.
-std::optional<std::uint8_t> parse_component(std::string_view digits) {
+/// How digits fewer or more than two make 8 bits: as a fraction of the greatest number of that many digits,
+/// or as the first of a longer number.
+enum class Scale : std::uint8_t { fraction, leading_digits };
+
+std::optional<std::uint8_t> parse_component(std::string_view digits, Scale scale) {
     unsigned value = 0;
     const char* const end = digits.data() + digits.size();
     const auto result = std::from_chars(digits.data(), end, value, 16);
     if (digits.empty() || digits.size() > 4 || result.ec != std::errc{} || result.ptr != end) {
         return std::nullopt;
+    }
+    if (scale == Scale::leading_digits) {
+        constexpr unsigned whole = 4;
+        return static_cast<std::uint8_t>(value << 4 * (whole - digits.size()) >> 8);
     }
     const unsigned greatest = (1U << 4 * digits.size()) - 1;
     return static_cast<std::uint8_t>((value * 255 + greatest / 2) / greatest);
@@ -61,6 +68,7 @@ std::optional<std::uint8_t> parse_component(std::string_view digits) {
 
 std::optional<Rgb> parse_colour(std::string_view text) {
     std::array<std::string_view, 3> parts;
+    const Scale scale = text.starts_with('#') ? Scale::leading_digits : Scale::fraction;
     if (text.starts_with("rgb:")) {
         text.remove_prefix(4);
         for (std::size_t i = 0; i < 3; ++i) {
@@ -77,9 +85,9 @@ std::optional<Rgb> parse_colour(std::string_view text) {
             parts[i] = text.substr(1 + i * length, length);
         }
     }
-    const auto red = parse_component(parts[0]);
-    const auto green = parse_component(parts[1]);
-    const auto blue = parse_component(parts[2]);
+    const auto red = parse_component(parts[0], scale);
+    const auto green = parse_component(parts[1], scale);
+    const auto blue = parse_component(parts[2], scale);
     if (!red || !green || !blue) {
         return std::nullopt;
     }

@@ -3,12 +3,14 @@
 
 #include "toolkit/resource_database.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cstdlib>
 
 #include <X11/Xlib.h>
 #include <X11/Xresource.h>
+#include <strings.h>
 #include <unistd.h>
 
 namespace {
@@ -64,6 +66,12 @@ std::string defaults_get_string(std::string_view name, std::string_view class_na
         return std::string(fallback);
     }
     return value.addr;
+}
+
+bool defaults_get_boolean(std::string_view name, std::string_view class_name) {
+    const std::string text = defaults_get_string(name, class_name, "");
+    return std::ranges::any_of(std::array{"true", "yes", "on", "1"},
+                               [&text](const char* word) { return strcasecmp(text.c_str(), word) == 0; });
 }
 
 int defaults_get_integer(std::string_view name, std::string_view class_name, int fallback) {

@@ -1,5 +1,6 @@
 # The terminal pane: a session (terminal and shell), the view that shows it, and what goes with them.
 target_sources(toolkit PRIVATE
+    colour_name.cpp
     terminal_accessible.cpp
     terminal_box.cpp
     terminal_box_blocks.cpp
@@ -22,5 +23,6 @@ target_sources(toolkit PRIVATE
     terminal_view_keys.cpp
     terminal_view_links.cpp
     terminal_view_mouse.cpp
+    terminal_view_window.cpp
 )
 target_link_libraries(toolkit PRIVATE fmt::fmt)

@@ -89,16 +89,20 @@ PaneWidget::PaneWidget(QWidget* parent)
     fill_menu({});
     view_->set_menu_callback([this](QPoint place) { show_menu(place); });
     view_->set_find_callback([this] { find_bar_->open(); });
-    session_.set_events({.changed = [this] { view_->content_changed(); },
-                         .bell =
-                             [this] {
-                                 if (view_->ring()) {
-                                     call(events_.bell);
-                                 }
-                             },
-                         .ready = [this] { call(events_.ready); },
-                         .ended = [this] { call(events_.ended); },
-                         .restarted = [this] { call(events_.restarted); }});
+    session_.set_events(
+        {.changed = [this] { view_->content_changed(); },
+         .bell =
+             [this] {
+                 if (view_->ring()) {
+                     call(events_.bell);
+                 }
+             },
+         .ready = [this] { call(events_.ready); },
+         .ended = [this] { call(events_.ended); },
+         .restarted = [this] { call(events_.restarted); },
+         .resized = [this] { view_->follow_size(); },
+         .window_requested = [this](const terminal::WindowRequest& request) { view_->perform(request); }});
+    session_.set_window_source([this] { return view_->window_geometry(); });
 }
 
 void PaneWidget::fill_menu(const std::string& link) {
@@ -123,6 +127,7 @@ void PaneWidget::fill_menu(const std::string& link) {
     menu.addSeparator();
     add("Find...", "Ctrl+Shift+F", [this] { find_bar_->open(); });
     add("Clear", "", [this] { session_.clear(); });
+    add("Reset", "", [this] { session_.reset(); });
 }
 
 void PaneWidget::show_menu(QPoint place) {
@@ -152,6 +157,8 @@ void TerminalPane::set_font(const Font& font) {
 }
 
 void TerminalPane::set_focus() { pane_->view().setFocus(); }
+
+void TerminalPane::permit(const terminal::Permissions& permissions) { pane_->session().permit(permissions); }
 
 void TerminalPane::clear() { pane_->session().clear(); }
 

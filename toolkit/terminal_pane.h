@@ -3,6 +3,7 @@
 
 #include "terminal/input.h"
 #include "terminal/pty.h"
+#include "terminal/terminal.h"
 #include "toolkit/font.h"
 #include "toolkit/panel.h"
 
@@ -49,6 +50,7 @@ class TerminalPane {
     [[nodiscard]] QWidget* widget() const;
     void set_font(const Font& font);
     void set_focus();
+    void permit(const terminal::Permissions& permissions);
     /// Empties the text, with the scrollback.
     void clear();
     void ring_bell();

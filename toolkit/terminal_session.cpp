@@ -1,7 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "toolkit/terminal_session.h"
 
+#include "toolkit/colour_name.h"
 #include "toolkit/terminal_colours.h"
+#include "toolkit/text_conversion.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
 
 #include <array>
 #include <csignal>
@@ -32,11 +37,13 @@ constexpr int readiness_limit_milliseconds = 1500;
 constexpr int password_limit_milliseconds = 60'000;
 // Output can ask for answers faster than a program that does not listen takes them.
 constexpr std::size_t unread_replies_limit = 1'048'576;
+constexpr std::size_t window_requests_limit = 16;  // in one piece of output
 
-// Takes back what a program that ended untidily may have left: margins and modes (DECSTR), mouse and
-// focus reports, brackets around pastes, an open update.
+// Takes back what a program that ended untidily may have left: VT52 mode and other forms of controls and
+// text, margins and modes (DECSTR), mouse and focus reports, brackets around pastes, an open update.
 constexpr std::string_view tidy_up =
-    "\x1b[?2026l\x1b[!p\x1b[?9;1000;1002;1003;1004;1005;1006;1015;2004l\x1b[?7h\x1b[0m";
+    "\x1b[?2h\x1b F\x1b%G\x1b[?2026l\x1b[!p\x1b[?9;1000;1002;1003;1004;1005;1006;1015;1016;2004l\x1b[?7;8h"
+    "\x1b[12h\x1b[0m";
 
 /// Names from the C library, without the "SIG" before them.
 std::string end_text(int status) {
@@ -153,10 +160,9 @@ void TerminalSession::watch_readiness() {
 }
 
 void TerminalSession::await_echo() {
-    const bool asks_for_password = pty_ && pty_->reads_lines() && !pty_->echoes();
     const bool typing = since_key_.isValid() && !since_key_.hasExpired(recent_key_milliseconds);
     const int quiet = typing ? echo_quiet_milliseconds : 0;
-    int wait = asks_for_password ? 0 : echo_due_ ? echo_limit_milliseconds : quiet;
+    int wait = asks_for_password() ? 0 : echo_due_ ? echo_limit_milliseconds : quiet;
     QElapsedTimer clock;
     clock.start();
     while (pty_ && clock.elapsed() <= echo_limit_milliseconds) {
@@ -171,6 +177,7 @@ void TerminalSession::await_echo() {
 
 void TerminalSession::show(std::string_view text) {
     terminal_.write_local(text);
+    do_requests();
     if (events_.changed) {
         events_.changed();
     }
@@ -193,6 +200,13 @@ void TerminalSession::clear() {
     }
 }
 
+void TerminalSession::reset() {
+    terminal_.reset();
+    if (events_.changed) {
+        events_.changed();
+    }
+}
+
 bool TerminalSession::update_is_open() const {
     return terminal_.modes().synchronized_output && update_open_.isValid() &&
            !update_open_.hasExpired(update_limit_milliseconds);
@@ -207,6 +221,62 @@ void TerminalSession::reply(std::string_view bytes) {
 void TerminalSession::bell() {
     if (events_.bell) {
         events_.bell();
+    }
+}
+
+bool TerminalSession::asks_for_password() const { return pty_ && pty_->reads_lines() && !pty_->echoes(); }
+
+void TerminalSession::size_changed() { requests_.resized = true; }
+
+void TerminalSession::window_requested(const terminal::WindowRequest& request) {
+    if (requests_.window.size() < window_requests_limit) {
+        requests_.window.push_back(request);
+    }
+}
+
+/// As it will be when what the program has asked for is done.
+terminal::WindowGeometry TerminalSession::window() const {
+    terminal::WindowGeometry geometry = window_ ? window_() : terminal::WindowGeometry{};
+    for (const terminal::WindowRequest& request : requests_.window) {
+        using Kind = terminal::WindowRequest::Kind;
+        if (request.kind == Kind::iconify || request.kind == Kind::restore) {
+            geometry.iconified = request.kind == Kind::iconify;
+        } else if (request.kind == Kind::move) {
+            geometry.window_place = request.place;
+        }
+    }
+    return geometry;
+}
+
+std::optional<terminal::Rgb> TerminalSession::named_colour(std::string_view name) { return x_colour(name); }
+
+void TerminalSession::selection_written(Selection selection, std::string_view text) {
+    requests_.selection = {selection, std::string(text)};
+}
+
+/// Shows what the program has written, and then does what it has asked for.
+void TerminalSession::feed(std::string_view bytes) {
+    terminal_.write(bytes);
+    note_update_state();
+    if (requests_.resized || !requests_.window.empty() || requests_.selection) {
+        do_requests();
+    }
+}
+
+void TerminalSession::do_requests() {
+    const Requests requests = std::exchange(requests_, {});
+    if (requests.resized && events_.resized) {
+        events_.resized();
+    }
+    for (const terminal::WindowRequest& request : requests.window) {
+        if (events_.window_requested) {
+            events_.window_requested(request);
+        }
+    }
+    if (requests.selection) {
+        const auto mode =
+            requests.selection->first == Selection::clipboard ? QClipboard::Clipboard : QClipboard::Selection;
+        QGuiApplication::clipboard()->setText(to_qstring(requests.selection->second), mode);
     }
 }
 
@@ -232,8 +302,7 @@ void TerminalSession::read_slice() {
         if (state != terminal::Pty::ReadState::data) {
             break;
         }
-        terminal_.write({buffer.data(), result.size});
-        note_update_state();
+        feed({buffer.data(), result.size});
         total += result.size;
     }
     if (total > 0) {

@@ -14,6 +14,8 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 /// A terminal with the program that runs in it: moves bytes between the two in bounded slices of the event
 /// loop's time, and starts the program anew when asked to. Knows no window.
@@ -26,6 +28,8 @@ class TerminalSession final : private terminal::Client {
         std::function<void()> ready;      ///< a program that was started is ready for commands
         std::function<void()> ended;      ///< the program has ended and this was announced
         std::function<void()> restarted;  ///< the user has started it anew
+        std::function<void()> resized;    ///< the program has given the terminal another size
+        std::function<void(const terminal::WindowRequest&)> window_requested;
     };
 
     explicit TerminalSession(std::size_t scrollback_rows);
@@ -33,6 +37,9 @@ class TerminalSession final : private terminal::Client {
     TerminalSession(const TerminalSession&) = delete;
     TerminalSession& operator=(const TerminalSession&) = delete;
     void set_events(Events events) { events_ = std::move(events); }
+    /// What tells the program about the window; must not act on the session.
+    void set_window_source(std::function<terminal::WindowGeometry()> source) { window_ = std::move(source); }
+    void permit(const terminal::Permissions& permissions) { terminal_.permit(permissions); }
 
     /// Starts the program, and after it has ended starts it anew. A failure is shown in the terminal.
     void start(const terminal::Program& program);
@@ -57,11 +64,15 @@ class TerminalSession final : private terminal::Client {
     void resize(terminal::Size size, int pixel_width, int pixel_height,
                 std::span<terminal::Position> anchors);
     void clear();
+    /// As a new terminal; the scrollback stays.
+    void reset();
 
     [[nodiscard]] const terminal::Terminal& terminal() const { return terminal_; }
     [[nodiscard]] const terminal::Pty* pty() const { return pty_.get(); }
     /// A program ran and has ended.
     [[nodiscard]] bool has_ended() const { return state_ == State::ended; }
+    /// The program reads a line without showing it.
+    [[nodiscard]] bool asks_for_password() const;
     /// The program has begun an update of the screen that should be seen whole (mode 2026), and not taken
     /// unduly long.
     [[nodiscard]] bool update_is_open() const;
@@ -72,8 +83,15 @@ class TerminalSession final : private terminal::Client {
     void reply(std::string_view bytes) override;
     void bell() override;
     void title_changed(std::string_view title) override;
+    void size_changed() override;
+    void window_requested(const terminal::WindowRequest& request) override;
+    [[nodiscard]] terminal::WindowGeometry window() const override;
+    std::optional<terminal::Rgb> named_colour(std::string_view name) override;
+    void selection_written(Selection selection, std::string_view text) override;
 
     void write(std::string_view bytes);
+    void feed(std::string_view bytes);
+    void do_requests();
     void read_slice();
     void write_pending();
     void check_for_end();
@@ -85,7 +103,16 @@ class TerminalSession final : private terminal::Client {
     void watch_readiness();
     [[nodiscard]] bool is_ready() const;
 
+    /// What the program has asked for and is done when the terminal has been written to.
+    struct Requests {
+        bool resized = false;
+        std::vector<terminal::WindowRequest> window;
+        std::optional<std::pair<Selection, std::string>> selection;
+    };
+
     Events events_;
+    std::function<terminal::WindowGeometry()> window_;
+    Requests requests_;
     terminal::Terminal terminal_;
     std::optional<terminal::Program> program_;
     std::unique_ptr<terminal::Pty> pty_;

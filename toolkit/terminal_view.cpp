@@ -42,6 +42,8 @@ TerminalView::TerminalView(TerminalSession& session, QScrollBar& scroll_bar, QWi
     frame_timer_.setSingleShot(true);
     frame_timer_.setTimerType(Qt::PreciseTimer);
     connect(&frame_timer_, &QTimer::timeout, this, [this] { frame(); });
+    settle_timer_.setSingleShot(true);
+    connect(&settle_timer_, &QTimer::timeout, this, [this] { settle(); });
     connect(&scroll_bar_, &QScrollBar::valueChanged, this,
             [this](int value) { scroll_to(terminal().first_row() + value); });
     connect(QGuiApplication::clipboard(), &QClipboard::selectionChanged, this,
@@ -70,10 +72,14 @@ void TerminalView::resizeEvent(QResizeEvent* /*event*/) {
     fit_to_size();
 }
 
+terminal::Size TerminalView::room_for_text() const {
+    return {std::max(smallest.columns, (width() - 2 * margin) / font_->cell_width()),
+            std::max(smallest.rows, (height() - 2 * margin) / font_->cell_height())};
+}
+
 void TerminalView::fit_to_size() {
-    const terminal::Size size{std::max(smallest.columns, (width() - 2 * margin) / font_->cell_width()),
-                              std::max(smallest.rows, (height() - 2 * margin) / font_->cell_height())};
-    if (laid_out_ && size != terminal().size()) {
+    const terminal::Size size = room_for_text();
+    if (laid_out_ && size != terminal().size() && !settle_timer_.isActive()) {
         std::vector<Position> anchors(selection_.anchors().begin(), selection_.anchors().end());
         anchors.insert(anchors.end(), {match_.begin, match_.end, Position{top_row(), 0}});
         session_.resize(size, size.columns * font_->cell_width(), size.rows * font_->cell_height(), anchors);

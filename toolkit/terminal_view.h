@@ -74,6 +74,12 @@ class TerminalView final : public QWidget {
     /// The address of the link at a point; empty where none is.
     [[nodiscard]] std::string link_at(QPointF point) const;
 
+    // The window, for the program in the terminal.
+    [[nodiscard]] terminal::WindowGeometry window_geometry() const;
+    void perform(const terminal::WindowRequest& request);
+    /// The program has given the terminal another size.
+    void follow_size();
+
     /// The text as assistive tools read it.
     [[nodiscard]] TerminalReader& reader() { return *reader_; }
 
@@ -140,6 +146,8 @@ class TerminalView final : public QWidget {
 
     // Geometry and scrolling.
     void fit_to_size();
+    [[nodiscard]] terminal::Size room_for_text() const;
+    void settle();
     [[nodiscard]] terminal::RowId top_row() const;
     void update_scroll_bar();
     void scroll_to(terminal::RowId top);
@@ -179,6 +187,8 @@ class TerminalView final : public QWidget {
     std::unique_ptr<TerminalReader> reader_;
     TerminalSelection selection_;
     terminal::Range match_;
+    QTimer settle_timer_;  ///< runs while the window follows the terminal's size
+    QSize settled_size_;   ///< ours when it has
     std::function<bool(KeyEvent&)> interposer_;
     QMenu* menu_;
     std::function<void(QPoint)> show_menu_;

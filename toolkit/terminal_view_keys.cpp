@@ -141,12 +141,16 @@ void TerminalView::type_key(const KeyEvent& event) {
         }
         return;
     }
-    const std::string bytes =
-        terminal::encode_key(event.key, event.modifiers, event.text, terminal().modes());
-    if (bytes.empty()) {
+    const terminal::Modes& modes = terminal().modes();
+    const std::string bytes = terminal::encode_key(event.key, event.modifiers, event.text, modes);
+    const bool ignored = modes.keyboard_locked || (event.repeated && !modes.auto_repeat);
+    if (bytes.empty() || ignored) {
         return;
     }
     session_.type(bytes);
+    if (modes.local_echo && !session_.asks_for_password()) {
+        session_.show(bytes);
+    }
     scroll_to_bottom();
     restart_cursor_blinking();
 }

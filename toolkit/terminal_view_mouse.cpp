@@ -48,13 +48,17 @@ bool TerminalView::report_mouse(MouseAction action, MouseButton button, QPointF 
                                 Qt::KeyboardModifiers modifiers) {
     Position place = position_at(point);
     place.row -= top_row();
+    const terminal::Modes& modes = terminal().modes();
+    if (modes.mouse_encoding == terminal::MouseEncoding::sgr_pixels) {
+        const QPoint pixel = point.toPoint() - cell_area({top_row(), 0}).topLeft();
+        place = {std::max(pixel.y(), 0), std::max(pixel.x(), 0)};
+    }
     if (action == MouseAction::motion && place == mouse_.last_report) {
         return true;
     }
     mouse_.last_report = place;
-    const std::optional<std::string> report =
-        encode_mouse(action, button, to_modifiers(modifiers), place.column, static_cast<int>(place.row),
-                     terminal().modes());
+    const std::optional<std::string> report = encode_mouse(action, button, to_modifiers(modifiers),
+                                                           place.column, static_cast<int>(place.row), modes);
     if (report) {
         session_.type(*report);
     }

@@ -5,4 +5,5 @@ target_sources(toolkit_test PRIVATE
     terminal_painter_test.cpp
     terminal_pane_test.cpp
     terminal_reader_test.cpp
+    terminal_window_test.cpp
 )
