@@ -109,6 +109,7 @@ struct Engine::Tables {
         {" ", 'q', &Engine::decscusr},
         {"\"", 'p', &Engine::decscl},
         {"\"", 'q', &Engine::decsca, 2},
+        {"\"", 'v', &Engine::decrqde, 3},
         {"#", 'p', &Engine::xtpushsgr},
         {"#", 'q', &Engine::xtpopsgr},
         {"#", 'y', &Engine::xtchecksum},
@@ -128,6 +129,7 @@ struct Engine::Tables {
         {"*", 'x', &Engine::decsace, 4},
         {"*", 'y', &Engine::decrqcra},
         {"*", '|', &Engine::decsnls, 4},
+        {"'", '|', &Engine::decrqlp},
         {"'", '}', &Engine::decic, 4},
         {"'", '~', &Engine::decdc, 4},
     };

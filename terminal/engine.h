@@ -112,7 +112,7 @@ class Engine final : public ParserHandler {
         // Kept, without effect here: DECSCLM, DECPFF, DECPEX.
         bool smooth_scroll = false;
         bool printer_form_feed = false;
-        bool printer_extent = true;
+        bool printer_extent = false;
         bool cursor_visible = true;    // DECTCEM
         bool cursor_blinking = false;  // xterm 12, DECSCUSR
     };
@@ -163,7 +163,6 @@ class Engine final : public ParserHandler {
     void line_feed();
     void reverse_line_feed();
     void back(int count);
-    bool back_to_previous_row();
     void tab(int count);
     void back_tab(int count);
     void save_cursor();
@@ -265,6 +264,7 @@ class Engine final : public ParserHandler {
     void set_saved_cursor(bool on);
     void set_send_receive(bool on);
     [[nodiscard]] bool has_send_receive() const { return !modes_.local_echo; }
+    void set_autowrap(bool on);
     void set_ansi(bool on);
     void set_columns(bool on);
     void set_allow_alternate(bool on);
@@ -323,6 +323,8 @@ class Engine final : public ParserHandler {
     void decreqtparm(Function function);
     void xtversion(Function function);
     void decrqupss(Function function);
+    void decrqlp(Function function);
+    void decrqde(Function function);
     void report_position(std::string_view introducer, std::string_view end);
     void report_checksum(int id, int sum);
 

@@ -64,8 +64,9 @@ void Engine::reverse_line_feed() {
     cursor_.wrap_pending = false;
 }
 
-/// To the left, and with reverse wrap-around (xterm's modes 45 and 1045) on to the end of the row above. A
-/// pending wrap then counts as a column.
+/// To the left, and with reverse wrap-around on to the end of the row above, from the top row to the last
+/// one. A pending wrap then counts as a column. (Since its version 383 xterm goes only to rows that wrap,
+/// unless mode 1045 is set too; here, as before, both modes do the same.)
 void Engine::back(int count) {
     if (!inner_.autowrap || !(inner_.reverse_wrap || inner_.far_reverse_wrap)) {
         move_horizontally(-count);
@@ -73,29 +74,14 @@ void Engine::back(int count) {
     }
     count = std::min(count, size().columns * size().rows) - (cursor_.wrap_pending ? 1 : 0);
     cursor_.wrap_pending = false;
-    for (bool moved = true; count > 0 && moved; --count) {
-        const bool at_left = cursor_.column == margins_.left || cursor_.column == 0;
-        if (at_left) {
-            moved = back_to_previous_row();
+    for (; count > 0; --count) {
+        if (cursor_.column == margins_.left || cursor_.column == 0) {
+            const bool at_top = cursor_.row == margins_.top || cursor_.row == 0;
+            move_to(at_top ? margins_.bottom - 1 : cursor_.row - 1, margins_.right - 1);
         } else {
             --cursor_.column;
         }
     }
-}
-
-/// Only to a row that wraps, in mode 45; in 1045 to any, from the top one to the bottom.
-bool Engine::back_to_previous_row() {
-    const bool at_top = cursor_.row == margins_.top || cursor_.row == 0;
-    if (inner_.far_reverse_wrap) {
-        move_to(at_top ? margins_.bottom - 1 : cursor_.row - 1, margins_.right - 1);
-        return true;
-    }
-    const bool marked = margins_.width() == size().columns;  // rows that wrap at side margins are not
-    if (at_top || (marked && !screen_->wrapped(cursor_.row - 1))) {
-        return false;
-    }
-    move_to(cursor_.row - 1, margins_.right - 1);
-    return true;
 }
 
 void Engine::tab(int count) {

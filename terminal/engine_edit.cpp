@@ -21,13 +21,15 @@ void Engine::erase_row(int row, int from, int to, Erasure erasure) {
 }
 
 /// With a wrap pending the cursor stands behind the last column: erasing from there to the end of the row
-/// spares the character before it, or programs that end coloured text with EL would lose it.
+/// spares the character before it, or programs that end coloured text with EL would lose it. Where it is
+/// erased no wrap is pending any more.
 void Engine::erase_in_row(Which which, Erasure erasure) {
     const int columns = size().columns;
     const int behind = cursor_.wrap_pending ? cursor_.column + 1 : cursor_.column;
     const int from = which == Which::cursor_to_end ? behind : 0;
     const int to = which == Which::begin_to_cursor ? cursor_.column + 1 : columns;
     erase_row(cursor_.row, from, to, erasure);
+    cursor_.wrap_pending = cursor_.wrap_pending && which == Which::cursor_to_end;
 }
 
 void Engine::erase_on_screen(Which which, Erasure erasure) {

@@ -89,7 +89,7 @@ std::span<const Engine::Mode> Engine::Mode::dec() {
         of<&InnerModes::smooth_scroll>(4),
         {5, &Engine::set_reverse_video, &Engine::mode<&Modes::reverse_video>},
         {6, &Engine::set_origin, &Engine::mode<&InnerModes::origin>},
-        of<&InnerModes::autowrap>(7),
+        {7, &Engine::set_autowrap, &Engine::mode<&InnerModes::autowrap>},
         of<&Modes::auto_repeat>(8),
         of_tracking<MouseTracking::press>(9),
         of<&InnerModes::cursor_blinking>(12),
@@ -139,18 +139,26 @@ struct FixedMode {
     int state;
 };
 
-/// Modes of ECMA-48 that a terminal like this cannot set: GATM, SRTM, VEM, HEM, PUM, FEAM, FETM, MATM, TTM,
-/// SATM, TSM, EBM.
+/// Modes of ECMA-48 that a terminal like this cannot set: GATM, CRM, SRTM, VEM, HEM, PUM, FEAM, FETM, MATM,
+/// TTM, SATM, TSM, EBM.
 constexpr FixedMode fixed_ansi[] = {
-    {1, mode_always_reset},  {5, mode_always_reset},  {7, mode_always_reset},  {10, mode_always_reset},
-    {11, mode_always_reset}, {13, mode_always_reset}, {14, mode_always_reset}, {15, mode_always_reset},
-    {16, mode_always_reset}, {17, mode_always_reset}, {18, mode_always_reset}, {19, mode_always_reset},
+    {1, mode_always_reset},  {3, mode_always_reset},  {5, mode_always_reset},  {7, mode_always_reset},
+    {10, mode_always_reset}, {11, mode_always_reset}, {13, mode_always_reset}, {14, mode_always_reset},
+    {15, mode_always_reset}, {16, mode_always_reset}, {17, mode_always_reset}, {18, mode_always_reset},
+    {19, mode_always_reset},
 };
-/// DECHCCM, DECVCCM and DECPCCM (a screen shows its whole page), DECKBUM, DECXRLM, DECKPM; alt and meta send
-/// an escape before the key (xterm).
+/// DECHCCM, DECVCCM and DECPCCM (a screen shows its whole page), DECKBUM, DECXRLM, DECKPM; and xterm's: the
+/// margin's bell, logging, highlight tracking, scrolling at output and at keys, alt and meta by the eighth
+/// bit or by an escape, Delete as DEL, selections and bells that do more, and other function keys.
 constexpr FixedMode fixed_dec[] = {
-    {60, mode_always_reset}, {61, mode_always_reset}, {64, mode_always_reset}, {68, mode_always_reset},
-    {73, mode_always_reset}, {81, mode_always_reset}, {1036, mode_always_set}, {1039, mode_always_set},
+    {44, mode_always_reset},   {46, mode_always_reset},   {60, mode_always_reset},
+    {61, mode_always_reset},   {64, mode_always_reset},   {68, mode_always_reset},
+    {73, mode_always_reset},   {81, mode_always_reset},   {1001, mode_always_reset},
+    {1010, mode_always_reset}, {1011, mode_always_set},   {1034, mode_always_reset},
+    {1036, mode_always_set},   {1037, mode_always_reset}, {1039, mode_always_set},
+    {1041, mode_always_reset}, {1042, mode_always_reset}, {1043, mode_always_reset},
+    {1050, mode_always_reset}, {1051, mode_always_reset}, {1052, mode_always_reset},
+    {1053, mode_always_reset}, {1060, mode_always_reset},
 };
 
 }  // namespace
@@ -209,6 +217,12 @@ void Engine::decrqm(Function function) {
 }
 
 void Engine::set_send_receive(bool on) { modes_.local_echo = !on; }
+
+/// A wrap that was pending is off too.
+void Engine::set_autowrap(bool on) {
+    inner_.autowrap = on;
+    cursor_.wrap_pending = cursor_.wrap_pending && on;
+}
 
 /// A VT52 has one character set and no margins.
 void Engine::set_ansi(bool on) {

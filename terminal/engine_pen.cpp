@@ -2,7 +2,7 @@
 #include "terminal/engine.h"
 #include "terminal/sgr.h"
 
-#include <algorithm>
+#include <array>
 
 // What text gets on its way to the screen: attributes, protection, character sets; the cursor's look; and how
 // keys are sent.
@@ -82,8 +82,13 @@ void Engine::xtunmodkeys(Function function) {
 }
 
 void Engine::xtqmodkeys(Function function) {
-    if (function.parameters.get(0) == modify_other_keys) {
+    constexpr std::array fixed = {0, 2, 2};  // keyboard, cursor keys, function keys
+    const int which = function.parameters.get(0);
+    if (which == modify_other_keys) {
         reply("\x1b[>4;" + std::to_string(modes_.modify_other_keys) + 'm');
+    } else if (which < static_cast<int>(fixed.size())) {
+        reply("\x1b[>" + std::to_string(which) + ';' +
+              std::to_string(fixed[static_cast<std::size_t>(which)]) + 'm');
     }
 }
 

@@ -24,8 +24,9 @@ void Engine::reply(std::string_view bytes) {
     client_.reply(short_form);
 }
 
-/// What the terminal is at a conformance level: up to 64, a VT420. Then: 132 columns, selective erase,
-/// national sets, technical characters, state reports, windows, horizontal scrolling, colours, rectangles.
+/// What the terminal is at a conformance level: up to 64, a VT420. Then: 132 columns, printer port, selective
+/// erase, national sets, technical characters, locator port, state reports, windows, horizontal scrolling,
+/// colours, rectangles. Nothing is connected to the ports, as the status reports say.
 void Engine::da1(Function function) {
     if (function.parameters.get(0) != 0) {
         return;
@@ -34,7 +35,7 @@ void Engine::da1(Function function) {
         reply("\x1b[?1;2c");  // a VT100 with advanced video
         return;
     }
-    reply("\x1b[?" + std::to_string(60 + level_) + ";1;6;9;15;17;18;21;22;28c");
+    reply("\x1b[?" + std::to_string(60 + level_) + ";1;2;6;9;15;16;17;18;21;22;28c");
 }
 
 void Engine::decid(Function /*function*/) { da1({}); }
@@ -124,6 +125,14 @@ void Engine::decreqtparm(Function function) {
     if (kind <= 1) {
         reply("\x1b[" + std::to_string(kind + 2) + ";1;1;128;128;1;0x");
     }
+}
+
+/// DECRQLP: there is no locator.
+void Engine::decrqlp(Function /*function*/) { reply("\x1b[0&w"); }
+
+/// DECRQDE: rows and columns, the first of each, and the page.
+void Engine::decrqde(Function /*function*/) {
+    reply("\x1b[" + std::to_string(size().rows) + ';' + std::to_string(size().columns) + ";1;1;1\"w");
 }
 
 /// The user-preferred supplemental set is DEC's, of 94 characters.

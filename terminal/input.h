@@ -92,8 +92,8 @@ enum class MouseButton : std::uint8_t {
     wheel_right
 };
 
-/// The report of a mouse event at a screen position counted from 0 (in pixels for `sgr_pixels`), in the tracking mode and encoding in
-/// force. Nothing when the mode does not report that event.
+/// The report of a mouse event at a screen position counted from 0 (in pixels for `sgr_pixels`), in the
+/// tracking mode and encoding in force. Nothing when the mode does not report that event.
 std::optional<std::string> encode_mouse(MouseAction action, MouseButton button, Modifiers modifiers,
                                         int column, int row, const Modes& modes);
 

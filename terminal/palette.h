@@ -14,7 +14,8 @@
 namespace terminal {
 
 /// A colour as programs give it (XParseColor): "rgb:h/h/h" to "rgb:hhhh/hhhh/hhhh", or "#" with three, six,
-/// nine or twelve digits, of which the first two count ("#f00" is 240 of red). What the X server or Xlib knows besides is not known here.
+/// nine or twelve digits, of which the first two count ("#f00" is 240 of red). What the X server or Xlib
+/// knows besides is not known here.
 std::optional<Rgb> parse_colour(std::string_view text);
 /// The colour as a reply gives it: "rgb:hhhh/hhhh/hhhh".
 std::string colour_text(Rgb colour);
