@@ -194,6 +194,7 @@ void Engine::control(char c0) {
         default:
             break;
     }
+    last_character_ = 0;
     assert(is_consistent());
 }
 
@@ -204,6 +205,7 @@ void Engine::escape_sequence(const ControlFunction& function) {
     } else if (const Handler handler = Tables::find(Tables::escapes, function, level_)) {
         (this->*handler)(function);
     }
+    last_character_ = 0;
     assert(is_consistent());
 }
 
@@ -211,9 +213,13 @@ void Engine::control_sequence(const ControlFunction& function) {
     const bool is_plain = function.prefix == 0 && function.intermediate_count == 0;
     const Handler handler = is_plain ? Tables::plain[static_cast<std::size_t>(function.final) - 0x30]
                                      : Tables::find(Tables::sequences, function, level_);
-    if (handler != nullptr) {
+    // Sub-parameters are known of character attributes only; with them another function is ignored, as a
+    // VT500 ignores it for its colon.
+    const bool has_attributes = function.final == 'm' || (function.final == 'r' && !is_plain);
+    if (handler != nullptr && (has_attributes || !function.parameters.has_subs())) {
         (this->*handler)(function);
     }
+    last_character_ = 0;
     assert(is_consistent());
 }
 

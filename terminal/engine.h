@@ -91,7 +91,6 @@ class Engine final : public ParserHandler {
         bool guarded = false;
         bool area_guarded = false;
         bool origin = false;
-        bool autowrap = true;
         bool saved = false;  // by a program
         CharacterSets sets;
     };
@@ -218,6 +217,8 @@ class Engine final : public ParserHandler {
     void decic(Function function);
     void decdc(Function function);
     void decaln(Function function);
+    void insert_columns(int column, int count);
+    void delete_columns(int column, int count);
 
     // engine_rectangle.cpp: DEC's rectangular areas
     void decera(Function function);
@@ -398,7 +399,7 @@ class Engine final : public ParserHandler {
     InnerModes inner_;
     std::vector<std::pair<int, bool>> saved_modes_;
     CharacterSets sets_;
-    char32_t last_character_ = 0;              // for REP
+    char32_t last_character_ = 0;              // for REP; 0 behind a control function
     bool whole_rectangles_ = false;            // DECSACE
     int checksum_flags_ = 0;                   // XTCHECKSUM
     int level_ = top_level;                    // of conformance (DECSCL)

@@ -76,8 +76,10 @@ void Engine::back(int count) {
     cursor_.wrap_pending = false;
     for (; count > 0; --count) {
         if (cursor_.column == margins_.left || cursor_.column == 0) {
-            const bool at_top = cursor_.row == margins_.top || cursor_.row == 0;
-            move_to(at_top ? margins_.bottom - 1 : cursor_.row - 1, margins_.right - 1);
+            const int above = cursor_.row == margins_.top ? margins_.bottom - 1
+                              : cursor_.row == 0          ? size().rows - 1
+                                                          : cursor_.row - 1;
+            move_to(above, margins_.right - 1);
         } else {
             --cursor_.column;
         }
@@ -115,7 +117,7 @@ void Engine::reset_tabs(int from) {
 }
 
 void Engine::save_cursor() {
-    saved() = {cursor_, style_, guarded_, area_guarded_, inner_.origin, inner_.autowrap, true, sets_};
+    saved() = {cursor_, style_, guarded_, area_guarded_, inner_.origin, true, sets_};
 }
 
 void Engine::restore_cursor() {
@@ -126,8 +128,11 @@ void Engine::restore_cursor() {
     change_pen();
     sets_ = from.sets;
     inner_.origin = from.origin;
-    inner_.autowrap = from.autowrap;
     move_to(from.place.row, from.place.column);
+    if (inner_.origin) {  // the margins may be others by now
+        move_to(std::clamp(cursor_.row, margins_.top, margins_.bottom - 1),
+                std::clamp(cursor_.column, margins_.left, margins_.right - 1));
+    }
     cursor_.wrap_pending = from.place.wrap_pending && from.place.column == cursor_.column;
 }
 
@@ -208,9 +213,7 @@ void Engine::decbi(Function /*function*/) {
     if (cursor_.column != margins_.left) {
         move_to(cursor_.row, cursor_.column - 1);
     } else if (margins_.contains(cursor_.row, cursor_.column)) {
-        for (int row = margins_.top; row < margins_.bottom; ++row) {
-            screen_->insert_cells(row, margins_.left, margins_.right, 1, blank());
-        }
+        insert_columns(margins_.left, 1);
     }
 }
 
@@ -218,9 +221,7 @@ void Engine::decfi(Function /*function*/) {
     if (cursor_.column != margins_.right - 1) {
         move_to(cursor_.row, cursor_.column + 1);
     } else if (margins_.contains(cursor_.row, cursor_.column)) {
-        for (int row = margins_.top; row < margins_.bottom; ++row) {
-            screen_->delete_cells(row, margins_.left, margins_.right, 1, blank());
-        }
+        delete_columns(margins_.left, 1);
     }
 }
 

@@ -159,39 +159,47 @@ void Engine::sd(Function function) {
     }
 }
 
+/// SL and SR move the text within the margins, and only when the cursor is there, as on xterm.
 void Engine::sl(Function function) {
-    for (int row = margins_.top; row < margins_.bottom; ++row) {
-        screen_->delete_cells(row, margins_.left, margins_.right, function.parameters.count(0), blank());
+    if (margins_.contains(cursor_.row, cursor_.column)) {
+        delete_columns(margins_.left, function.parameters.count(0));
     }
 }
 
 void Engine::sr(Function function) {
-    for (int row = margins_.top; row < margins_.bottom; ++row) {
-        screen_->insert_cells(row, margins_.left, margins_.right, function.parameters.count(0), blank());
+    if (margins_.contains(cursor_.row, cursor_.column)) {
+        insert_columns(margins_.left, function.parameters.count(0));
     }
 }
 
 void Engine::decic(Function function) {
-    if (!margins_.contains(cursor_.row, cursor_.column)) {
-        return;
-    }
-    for (int row = margins_.top; row < margins_.bottom; ++row) {
-        screen_->insert_cells(row, cursor_.column, margins_.right, function.parameters.count(0), blank());
+    if (margins_.contains(cursor_.row, cursor_.column)) {
+        insert_columns(cursor_.column, function.parameters.count(0));
     }
 }
 
 void Engine::decdc(Function function) {
-    if (!margins_.contains(cursor_.row, cursor_.column)) {
-        return;
+    if (margins_.contains(cursor_.row, cursor_.column)) {
+        delete_columns(cursor_.column, function.parameters.count(0));
     }
+}
+
+/// In all rows within the margins, from `column` to the right margin.
+void Engine::insert_columns(int column, int count) {
     for (int row = margins_.top; row < margins_.bottom; ++row) {
-        screen_->delete_cells(row, cursor_.column, margins_.right, function.parameters.count(0), blank());
+        screen_->insert_cells(row, column, margins_.right, count, blank());
+    }
+}
+
+void Engine::delete_columns(int column, int count) {
+    for (int row = margins_.top; row < margins_.bottom; ++row) {
+        screen_->delete_cells(row, column, margins_.right, count, blank());
     }
 }
 
 void Engine::decaln(Function /*function*/) {
     reset_margins();
-    inner_.origin = inner_.side_margins = false;
+    inner_.origin = false;
     screen_->fill(screen_->all(), {U'E', 0, 0});
     move_to(0, 0);
 }

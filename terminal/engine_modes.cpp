@@ -301,7 +301,7 @@ void Engine::set_alternate_cleared(bool on) {
 }
 
 void Engine::set_alternate_saved(bool on) {
-    if (is_alternate() == on || !inner_.allow_alternate) {
+    if (!inner_.allow_alternate || (!on && !is_alternate())) {
         return;
     }
     if (!on) {

@@ -47,6 +47,7 @@ bool is_colour(int index) { return index >= 0 && index < special_base + special_
 void Engine::operating_system_command(std::string_view data) {
     const std::string_view text = take_field(data);
     const int number = parse_number(text);
+    last_character_ = 0;
     switch (number) {
         case 0:
         case 1:

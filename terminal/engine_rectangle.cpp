@@ -132,7 +132,7 @@ void Engine::decrqcra(Function function) {
     }
 }
 
-/// A character with its attributes, as a VT420 adds them up.
+/// A character with its attributes. A VT420 counts protection too; xterm does not, and neither do we.
 int Engine::checksum(const Cell& cell) const {
     int sum = cell.character() == 0 ? ' ' : static_cast<int>(cell.character());
     if (cell.is_cluster()) {
@@ -151,7 +151,6 @@ int Engine::checksum(const Cell& cell) const {
     }
     const Style& style = styles_[cell.style];
     const auto add = [&sum](bool set, int weight) { sum += set ? weight : 0; };
-    add((cell.glyph & (Cell::guarded | Cell::area_guarded)) != 0, 0x04);
     add(style.invisible, 0x08);
     add(style.underline != Underline::none, 0x10);
     add(style.reverse, 0x20);

@@ -37,6 +37,7 @@ char bits(std::initializer_list<bool> low_first) {
 }  // namespace
 
 void Engine::device_control(const ControlFunction& function, std::string_view data) {
+    last_character_ = 0;
     if (function.prefix == 0 && function.intermediate_count == 1) {
         const char intermediate = function.intermediates[0];
         if (function.final == 'q' && intermediate == '$' && level_ >= 3) {

@@ -224,7 +224,7 @@ void Engine::put_visible(char32_t character, int width) {
         }
         cursor_.column = std::min(cursor_.column, limit - width);
     }
-    if (inner_.insert) {
+    if (inner_.insert && cursor_.column >= margins_.left && cursor_.column < margins_.right) {
         screen_->insert_cells(cursor_.row, cursor_.column, limit, width, blank());
     }
     std::array<Cell, 2> cells;

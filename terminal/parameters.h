@@ -39,6 +39,8 @@ class Parameters {
     [[nodiscard]] int count(std::size_t index) const { return std::max(get(index, 1), 1); }
     /// Whether a colon stands before it: it belongs to the parameter before.
     [[nodiscard]] bool is_sub(std::size_t index) const { return index < size_ && joined_[index]; }
+    /// Whether there are any sub-parameters.
+    [[nodiscard]] bool has_subs() const { return joined_.any(); }
     /// The number of values from `index` on that belong together, sub-parameters included.
     [[nodiscard]] std::size_t group_size(std::size_t index) const {
         std::size_t end = index + 1;

@@ -22,6 +22,7 @@ const Case cases[] = {
     {"MissingParameters", "\033[;5Hx\033[3;Hy", "    x||y|", {}},
     {"TooManyIntermediatesAreIgnored", "\033[ !\"pa\033 !\"pb", "ab|||", {}},
     {"PrefixInTheWrongPlaceIsIgnored", "\033[1?ha\033[1$2pb", "ab|||", {}},
+    {"SubParametersAreForAttributes", "\033[3:2Ca\033[:3H\033[4:3mb", "ab|||", {}},
     {"ControlsActWithinSequences", "\033[2\nCx", "|  x||", {}},
     {"CancelEndsASequence", "\033[1\030x\033]2;t\032y", "xy|||", {}},
     {"EscapeBeginsAnew", "\033[3\033[2Cx", "  x|||", {}},
