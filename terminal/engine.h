@@ -119,10 +119,9 @@ class Engine final : public ParserHandler {
     enum class Controls : std::uint8_t { of_7_bits, of_8_bits };
     enum class Encoding : std::uint8_t { utf8, latin1 };
     enum class Erasure : std::uint8_t { plain, selective };
-    /// Which names a title operation concerns; a name that it does not is absent.
     struct Titles {
-        std::optional<std::string> icon;
-        std::optional<std::string> window;
+        std::string icon;
+        std::string window;
     };
 
     // ParserHandler
@@ -349,13 +348,13 @@ class Engine final : public ParserHandler {
     bool change_window(Function function);
     void report_window(Function function);
     void report_title(char kind, const std::string& title);
-    void push_titles(int which);
+    void push_titles();
     void pop_titles(int which);
     void change_title_modes(Function function, bool on);
     void xtsmtitle(Function function);
     void xtrmtitle(Function function);
     void set_titles(int which, std::string_view text);
-    void change_titles(const Titles& titles);
+    void change_titles(int which, const Titles& titles);
 
     // engine_osc.cpp: operating system commands
     void set_link(std::string_view data);
@@ -406,8 +405,7 @@ class Engine final : public ParserHandler {
     Controls controls_ = Controls::of_7_bits;  // in replies
     Encoding encoding_ = Encoding::utf8;
     Permissions permissions_;
-    std::string title_;
-    std::string icon_title_;
+    Titles titles_;
     std::vector<Titles> title_stack_;
     std::vector<std::pair<std::string, std::optional<Rgb>>> asked_colours_;  // what the client said
     bool hex_titles_ = false;  // XTSMTITLE: set in hexadecimal digits

@@ -151,11 +151,11 @@ void Engine::xtwinops(Function function) {
     const int operation = function.parameters.get(0);
     switch (operation) {
         case 20:
-            return report_title('L', icon_title_);
+            return report_title('L', titles_.icon);
         case 21:
-            return report_title('l', title_);
+            return report_title('l', titles_.window);
         case 22:
-            return push_titles(function.parameters.get(1));
+            return push_titles();
         case 23:
             return pop_titles(function.parameters.get(1));
         default:
@@ -199,38 +199,32 @@ void Engine::set_titles(int which, std::string_view text) {
         text = decoded;
     }
     const std::string title(cut_utf8(plain_utf8(text), max_title));
-    change_titles({concerns_icon(which) ? std::optional(title) : std::nullopt,
-                   concerns_window(which) ? std::optional(title) : std::nullopt});
+    change_titles(which, {title, title});
 }
 
-void Engine::change_titles(const Titles& titles) {
-    icon_title_ = titles.icon.value_or(icon_title_);
-    if (titles.window) {
-        title_ = *titles.window;
-        client_.title_changed(title_);
+void Engine::change_titles(int which, const Titles& titles) {
+    if (concerns_icon(which)) {
+        titles_.icon = titles.icon;
+    }
+    if (concerns_window(which)) {
+        titles_.window = titles.window;
+        client_.title_changed(titles_.window);
     }
 }
 
-void Engine::push_titles(int which) {
+/// Both titles are saved, as on xterm, whichever is named.
+void Engine::push_titles() {
     if (title_stack_.size() < max_saved_states) {
-        title_stack_.push_back({concerns_icon(which) ? std::optional(icon_title_) : std::nullopt,
-                                concerns_window(which) ? std::optional(title_) : std::nullopt});
+        title_stack_.push_back(titles_);
     }
 }
 
 void Engine::pop_titles(int which) {
-    if (title_stack_.empty()) {
-        return;
+    if (!title_stack_.empty()) {
+        const Titles titles = std::move(title_stack_.back());
+        title_stack_.pop_back();
+        change_titles(which, titles);
     }
-    Titles titles = std::move(title_stack_.back());
-    title_stack_.pop_back();
-    if (!concerns_icon(which)) {
-        titles.icon.reset();
-    }
-    if (!concerns_window(which)) {
-        titles.window.reset();
-    }
-    change_titles(titles);
 }
 
 /// 0: titles are set, 1: reported in hexadecimal digits. (2 and 3, UTF-8, always hold.)

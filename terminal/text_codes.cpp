@@ -33,11 +33,11 @@ std::string from_hexadecimal(std::string_view digits) {
         const std::size_t high = digit_value(digits[i]);
         const std::size_t low = digit_value(digits[i + 1]);
         if (high == std::string_view::npos || low == std::string_view::npos) {
-            return {};
+            break;
         }
         bytes += static_cast<char>(high << 4 | low);
     }
-    return digits.size() % 2 == 0 ? bytes : std::string();
+    return bytes;
 }
 
 std::string from_base64(std::string_view text) {

@@ -8,7 +8,7 @@ namespace terminal {
 
 /// Two digits for each byte.
 std::string hexadecimal(std::string_view bytes);
-/// The bytes; empty for anything but pairs of digits.
+/// The bytes, up to the first thing that is no pair of digits.
 std::string from_hexadecimal(std::string_view digits);
 /// The bytes that a text in base 64 (RFC 4648) writes; empty for anything else.
 std::string from_base64(std::string_view text);
