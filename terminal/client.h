@@ -55,7 +55,7 @@ class Client {
   public:
     virtual ~Client() = default;
     /// An answer for the program in the terminal (a cursor position report, say), to be written to the pty.
-    /// Never holds text that a program could choose.
+    /// Holds no text that a program could choose, but for titles where the user permits them to be reported.
     virtual void reply(std::string_view bytes) = 0;
     virtual void bell() = 0;
     /// OSC 0 and 2: plain text without control characters, at most `max_title` bytes.
