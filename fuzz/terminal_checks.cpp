@@ -71,6 +71,9 @@ void StampCheck::look(const Terminal& terminal) {
         std::vector<Cell> cells(row.cells.begin(), row.cells.end());
         cells.resize(
             static_cast<std::size_t>(terminal.size().columns));  // cells not written look as blanks do
+        for (Cell& cell : cells) {
+            cell.glyph &= ~Cell::area_guarded;  // lost in the scrollback
+        }
         Seen& before = seen_[id];
         require(row.stamp <= terminal.stamp(), "a row is newer than the picture");
         require(row.stamp >= before.stamp, "a row's stamp went back");

@@ -35,9 +35,12 @@ Position place(const Terminal& terminal, std::uint8_t row, std::uint8_t column) 
 }
 
 /// Nothing where no character is.
+/// What is seen of a cell, and its protection by DECSCA: that of a guarded area may be lost.
 Cell cell_at(const Terminal& terminal, Position at) {
     const Row row = terminal.row(at.row);
-    return at.column < std::ssize(row.cells) ? row.cells[static_cast<std::size_t>(at.column)] : Cell{};
+    Cell cell = at.column < std::ssize(row.cells) ? row.cells[static_cast<std::size_t>(at.column)] : Cell{};
+    cell.glyph &= ~Cell::area_guarded;
+    return cell;
 }
 
 /// Another size loses no text, and places stay with theirs. The beginning of a line that was cut at the

@@ -97,7 +97,7 @@ inline void Parser::take_parameter(char32_t character) {
 /// Takes a control sequence at once that is all there and has nothing but numbers before its final byte, as
 /// nearly all have. Else false, and nothing is taken: the state machine knows what to do.
 bool Parser::read_plain_sequence(std::string_view& bytes) {
-    if (!bytes.starts_with("\x1b[")) {
+    if (language_ != Language::ansi || !bytes.starts_with("\x1b[")) {
         return false;
     }
     function_.clear();
