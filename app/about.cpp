@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // "About": the version, and what this instance runs on.
 #include "app/notify.h"
-#include "app/process.h"
 #include "settings/setup_file.h"
+#include "shell/process.h"
 #include "toolkit/platform.h"
 #include "toolkit/selection.h"
 #include "ui/about_window.h"

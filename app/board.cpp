@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // The buttons of "Message Board".
-#include "app/messages.h"
 #include "app/notify.h"
 #include "app/pane_file.h"
+#include "shell/messages.h"
 #include "ui/environment_setup.h"
 #include "ui/message_board.h"
 

@@ -1,106 +1,16 @@
 // SPDX-License-Identifier: MIT
-// "Command:" and the buttons beside it; commands cut out of the terminal's line.
+// "Command:" and the buttons beside it.
 #include "app/command_line.h"
 
+#include "app/command_field.h"
 #include "app/command_window.h"
-#include "app/current_command.h"
 #include "app/notify.h"
-#include "app/shell.h"
-#include "app/status.h"
 #include "settings/history.h"
 #include "ui/command_window.h"
 #include "ui/default_settings.h"
 #include "ui/main_window.h"
 
-#include <array>
-
-namespace {
-
-struct ProblemText {
-    CommandProblem problem;
-    std::string_view for_return_key;  ///< and for the "Command Window"
-    std::string_view for_move_button;
-};
-
-constexpr std::array problem_texts{
-    ProblemText{CommandProblem::no_prompt_saved, "No prompt saved", "No prompter saved"},
-    ProblemText{CommandProblem::no_delimiter_set, "No delimiter specified", "No delimiter specified"},
-    ProblemText{CommandProblem::empty_line, "Command not saved", "Command not saved"},
-    ProblemText{CommandProblem::prompt_not_found, "No prompt found", "No prompt found"},
-    ProblemText{CommandProblem::delimiter_not_found, "No delimiter found", "No delimiter found"},
-    ProblemText{CommandProblem::nothing_typed, "No command found", "No command"},
-};
-
-std::string_view text_of(CommandProblem problem, CommandAsker asker) {
-    for (const ProblemText& known : problem_texts) {
-        if (known.problem == problem) {
-            return asker == CommandAsker::move_button ? known.for_move_button : known.for_return_key;
-        }
-    }
-    return {};
-}
-
-Frame& window_of(CommandAsker asker) {
-    return asker == CommandAsker::copy_button ? static_cast<Frame&>(command_window()) : main_window();
-}
-
-std::optional<std::string> command_on(const TerminalPane::CurrentLine& line, CommandAsker asker) {
-    const DefaultSettings& settings = default_settings();
-    const std::string prompt = settings.prompt.text();
-    const std::string delimiter = settings.prompt_ending_delimiter.text();
-    CurrentCommand found = find_command(line.before + line.behind,
-                                        {.look_for_delimiter = settings.look_for_ending_delimiter.value(),
-                                         .prompt = prompt,
-                                         .delimiter = delimiter});
-    if (found.problem != CommandProblem::none) {
-        window_of(asker).set_left_footer(text_of(found.problem, asker));
-        return std::nullopt;
-    }
-    return std::move(found.text);
-}
-
-}  // namespace
-
-bool send_line(Frame& frame, std::string_view line) {
-    const std::string refusal = type_line(line);
-    frame.set_left_footer(refusal);
-    if (refusal.empty()) {
-        SetupTimer(refresh_after_command);
-    }
-    return refusal.empty();
-}
-
-void send_command_field(Frame& frame, TextField& field) {
-    const std::string command = field.text();
-    if (!send_line(frame, command)) {
-        return;
-    }
-    record_command(command);
-    if (default_settings().clear_command_line.value()) {
-        field.set_text("");
-    }
-    default_settings().last_command.set_text(command);
-}
-
-std::optional<std::string> typed_command(CommandAsker asker) {
-    return command_on(main_window().termpane.current_line(), asker);
-}
-
-std::optional<std::string> take_typed_command(CommandAsker asker) {
-    if (main_window().termpane.shows_alternate_screen()) {  // a full-screen program's text, and its keys
-        window_of(asker).set_left_footer("Couldn't get full line");
-        return std::nullopt;
-    }
-    const TerminalPane::CurrentLine line = main_window().termpane.current_line();
-    std::optional<std::string> command = command_on(line, asker);
-    if (command) {
-        if (!line.behind.empty() || !line.settled) {
-            type_control('E');  // line editors erase only what is before the insertion point
-        }
-        type_control('U');
-    }
-    return command;
-}
+#include <optional>
 
 void move_typed_command(CommandAsker asker) {
     main_window().set_left_footer("");

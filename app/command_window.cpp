@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "app/command_window.h"
 
-#include "app/command_line.h"
+#include "app/command_field.h"
 #include "app/notify.h"
-#include "app/operands.h"
-#include "app/process.h"
-#include "app/shell.h"
+#include "app/typed_command.h"
+#include "shell/operands.h"
+#include "shell/process.h"
+#include "shell/send_line.h"
+#include "shell/shell.h"
 #include "ui/command_window.h"
 #include "ui/default_settings.h"
 #include "ui/main_window.h"

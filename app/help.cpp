@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The "Help" menu's texts.
 #include "app/notify.h"
-#include "app/process.h"
+#include "shell/process.h"
 #include "ui/help_window.h"
 
 #include <fmt/format.h>

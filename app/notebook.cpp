@@ -2,12 +2,12 @@
 // The buttons of "Notebook".
 #include "ui/notebook.h"
 
-#include "app/background.h"
-#include "app/files.h"
-#include "app/messages.h"
 #include "app/notify.h"
 #include "app/pane_file.h"
-#include "app/print.h"
+#include "shell/background.h"
+#include "shell/files.h"
+#include "shell/messages.h"
+#include "shell/print.h"
 #include "ui/default_settings.h"
 #include "ui/environment_setup.h"
 

@@ -42,7 +42,6 @@ void Execute_BG_button();
 void OrvikWindowCopyButton();
 void CopyToMessageBoard();
 void FloatingCommandLine();
-void BaseWindowSetAlias();
 
 // Main window: its size, and the terminal's text.
 void Set_wide_screen();
@@ -87,7 +86,3 @@ void NotebookSave();
 void NotebookLoad();
 void NotebookPrint();
 void NotebookClear();
-
-// "Status Display".
-void StatusDisplayEnable();
-void StatusDisplayOnOff();

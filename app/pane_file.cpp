@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "app/pane_file.h"
 
-#include "app/files.h"
-#include "browsers/expand_path.h"
+#include "shell/expand_path.h"
+#include "shell/files.h"
 #include "toolkit/frame.h"
 #include "toolkit/notice.h"
 #include "toolkit/text_pane.h"

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "app/quit.h"
 
-#include "app/messages.h"
 #include "app/notify.h"
-#include "app/process.h"
-#include "app/status.h"
 #include "settings/history.h"
+#include "shell/messages.h"
+#include "shell/process.h"
+#include "shell/status.h"
 #include "toolkit/application.h"
 #include "toolkit/notice.h"
 #include "ui/main_window.h"

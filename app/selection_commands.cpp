@@ -2,15 +2,15 @@
 // What the function keys and the main window's buttons do with the primary selection.
 #include "app/selection_commands.h"
 
-#include "app/command_line.h"
-#include "app/editor.h"
-#include "app/messages.h"
 #include "app/notify.h"
-#include "app/operands.h"
-#include "app/process.h"
-#include "app/quoting.h"
-#include "app/shell.h"
-#include "app/status.h"
+#include "shell/editor.h"
+#include "shell/messages.h"
+#include "shell/operands.h"
+#include "shell/process.h"
+#include "shell/quoting.h"
+#include "shell/send_line.h"
+#include "shell/shell.h"
+#include "shell/status.h"
 #include "ui/main_window.h"
 #include "ui/notebook.h"
 

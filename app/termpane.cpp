@@ -4,9 +4,9 @@
 
 #include "app/command_line.h"
 #include "app/selection_commands.h"
-#include "app/status.h"
 #include "settings/history.h"
 #include "settings/user_buttons.h"
+#include "shell/status.h"
 #include "ui/command_history_setup.h"
 #include "ui/default_settings.h"
 #include "ui/function_keys.h"

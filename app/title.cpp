@@ -2,7 +2,7 @@
 #include "app/title.h"
 
 #include "app/notify.h"
-#include "app/process.h"
+#include "shell/process.h"
 #include "ui/define_label.h"
 #include "ui/main_window.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/user_defaults.h"
 
-#include "app/text.h"
+#include "shell/text.h"
 
 #include <algorithm>
 #include <array>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The main window's buttons for its size and for the terminal's text.
 #include "app/notify.h"
-#include "app/status.h"
+#include "shell/status.h"
 #include "ui/main_window.h"
 
 namespace {

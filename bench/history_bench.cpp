@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 // What the command history costs its user while he types, with as many commands as can be sorted. Needs a
 // display: tests/support/with_display gives it one.
-#include "app/process.h"
 #include "settings/history.h"
 #include "settings/notify.h"
+#include "shell/process.h"
 #include "tests/support/scratch_directory.h"
 #include "ui/command_history_manager.h"
 #include "ui/windows.h"

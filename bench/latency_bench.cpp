@@ -2,8 +2,8 @@
 // From a key press to its painted echo: a real window, a real pty and a program that answers each key. Needs
 // a display: tests/support/with_display gives it one.
 #include "tests/support/scratch_directory.h"
-#include "toolkit/terminal_pane.h"
-#include "toolkit/terminal_view.h"
+#include "toolkit/pane/pane.h"
+#include "toolkit/pane/view.h"
 
 #include <QElapsedTimer>
 #include <QGuiApplication>

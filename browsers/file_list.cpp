@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "browsers/file_list.h"
 
-#include "app/operands.h"
-#include "app/process.h"
 #include "browsers/notify.h"
+#include "shell/operands.h"
+#include "shell/process.h"
 #include "toolkit/scrolling_list.h"
 #include "ui/file_list_browser.h"
 #include "ui/plot_setup.h"

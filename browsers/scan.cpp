@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "browsers/scan.h"
 
-#include "app/text.h"
 #include "browsers/directory.h"
+#include "shell/text.h"
 
 #include <algorithm>
 #include <array>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "app/operands.h"
-#include "app/prompt_hook.h"
-#include "app/quoting.h"
 #include "fuzz/check.h"
 #include "fuzz/input.h"
 #include "fuzz/shell_word.h"
+#include "shell/operands.h"
+#include "shell/prompt_hook.h"
+#include "shell/quoting.h"
 
 // A file name as one word of a command line. Up to the first NUL the input is what its user has typed before
 // it.

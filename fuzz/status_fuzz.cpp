@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "app/status_file.h"
 #include "fuzz/check.h"
 #include "fuzz/input.h"
+#include "shell/status_file.h"
 
 #include <algorithm>
 

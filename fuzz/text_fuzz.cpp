@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "app/current_command.h"
-#include "app/operands.h"
-#include "app/text.h"
-#include "browsers/expand_path.h"
 #include "fuzz/check.h"
 #include "fuzz/input.h"
+#include "shell/expand_path.h"
+#include "shell/operands.h"
+#include "shell/text.h"
 
 #include <algorithm>
 #include <cstdlib>

@@ -1,17 +1,17 @@
 // SPDX-License-Identifier: MIT
 // What choosing a bookmark does, and the main window's buttons that make one. A bookmark's path is one word
 // for the shell, whatever it holds.
-#include "app/background.h"
-#include "app/command_line.h"
-#include "app/editor.h"
-#include "app/operands.h"
-#include "app/process.h"
-#include "app/quoting.h"
-#include "app/shell.h"
-#include "app/status.h"
-#include "app/text.h"
 #include "browsers/file_type.h"
 #include "settings/notify.h"
+#include "shell/background.h"
+#include "shell/editor.h"
+#include "shell/operands.h"
+#include "shell/process.h"
+#include "shell/quoting.h"
+#include "shell/send_line.h"
+#include "shell/shell.h"
+#include "shell/status.h"
+#include "shell/text.h"
 #include "ui/bookmark_definition.h"
 #include "ui/main_window.h"
 

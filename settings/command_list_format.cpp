@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "settings/command_list_format.h"
 
-#include "app/lines.h"
-#include "app/text.h"
+#include "shell/lines.h"
+#include "shell/text.h"
 
 #include <algorithm>
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "settings/directory_menus.h"
 
-#include "app/editor.h"
-#include "app/operands.h"
-#include "app/process.h"
 #include "settings/directory_menu.h"
 #include "settings/notify.h"
+#include "shell/editor.h"
+#include "shell/operands.h"
+#include "shell/process.h"
 #include "toolkit/menu.h"
 #include "ui/edit_menu_setup.h"
 #include "ui/main_window.h"

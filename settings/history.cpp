@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "settings/history.h"
 
-#include "app/command_line.h"
-#include "app/files.h"
-#include "app/messages.h"
-#include "app/process.h"
-#include "app/text.h"
 #include "settings/history_format.h"
 #include "settings/notify.h"
+#include "shell/files.h"
+#include "shell/messages.h"
+#include "shell/process.h"
+#include "shell/send_line.h"
+#include "shell/text.h"
 #include "ui/command_history_manager.h"
 #include "ui/command_history_setup.h"
 #include "ui/main_window.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "settings/history_format.h"
 
-#include "app/lines.h"
+#include "shell/lines.h"
 
 #include <algorithm>
 #include <utility>

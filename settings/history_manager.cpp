@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 // The controls of "Command History Manager".
-#include "app/background.h"
-#include "app/command_line.h"
-#include "app/doubleclick.h"
-#include "app/editor.h"
-#include "app/quoting.h"
 #include "settings/history.h"
 #include "settings/history_format.h"
 #include "settings/notify.h"
+#include "shell/background.h"
+#include "shell/doubleclick.h"
+#include "shell/editor.h"
+#include "shell/quoting.h"
+#include "shell/send_line.h"
 #include "ui/command_history_manager.h"
 #include "ui/command_history_setup.h"
 #include "ui/main_window.h"

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "settings/setup_file.h"
 
-#include "app/files.h"
-#include "app/listed_file.h"
-#include "app/messages.h"
-#include "app/process.h"
+#include "browsers/listed_file.h"
 #include "settings/notify.h"
 #include "settings/setup_format.h"
 #include "settings/setup_table.h"
+#include "shell/files.h"
+#include "shell/messages.h"
+#include "shell/process.h"
 #include "ui/file_list_browser.h"
 #include "ui/main_window.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "settings/setup_format.h"
 
-#include "app/text.h"
+#include "shell/text.h"
 
 #include <algorithm>
 #include <charconv>

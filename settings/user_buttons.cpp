@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "settings/user_buttons.h"
 
-#include "app/command_line.h"
-#include "app/operands.h"
-#include "app/process.h"
-#include "app/shell.h"
-#include "app/text.h"
 #include "settings/notify.h"
+#include "shell/operands.h"
+#include "shell/process.h"
+#include "shell/send_line.h"
+#include "shell/shell.h"
+#include "shell/text.h"
 #include "ui/function_keys.h"
 #include "ui/main_window.h"
 #include "ui/user_buttons.h"

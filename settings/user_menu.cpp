@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "settings/user_menu.h"
 
-#include "app/command_line.h"
-#include "app/editor.h"
-#include "app/files.h"
-#include "app/messages.h"
-#include "app/process.h"
 #include "settings/notify.h"
 #include "settings/user_menu_format.h"
+#include "shell/editor.h"
+#include "shell/files.h"
+#include "shell/messages.h"
+#include "shell/process.h"
+#include "shell/send_line.h"
 #include "ui/main_window.h"
 
 #include <cerrno>

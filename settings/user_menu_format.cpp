@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "settings/user_menu_format.h"
 
-#include "app/lines.h"
+#include "shell/lines.h"
 
 #include <utility>
 

@@ -3,12 +3,13 @@
 
 #include "app/notify.h"
 #include "settings/notify.h"
+#include "shell/notify.h"
 #include "toolkit/buttons.h"
 #include "toolkit/fields.h"
 #include "toolkit/frame.h"
 #include "toolkit/menu_button.h"
+#include "toolkit/pane/pane.h"
 #include "toolkit/panel.h"
-#include "toolkit/terminal_pane.h"
 #include "ui/menus.h"
 
 #include <memory>

@@ -3,7 +3,7 @@
 
 #include "app/command_line.h"
 #include "app/notify.h"
-#include "tests/app/recorded_windows.h"
+#include "tests/support/recorded_windows.h"
 #include "ui/command_history_manager.h"
 #include "ui/command_window.h"
 #include "ui/default_settings.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The "Help" menu and the texts that it shows, as they are installed.
 #include "app/notify.h"
-#include "app/process.h"
+#include "shell/process.h"
 #include "tests/support/scratch_directory.h"
 #include "ui/help_window.h"
 #include "ui/windows.h"

@@ -2,7 +2,7 @@
 #include "app/selection_commands.h"
 
 #include "app/notify.h"
-#include "tests/app/recorded_windows.h"
+#include "tests/support/recorded_windows.h"
 #include "ui/notebook.h"
 #include "ui/text_editor_setup.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/user_defaults.h"
 
-#include "app/print.h"
+#include "shell/print.h"
 
 #include <tuple>
 #include <utility>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "settings/command_list.h"
 
-#include "app/operands.h"
+#include "shell/operands.h"
 #include "tests/settings/menu_windows.h"
 #include "toolkit/scrolling_list.h"
 #include "ui/command_list_manager.h"

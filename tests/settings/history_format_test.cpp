@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "settings/history_format.h"
 
-#include "app/files.h"
+#include "shell/files.h"
 #include "tests/support/scratch_directory.h"
 #include "tests/support/wait_until.h"
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "app/messages.h"
 #include "settings/history.h"
+#include "shell/messages.h"
 #include "tests/settings/history_windows.h"
 #include "ui/message_board.h"
 #include "ui/text_editor_setup.h"

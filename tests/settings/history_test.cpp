@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "settings/history.h"
 
-#include "app/messages.h"
+#include "shell/messages.h"
 #include "tests/settings/history_windows.h"
-#include "toolkit/terminal_view.h"
+#include "toolkit/pane/view.h"
 #include "ui/message_board.h"
 
 #include <QMenu>

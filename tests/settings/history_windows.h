@@ -2,7 +2,7 @@
 #pragma once
 
 #include "settings/notify.h"
-#include "tests/app/recorded_windows.h"
+#include "tests/support/recorded_windows.h"
 #include "ui/command_history_manager.h"
 #include "ui/command_history_setup.h"
 

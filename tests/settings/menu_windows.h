@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/messages.h"
 #include "settings/notify.h"
-#include "tests/app/recorded_windows.h"
+#include "shell/messages.h"
+#include "tests/support/recorded_windows.h"
 #include "ui/message_board.h"
 #include "ui/text_editor_setup.h"
 

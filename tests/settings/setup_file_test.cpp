@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "settings/setup_file.h"
 
-#include "app/process.h"
 #include "settings/notify.h"
 #include "settings/setup_table.h"
+#include "shell/process.h"
 #include "tests/support/scratch_directory.h"
 #include "toolkit/text_conversion.h"
 #include "ui/environment_setup.h"

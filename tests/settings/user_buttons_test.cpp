@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "settings/user_buttons.h"
 
-#include "app/operands.h"
 #include "settings/notify.h"
-#include "tests/app/recorded_windows.h"
+#include "shell/operands.h"
+#include "tests/support/recorded_windows.h"
 #include "ui/function_keys.h"
 #include "ui/status_display.h"
 #include "ui/user_buttons.h"

@@ -2,7 +2,7 @@
 // Takes a picture of every window as it is after the start-up, and one sheet with all of them.
 // usage: gallery FOLDER [POINTS]: pictures for FOLDER, with a font of that size instead of the desktop's
 #include "app/startup.h"
-#include "app/status.h"
+#include "shell/status.h"
 #include "tests/support/scratch_directory.h"
 #include "toolkit/application.h"
 #include "toolkit/frame.h"

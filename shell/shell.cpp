@@ -1,0 +1,120 @@
+// SPDX-License-Identifier: MIT
+#include "shell/shell.h"
+
+#include "shell/messages.h"
+#include "shell/process.h"
+#include "shell/quoting.h"
+#include "shell/text.h"
+#include "toolkit/selection.h"
+#include "ui/main_window.h"
+
+#include <algorithm>
+#include <array>
+
+#include <fmt/format.h>
+#include <unistd.h>
+
+namespace {
+
+/// The line discipline keeps 4,095 bytes of a line and silently drops the rest (termios(3), canonical mode).
+constexpr std::size_t longest_canonical_line = 4095;
+constexpr std::size_t longest_selection = 999;
+constexpr std::size_t longest_answered_selection = 1000;  ///< a longer one is called too long
+
+constexpr std::array terminal_variables{std::string_view("TERM="), std::string_view("COLORTERM="),
+                                        std::string_view("LINES="), std::string_view("COLUMNS=")};
+
+std::vector<std::string> shell_environment() {
+    std::vector<std::string> variables;
+    for (char** variable = environ; *variable != nullptr; ++variable) {
+        const std::string_view text = *variable;
+        if (std::none_of(terminal_variables.begin(), terminal_variables.end(),
+                         [&](std::string_view name) { return text.starts_with(name); })) {
+            variables.emplace_back(text);
+        }
+    }
+    variables.emplace_back("TERM=xterm-256color");
+    variables.emplace_back("COLORTERM=truecolor");
+    return variables;
+}
+
+/// Why a text is not typed; empty when it may be.
+std::string type_refusal(std::string_view text) {
+    if (has_control_characters(text)) {
+        return "Command holds control characters";
+    }
+    if (text.size() + 1 > longest_canonical_line && main_window().termpane.reads_lines()) {
+        return "Command is too long for the shell";
+    }
+    return {};
+}
+
+std::string not_too_long(const std::string& selection) {
+    return selection.size() <= longest_selection ? selection : std::string();
+}
+
+SelectionLine first_line(const std::string& selection) {
+    SelectionLine line{.text = remove_nl(selection)};
+    std::replace(line.text.begin(), line.text.end(), '\t', ' ');
+    if (has_control_characters(line.text)) {
+        line.refusal = "Selection holds control characters";
+    }
+    return line;
+}
+
+}  // namespace
+
+terminal::Program login_shell() {
+    return {.path = shell_name,
+            .arguments = {fmt::format("-{}", getfilename(shell_name))},
+            .environment = shell_environment(),
+            .directory = startup_dir};
+}
+
+std::string type_line(std::string_view text) {
+    std::string refusal = type_refusal(text);
+    if (refusal.empty()) {
+        ttysw_input(main_window().termpane, std::string(text) + "\n");
+    }
+    return refusal;
+}
+
+std::string type_text(std::string_view text) {
+    std::string refusal = type_refusal(text);
+    if (refusal.empty()) {
+        ttysw_input(main_window().termpane, text);
+    }
+    return refusal;
+}
+
+void type_control(char letter) {
+    constexpr char control_bits = 0x1F;
+    const char character = static_cast<char>(letter & control_bits);
+    ttysw_input(main_window().termpane, {&character, 1});
+}
+
+std::optional<std::string> selected_line(Frame& frame, std::string_view none, std::string_view too_long) {
+    const std::string selection = selection_ask().value_or(std::string());
+    if (selection.size() > longest_answered_selection) {
+        frame.set_left_footer(too_long);
+        return std::nullopt;
+    }
+    SelectionLine line = first_line(not_too_long(selection));
+    if (line.text.empty() || !line.refusal.empty()) {
+        frame.set_left_footer(line.text.empty() ? none : line.refusal);
+        return std::nullopt;
+    }
+    return std::move(line.text);
+}
+
+SelectionLine selection_line() { return first_line(get_seln()); }
+
+bool type_or_report(const std::string& text) {
+    const std::string refusal = type_line(text);
+    if (!refusal.empty()) {
+        report(fmt::format("{}: {}\n", refusal, text));
+    }
+    return refusal.empty();
+}
+
+std::string get_seln() { return not_too_long(selection_ask().value_or(std::string())); }

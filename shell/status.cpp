@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: MIT
+#include "shell/status.h"
+
+#include "shell/messages.h"
+#include "shell/notify.h"
+#include "shell/process.h"
+#include "shell/shell.h"
+#include "shell/status_file.h"
+#include "shell/text.h"
+#include "toolkit/timer.h"
+#include "ui/clearcase_setup.h"
+#include "ui/default_settings.h"
+#include "ui/environment_setup.h"
+#include "ui/main_window.h"
+#include "ui/process_information.h"
+#include "ui/status_display.h"
+
+#include <unistd.h>
+
+namespace {
+
+constexpr int display_on = 0;
+
+/// The refresh: its interval stays zero, so that it fires once.
+itimerval wtimer{};
+
+}  // namespace
+
+void SetupTimer(int milliseconds) {
+    if (status_display().display.value() != display_on) {
+        return;
+    }
+    wtimer.it_value = {.tv_sec = 0, .tv_usec = milliseconds * 1000};
+    notify_set_itimer_func(main_window(), DisplayStatusTimer, wtimer);
+}
+
+void DisplayStatusTimer() {
+    const std::optional<std::string> contents = read_status_file(status_display().status_file.text());
+    if (!contents) {
+        return;
+    }
+    const ShellStatus status = parse_status(*contents);
+    main_window().cwd.set_text(status.cwd);
+    default_settings().prompt.set_text(remove_trailing_spaces(status.prompt));
+    main_window().set_right_footer(
+        status_line(status, status_display().enable.value(), process_information().process_id.value()));
+}
+
+std::vector<PromptHook> type_prompt_hooks() {
+    std::vector<PromptHook> typed;
+    for (PromptHook& hook : prompt_hooks(
+             shell_name,
+             clearcase_setup().enable_clearcase_usage.value() ? ClearCaseUsage::on : ClearCaseUsage::off,
+             status_display().status_file.text())) {
+        environment_setup().precmd.set_text(hook.text);
+        environment_setup().precmd.show_beginning();
+        if (status_display().display.value() == display_on && type_or_report(hook.text)) {
+            SetupTimer(refresh_after_login);
+            typed.push_back(std::move(hook));
+        }
+    }
+    return typed;
+}
+
+void end_status_display() {
+    notify_set_itimer_func(main_window(), nullptr, wtimer);
+    const std::string path = status_display().status_file.text();
+    if (!path.empty()) {
+        unlink(path.c_str());
+    }
+}
+
+void BaseWindowSetAlias() {
+    main_window().set_left_footer("");
+    if (status_display().status_file.text().empty()) {
+        main_window().set_left_footer("Orvik status file not defined");
+        return;
+    }
+    SetupTimer(refresh_after_command);
+    (void)type_prompt_hooks();
+    SetupTimer(refresh_after_command);
+}
+
+void StatusDisplayEnable() { SetupTimer(100); }
+
+void StatusDisplayOnOff() { status_display().set_left_footer(""); }

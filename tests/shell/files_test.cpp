@@ -1,0 +1,234 @@
+// SPDX-License-Identifier: MIT
+#include "shell/files.h"
+
+#include "tests/support/scratch_directory.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <fstream>
+#include <functional>
+#include <tuple>
+
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <sched.h>
+#include <sys/mount.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace {
+
+using namespace std::string_literals;
+namespace fs = std::filesystem;
+
+constexpr uid_t nobody = 65534;
+constexpr int cannot_be_tried = 77;
+
+/// What stands in a directory, links with their targets: what a replacement must not add to.
+std::vector<std::string> listing(const fs::path& directory) {
+    std::vector<std::string> names;
+    for (const fs::directory_entry& entry : fs::directory_iterator(directory)) {
+        names.push_back(entry.path().filename().string() +
+                        (entry.is_symlink() ? " -> " + fs::read_symlink(entry.path()).string() : ""));
+    }
+    std::ranges::sort(names);
+    return names;
+}
+
+using Names = std::vector<std::string>;
+
+mode_t mode_of(const fs::path& path) {
+    struct stat info {};
+    return lstat(path.c_str(), &info) == 0 ? info.st_mode & 07777U : 0;
+}
+
+/// Runs expectations in a process of their own, which may change what belongs to a process. Gives 0, 1 when
+/// one failed, or what the body itself returned.
+int in_child(const std::function<int()>& body) {
+    const pid_t child = fork();
+    if (child == 0) {
+        const int result = body();
+        std::fflush(nullptr);
+        _exit(testing::Test::HasFailure() ? 1 : result);
+    }
+    int status = 0;
+    return waitpid(child, &status, 0) == child && WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
+
+/// Makes root an ordinary user; anybody else is one.
+bool become_ordinary() { return geteuid() != 0 || (setgid(nobody) == 0 && setuid(nobody) == 0); }
+
+/// Replaces a file in a process that root has left; anybody else is one who is not root.
+int replace_as_ordinary(const std::string& path) {
+    return in_child([&] { return become_ordinary() ? save_file(path, "new") : -1; });
+}
+
+TEST(ReadFile, GivesAllBytesUpToTheLimit) {
+    const ScratchDirectory home;
+    const std::string text = "a\0b\xff\n"s + std::string(200'000, 'x');
+    const std::string path = home.write("name\xff", text);
+    EXPECT_EQ(read_file(path, text.size()).error, 0);
+    EXPECT_EQ(read_file(path, text.size()).text, text);
+    EXPECT_EQ(read_file(path, text.size() - 1).error, EFBIG);
+    EXPECT_EQ(read_file(path, 3).text, "a\0b"s);
+}
+
+TEST(ReadFile, RefusesWhatIsNoRegularFileWithoutWaiting) {
+    const ScratchDirectory home;
+    ASSERT_EQ(mkfifo((home / "fifo").c_str(), 0600), 0);
+    home.write("file", "");
+    EXPECT_EQ(read_file(home / "fifo", 9).error, EINVAL);
+    EXPECT_EQ(read_file("/dev/zero", 9).error, EINVAL);
+    EXPECT_EQ(read_file(home.path(), 9).error, EISDIR);
+    EXPECT_EQ(read_file(home / "missing", 9).error, ENOENT);
+    EXPECT_EQ(read_file((home / "file").string() + "\0.old"s, 9).error, EINVAL);
+    EXPECT_EQ(read_file(home / "file", 0).error, 0);
+}
+
+TEST(SaveFile, KeepsTheModeOrTakesTheOneAskedFor) {
+    const std::tuple<std::string, SaveOptions, mode_t> cases[] = {{"old", {.new_mode = 0600}, 0755},
+                                                                  {"old", {.exact_mode = 0606}, 0606},
+                                                                  {"new\xff", {}, 0640},
+                                                                  {"script", {.new_mode = 0777}, 0750},
+                                                                  {"exact", {.exact_mode = 0666}, 0666}};
+    const ScratchDirectory home;
+    ASSERT_EQ(chmod(home.write("old", "old").c_str(), 04755), 0);
+    const mode_t before = umask(027);
+    for (const auto& [name, options, mode] : cases) {
+        EXPECT_EQ(save_file(home / name, "new\0text"s, options), 0);
+        EXPECT_EQ(read_file(home / name), "new\0text"s);
+        EXPECT_EQ(mode_of(home / name), mode) << name;
+    }
+    EXPECT_EQ(umask(before), mode_t{027});
+    EXPECT_EQ(listing(home.path()), (Names{"exact", "new\xff", "old", "script"}));
+}
+
+TEST(SaveFile, FollowsLinksToTheirEndUnlessToldOtherwise) {
+    const ScratchDirectory home;
+    const std::string target = home.write("far/target", "old");
+    fs::create_symlink("target", home / "far/second");
+    fs::create_symlink("far/second", home / "first");
+    fs::create_symlink(home / "far/made", home / "dangling");
+    EXPECT_EQ(save_file(home / "first", "new"), 0);
+    EXPECT_EQ(read_file(home / "far/target"), "new");
+    EXPECT_EQ(save_file(home / "dangling", "made"), 0);
+    EXPECT_EQ(read_file(home / "far/made"), "made");
+    EXPECT_EQ(listing(home.path()),
+              (Names{"dangling -> " + (home / "far/made").string(), "far", "first -> far/second"}));
+    EXPECT_EQ(save_file(home / "first", "own", {.links = Links::replace, .exact_mode = 0600}), 0);
+    EXPECT_EQ(read_file(home / "first"), "own");
+    EXPECT_EQ(mode_of(home / "first"), S_IRUSR | S_IWUSR);
+    EXPECT_EQ(read_file(home / "far/target"), "new");
+    EXPECT_EQ(listing(home / "far"), (Names{"made", "second -> target", "target"}));
+}
+
+TEST(SaveFile, FollowsNoLinkThatSomebodyElsePutIntoASharedDirectory) {
+    if (geteuid() != 0) {
+        GTEST_SKIP() << "only root can make a link of somebody else's";
+    }
+    constexpr uid_t other = nobody - 1;
+    const std::tuple<mode_t, uid_t, uid_t, int> cases[] = {
+        {01777, 0, other, EACCES},      {01777, 0, nobody, 0}, {01777, other, other, 0},
+        {01777, nobody, other, EACCES}, {0777, 0, other, 0},   {01775, nobody, other, 0}};
+    for (const auto& [mode, directory_owner, link_owner, error] : cases) {
+        const ScratchDirectory home;
+        fs::create_directory(home / "shared");
+        const std::string target = home.write("own/target", "old");
+        fs::create_symlink(target, home / "shared/link");
+        for (const char* name : {"", "own", "own/target"}) {
+            ASSERT_EQ(chown((home / name).c_str(), nobody, nobody), 0);
+        }
+        ASSERT_EQ(lchown((home / "shared/link").c_str(), link_owner, link_owner), 0);
+        ASSERT_EQ(chown((home / "shared").c_str(), directory_owner, directory_owner), 0);
+        ASSERT_EQ(chmod((home / "shared").c_str(), mode), 0);
+        EXPECT_EQ(replace_as_ordinary(home / "shared/link"), error)
+            << mode << ' ' << directory_owner << ' ' << link_owner;
+        EXPECT_EQ(read_file(home / "own/target"), error == 0 ? "new" : "old");
+    }
+}
+
+TEST(SaveFile, RefusesWhatIsNoRegularFile) {
+    const ScratchDirectory home;
+    fs::create_directory(home / "directory");
+    fs::create_symlink("directory", home / "link");
+    fs::create_symlink("loop", home / "loop");
+    ASSERT_EQ(mkfifo((home / "fifo").c_str(), 0600), 0);
+    const std::pair<std::string, int> cases[] = {
+        {"link", EISDIR},         {"loop", ELOOP},      {"fifo", EINVAL},
+        {"a\0b"s, EINVAL},        {"fifo/a", ENOTDIR},  {std::string(300, 'n'), ENAMETOOLONG},
+        {"missing/file", ENOENT}, {"directory", EISDIR}};
+    for (const auto& [name, error] : cases) {
+        EXPECT_EQ(save_file((home / name).native(), "new"), error) << name;
+    }
+    EXPECT_EQ(save_file("", "new"), ENOENT);
+    EXPECT_EQ(listing(home.path()), (Names{"directory", "fifo", "link -> directory", "loop -> loop"}));
+    EXPECT_TRUE(fs::is_fifo(home / "fifo"));
+}
+
+TEST(SaveFile, LeavesAFileThatMayNotBeWritten) {
+    const ScratchDirectory home;
+    const std::string file = home.write("file", "old");
+    ASSERT_EQ(chmod(file.c_str(), 0444), 0);
+    ASSERT_EQ(chmod(home.path().c_str(), 0777), 0);
+    EXPECT_EQ(replace_as_ordinary(file), EACCES);
+    EXPECT_EQ(read_file(home / "file"), "old");
+    EXPECT_EQ(listing(home.path()), Names{"file"});
+}
+
+TEST(SaveFile, GivesNobodyMoreRightsWhereTheGroupIsLost) {
+    if (geteuid() != 0) {
+        GTEST_SKIP() << "only root can make a file of a group that its owner is not in";
+    }
+    const ScratchDirectory home;
+    const std::string file = home.write("file", "old");
+    ASSERT_EQ(chmod(home.path().c_str(), 0777), 0);
+    for (const auto& [before, after] : {std::pair{0664U, 0644U}, {0640U, 0600U}, {0606U, 0600U}}) {
+        ASSERT_EQ(chown(file.c_str(), nobody, 0), 0);
+        ASSERT_EQ(chmod(file.c_str(), before), 0);
+        EXPECT_EQ(replace_as_ordinary(file), 0);
+        EXPECT_EQ(mode_of(file), after);
+    }
+    ASSERT_EQ(chown(file.c_str(), nobody, nobody), 0);
+    ASSERT_EQ(save_file(file, "root's"), 0);
+    struct stat info {};
+    ASSERT_EQ(stat(file.c_str(), &info), 0);
+    EXPECT_EQ(std::pair(info.st_uid, info.st_gid), std::pair(nobody, gid_t{nobody}));
+}
+
+bool write_to(const char* path, const std::string& text) {
+    return static_cast<bool>(std::ofstream(path) << text << std::flush);
+}
+
+/// Gives the process mounts of its own: as root at once, else as the root of a user namespace.
+bool have_own_mounts() {
+    const std::string user = "0 " + std::to_string(geteuid()) + " 1";
+    const std::string group = "0 " + std::to_string(getegid()) + " 1";
+    const bool unshared =
+        unshare(CLONE_NEWNS) == 0 ||
+        (unshare(CLONE_NEWUSER | CLONE_NEWNS) == 0 && write_to("/proc/self/setgroups", "deny") &&
+         write_to("/proc/self/uid_map", user) && write_to("/proc/self/gid_map", group));
+    return unshared && mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0;
+}
+
+TEST(SaveFile, LeavesTheOldFileOnAFullDisk) {
+    const ScratchDirectory home;
+    const auto fill_disk = [&] {
+        if (!have_own_mounts() || mount("none", home.path().c_str(), "tmpfs", 0, "size=64k") != 0) {
+            return cannot_be_tried;
+        }
+        const std::string old(20'000, 'o');
+        const std::string file = home.write("file", old);
+        EXPECT_EQ(save_file(file, std::string(1'000'000, 'n')), ENOSPC);
+        EXPECT_EQ(read_file(home / "file"), old);
+        EXPECT_EQ(listing(home.path()), Names{"file"});
+        return 0;
+    };
+    const int result = in_child(fill_disk);
+    if (result == cannot_be_tried) {
+        GTEST_SKIP() << "this system lets the test mount nothing";
+    }
+    EXPECT_EQ(result, 0);
+}
+
+}  // namespace

@@ -1,0 +1,104 @@
+// SPDX-License-Identifier: MIT
+#include "toolkit/pane/paste_review.h"
+
+#include "toolkit/text_conversion.h"
+
+#include <QDialog>
+#include <QDialogButtonBox>
+#include <QFontDatabase>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTextCursor>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace {
+
+// Enough to see what it is; laying out a huge text would hold up everything else.
+constexpr std::size_t shown_bytes = 32'768;
+
+/// What stands for a control character: "^C" as the terminal would echo it, and an arrow for a line end.
+QString picture(char16_t control) {
+    if (control == u'\n' || control == u'\r') {
+        return QStringLiteral("\u21b5");
+    }
+    if (control < 0x20 || control == 0x7f) {
+        return QStringLiteral("^%1").arg(QChar(static_cast<char16_t>(control ^ 0x40)));
+    }
+    return QStringLiteral("<%1>").arg(control, 2, 16, QChar(u'0'));
+}
+
+bool is_control(QChar c) { return c.unicode() < 0x20 || (c.unicode() >= 0x7f && c.unicode() < 0xa0); }
+
+/// Fills the view with the beginning of the text. Pictures of control characters are marked by colour, so
+/// that they cannot be mistaken for the characters they are made of.
+void show_text(QPlainTextEdit& view, const std::string& text) {
+    QTextCharFormat mark;
+    mark.setBackground(QColor(0xff, 0xd9, 0x80));
+    const QString shown = to_qstring(std::string_view(text).substr(0, shown_bytes));
+    QTextCursor cursor = view.textCursor();
+    qsizetype plain_from = 0;
+    for (qsizetype at = 0; at <= shown.size(); ++at) {
+        if (at < shown.size() && !is_control(shown[at])) {
+            continue;
+        }
+        cursor.insertText(shown.mid(plain_from, at - plain_from), QTextCharFormat());
+        plain_from = at + 1;
+        if (at < shown.size()) {
+            cursor.insertText(picture(shown[at].unicode()), mark);
+            cursor.insertText(shown[at] == u'\n' ? QStringLiteral("\n") : QString(), QTextCharFormat());
+        }
+    }
+    if (text.size() > shown_bytes) {
+        cursor.insertText(QStringLiteral("\n... and %1 bytes more").arg(text.size() - shown_bytes), mark);
+    }
+    view.moveCursor(QTextCursor::Start);
+}
+
+QString summary(const std::string& text) {
+    const auto line_ends = std::count_if(text.begin(), text.end(), [](char c) { return c == '\n'; });
+    const QString lines = line_ends == 0 ? QStringLiteral("control characters")
+                                         : QStringLiteral("%1 line end%2")
+                                               .arg(line_ends)
+                                               .arg(line_ends == 1 ? QString() : QStringLiteral("s"));
+    return QStringLiteral("The text to be pasted holds %1. A line end may run a command at once.").arg(lines);
+}
+
+}  // namespace
+
+void review_paste(QWidget* parent, const std::string& text, std::function<void()> accepted) {
+    auto* dialog = new QDialog(parent->window());
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setWindowTitle(QStringLiteral("Paste"));
+    dialog->setWindowModality(Qt::WindowModal);
+
+    auto* label = new QLabel(summary(text), dialog);
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    auto* view = new QPlainTextEdit(dialog);
+    show_text(*view, text);
+    view->setReadOnly(true);
+    view->setAccessibleName(QStringLiteral("Text to be pasted"));
+    view->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    view->setTabChangesFocus(true);
+    auto* buttons = new QDialogButtonBox(dialog);
+    auto* paste = buttons->addButton(QStringLiteral("Paste"), QDialogButtonBox::AcceptRole);
+    buttons->addButton(QStringLiteral("Cancel"), QDialogButtonBox::RejectRole);
+    paste->setDefault(true);
+    paste->setFocus();
+
+    auto* layout = new QVBoxLayout(dialog);
+    layout->addWidget(label);
+    layout->addWidget(view, 1);
+    layout->addWidget(buttons);
+    constexpr QSize comfortable(560, 320);
+    dialog->resize(comfortable);
+
+    QObject::connect(buttons, &QDialogButtonBox::accepted, dialog, &QDialog::accept);
+    QObject::connect(buttons, &QDialogButtonBox::rejected, dialog, &QDialog::reject);
+    QObject::connect(dialog, &QDialog::accepted, parent, std::move(accepted));
+    QObject::connect(dialog, &QDialog::finished, parent, [parent] { parent->setFocus(); });
+    dialog->open();
+}

@@ -1,0 +1,92 @@
+// SPDX-License-Identifier: MIT
+#include "toolkit/pane/view.h"
+
+#include <QScreen>
+
+// The window around the terminal view, as a program in the terminal may know and, where the user permits it,
+// change it.
+
+namespace {
+
+// Within this time the window takes on the size that a program has asked for, or it will not.
+constexpr int settle_milliseconds = 300;
+
+terminal::WindowGeometry::Extent extent(QSize size) { return {size.width(), size.height()}; }
+terminal::WindowGeometry::Place place(QPoint point) { return {point.x(), point.y()}; }
+
+}  // namespace
+
+terminal::WindowGeometry TerminalView::window_geometry() const {
+    const QSize cell = cell_area({top_row(), 0}).size();
+    const terminal::Size size = terminal().size();
+    return {.cell = extent(cell),
+            .text = {size.columns * cell.width(), size.rows * cell.height()},
+            .window = extent(window()->size()),
+            .screen = extent(screen()->size()),
+            .window_place = place(window()->pos()),
+            .text_place = place(mapToGlobal(cell_area({top_row(), 0}).topLeft())),
+            .iconified = window()->isMinimized()};
+}
+
+/// A terminal that a program has given another size gets a window to match. Where the window stays larger,
+/// the terminal keeps its size until the window's user gives it another.
+void TerminalView::follow_size() {
+    const terminal::Size size = terminal().size();
+    const QRect corner = cell_area({top_row(), 0});
+    const QSize text(size.columns * corner.width(), size.rows * corner.height());
+    const QSize wanted = text + 2 * QSize(corner.x(), corner.x());
+    selection_.clear();
+    match_ = {};
+    settle_timer_.start(settle_milliseconds);
+    session_.resize(size, text.width(), text.height(), {});
+    window()->resize(window()->size() + wanted - this->size());
+    settled_size_ = this->size();
+    scroll_to_bottom();
+    refresh_all();
+}
+
+/// The window may have refused, or its user may have resized it meanwhile.
+void TerminalView::settle() {
+    const terminal::Size room = room_for_text();
+    const terminal::Size size = terminal().size();
+    if (this->size() != settled_size_ || room.columns < size.columns || room.rows < size.rows) {
+        fit_to_size();
+    }
+}
+
+void TerminalView::perform(const terminal::WindowRequest& request) {
+    using Kind = terminal::WindowRequest::Kind;
+    QWidget& top = *window();
+    const auto state = [&top](Qt::WindowState flag, bool on) {
+        top.setWindowState(top.windowState().setFlag(flag, on));
+    };
+    const QRect available = screen()->availableGeometry();
+    const QSize frame = top.frameGeometry().size() - top.size();
+    switch (request.kind) {
+        case Kind::restore:
+        case Kind::iconify:
+            return state(Qt::WindowMinimized, request.kind == Kind::iconify);
+        case Kind::move:
+            return top.move(request.place.x, request.place.y);
+        case Kind::raise:
+            return top.raise();
+        case Kind::lower:
+            return top.lower();
+        case Kind::refresh:
+            return update();
+        case Kind::unmaximize:
+        case Kind::maximize:
+            return state(Qt::WindowMaximized, request.kind == Kind::maximize);
+        case Kind::maximize_vertically:
+            top.move(top.x(), available.y());
+            return top.resize(top.width(), available.height() - frame.height());
+        case Kind::maximize_horizontally:
+            top.move(available.x(), top.y());
+            return top.resize(available.width() - frame.width(), top.height());
+        case Kind::leave_full_screen:
+        case Kind::full_screen:
+            return state(Qt::WindowFullScreen, request.kind == Kind::full_screen);
+        case Kind::toggle_full_screen:
+            return state(Qt::WindowFullScreen, !top.isFullScreen());
+    }
+}
