@@ -40,7 +40,7 @@ void CommandWindowPush() {
         return;
     }
     const std::string directory = with_home_directory(*selected);
-    if (const std::optional<std::string> word = shell_word(directory, shell_family(shell_name))) {
+    if (const std::optional<std::string> word = shell_word(directory, user_shell)) {
         send(fmt::format("pushd {}", *word));
     } else {
         command_window().set_left_footer(name_refusal(directory));

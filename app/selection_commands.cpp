@@ -34,7 +34,7 @@ void send_directory_change(std::string_view directory) {
     }
 }
 
-using Quoting = std::optional<std::string> (*)(std::string_view name, ShellFamily shell);
+using Quoting = std::optional<std::string> (*)(std::string_view name, const Shell& shell);
 
 /// The selection as a file name for the user's shell; nothing, and the footer says why, where there is none.
 std::optional<std::string> selected_name(std::string_view none, Quoting quoting) {
@@ -43,7 +43,7 @@ std::optional<std::string> selected_name(std::string_view none, Quoting quoting)
         return std::nullopt;
     }
     const std::string name = with_home_directory(*selected);
-    std::optional<std::string> word = quoting(name, shell_family(shell_name));
+    std::optional<std::string> word = quoting(name, user_shell);
     if (!word) {
         main_window().set_left_footer(name_refusal(name));
     }

@@ -52,8 +52,7 @@ void type_and_refresh(const std::string& line, int refresh) {
 
 /// Types a command on a file or directory; an empty path leaves the command without one.
 void type_with_path(const std::string& command, const std::string& path) {
-    const std::optional<std::string> word =
-        path.empty() ? path : shell_word(path_meant(path), shell_family(shell_name));
+    const std::optional<std::string> word = path.empty() ? path : shell_word(path_meant(path), user_shell);
     if (word) {
         type_and_refresh(command + " " + *word, refresh_after_command);
     } else {

@@ -29,7 +29,7 @@ void check_typed(const Word& word, const std::string& name, ShellFamily family) 
 /// A name that is put into a user's command leaves its quotes as they are. "$'" is left out: not all shells
 /// read it the same.
 void check_behind(std::string_view before, std::string_view name, ShellFamily family) {
-    const Word word = operand_behind(before, name, family);
+    const Word word = operand_behind(before, name, {family, true});
     if (!word || before.find("$'") != std::string_view::npos) {
         return;
     }
@@ -45,9 +45,10 @@ void check_behind(std::string_view before, std::string_view name, ShellFamily fa
 
 /// The prompt hook is a word itself: a command that ends with the path as a word.
 void check_hook(const char* shell, const std::string& path) {
-    for (const PromptHook& hook : prompt_hooks(shell, ClearCaseUsage::off, path)) {
+    for (const PromptHook& hook :
+         prompt_hooks(shell, {shell_family(shell), true}, ClearCaseUsage::off, path)) {
         const Word command = read_word(std::string_view(hook.text).substr(hook.text.find('\'')));
-        require(command && command->ends_with(' ' + *shell_word(path, shell_family(shell))),
+        require(command && command->ends_with(' ' + *shell_word(path, {shell_family(shell), true})),
                 "a broken prompt hook");
     }
 }
@@ -58,17 +59,17 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     std::string_view rest = as_text(data, size);
     const std::string_view before = take_part(rest);
     const std::string name(take_part(rest));
-    const std::string path = name.starts_with('-') ? "./" + name : name;
+    const std::string path = (name.starts_with('-') || name.starts_with('+')) ? "./" + name : name;
     for (const ShellFamily family : families) {
-        check_typed(shell_word(name, family), path, family);
-        check_typed(double_quoted_word(name, family), path, family);
-        check_typed(escaped_word(name, family), path, family);
+        check_typed(shell_word(name, {family, true}), path, family);
+        check_typed(double_quoted_word(name, {family, true}), path, family);
+        check_typed(escaped_word(name, {family, true}), path, family);
         check_behind(before, name, family);
     }
     check_hook("csh", name);
     check_hook("bash", name);
-    require(read_word(system_word(name)) == path, "sh reads another name");
-    require(read_word(quoted_word(name)) == name, "sh reads another text");
+    require(read_word(script_word(name, ShellFamily::other)) == path, "sh reads another name");
+    require(read_word(script_text(name, ShellFamily::other)) == name, "sh reads another text");
     require(read_word("'" + inside_single_quotes(name) + "'") == name, "quotes do not hold");
     return 0;
 }

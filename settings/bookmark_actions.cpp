@@ -31,7 +31,7 @@ std::optional<std::string> word_of(const std::string& path) {
         return std::nullopt;
     }
     const std::string meant = path_meant(path);
-    std::optional<std::string> word = shell_word(meant, shell_family(shell_name));
+    std::optional<std::string> word = shell_word(meant, user_shell);
     if (!word) {
         main_window().set_left_footer(name_refusal(meant));
     }
@@ -49,7 +49,7 @@ void open_with(const char* variable, const std::string& path) {
         main_window().set_left_footer(fmt::format("Environment variable {} is not set", variable));
         return;
     }
-    start_in_background(fmt::format("${} {}", variable, system_word(path_meant(path))));
+    start_in_background(fmt::format("${} {}", variable, script_word(path_meant(path), ShellFamily::other)));
 }
 
 /// "Cwd:"; empty, and the left footer says so, when it is.

@@ -188,7 +188,7 @@ void BookmarkFIleEdit() {
     window.set_left_footer("");
     const std::string path = bookmark_path();
     std::error_code unknown;
-    if (!editor_command(system_word(path))) {
+    if (!editor_command(script_word(path, ShellFamily::other))) {
         window.set_left_footer("User editor not specified");
     } else if (!std::filesystem::exists(path, unknown)) {
         window.set_left_footer("Bookmarks file doesn't exists");

@@ -83,7 +83,7 @@ std::optional<std::string> command_of(CommandListManager& manager, const std::st
             if (value.empty()) {
                 return value;
             }
-            std::optional<std::string> word = operand_behind(before, value, shell_family(shell_name));
+            std::optional<std::string> word = operand_behind(before, value, user_shell);
             if (!word) {
                 manager.set_left_footer(name_refusal(value));
             }

@@ -111,7 +111,7 @@ void CommandHistorySaveButton() { (void)save_history_to(cleared_manager(), histo
 void EditCommandHistory() {
     CommandHistoryManager& manager = cleared_manager();
     const std::string path = history_path();
-    const std::optional<std::string> command = editor_command(system_word(path));
+    const std::optional<std::string> command = editor_command(script_word(path, ShellFamily::other));
     if (!command) {
         manager.set_left_footer("User editor not specified");
     } else if (save_history_to(manager, path)) {

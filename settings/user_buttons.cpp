@@ -69,9 +69,9 @@ FilledCommand fill(const std::string& command) {
     const auto tree_name = [&] {
         const std::string name = selected_tree_name();
         const std::optional<std::string> operand =
-            name.empty() ? name
-                         : operand_behind(std::string_view(command).substr(0, command.find("???")), name,
-                                          shell_family(shell_name));
+            name.empty()
+                ? name
+                : operand_behind(std::string_view(command).substr(0, command.find("???")), name, user_shell);
         if (!operand) {
             filled.refusal = name_refusal(name);
         }

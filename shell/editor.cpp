@@ -36,7 +36,7 @@ std::string geometry_options(int width, int height) {
     std::string options = fmt::sprintf(" -geometry %dx%d+%d+%d", width, height, setup.x_coordinate.value(),
                                        setup.y_coordinate.value());
     const std::string font = setup.font_name.text();
-    return font.empty() ? options : options + " -font " + quoted_word(font);
+    return font.empty() ? options : options + " -font " + script_text(font, ShellFamily::other);
 }
 
 }  // namespace
@@ -70,7 +70,7 @@ std::optional<std::string> editor_command(std::string_view word) {
 }
 
 void edit_file(Frame& frame, const std::string& path) {
-    if (const std::optional<std::string> command = editor_command(system_word(path))) {
+    if (const std::optional<std::string> command = editor_command(script_word(path, ShellFamily::other))) {
         run_in_background(*command);
     } else {
         frame.set_left_footer("User editor not specified");
@@ -78,7 +78,7 @@ void edit_file(Frame& frame, const std::string& path) {
 }
 
 void edit_file_silently(const std::string& path) {
-    if (const std::optional<std::string> command = editor_command(system_word(path))) {
+    if (const std::optional<std::string> command = editor_command(script_word(path, ShellFamily::other))) {
         start_in_background(*command);
     }
 }

@@ -17,7 +17,7 @@ std::string nedit_command();
 std::string gedit_command();
 
 /// The command that opens a file in the editor, ready for the " &" behind it. `word` is the file's name as
-/// the shell that is to read the command must be given it: see `system_word` and `shell_word` in
+/// the shell that is to read the command must be given it: see `script_word` and `shell_word` in
 /// shell/quoting.h. Nothing while "user def" is chosen and "User Editor:" is empty: "User editor not
 /// specified".
 [[nodiscard]] std::optional<std::string> editor_command(std::string_view word);

@@ -52,10 +52,11 @@ void set_tree_name_source(OperandSource source) { tree_name_source() = std::move
 
 std::string selected_tree_name() { return tree_name_source() ? tree_name_source()() : std::string(); }
 
-std::optional<std::string> operand_behind(std::string_view before, std::string_view name, ShellFamily shell) {
+std::optional<std::string> operand_behind(std::string_view before, std::string_view name,
+                                          const Shell& shell) {
     Place place;
     for (const char c : before) {
-        place.read(c, shell);
+        place.read(c, shell.family);
     }
     std::optional<std::string> word = shell_word(name, shell);
     if (!place.is_plain()) {

@@ -18,7 +18,7 @@ std::string selected_tree_name();
 /// A file name as it may stand in a command line behind `before`: as one word of the shell or, where its user
 /// has opened quotes, without any. Nothing when the shell would act on it there, or might: behind a "$" or a
 /// backslash, and where commands are substituted within quotes, only an ordinary name is given.
-std::optional<std::string> operand_behind(std::string_view before, std::string_view name, ShellFamily shell);
+std::optional<std::string> operand_behind(std::string_view before, std::string_view name, const Shell& shell);
 
 /// A selected file name with its home directory in full where it begins with "~" or "~user": quoted, the sign
 /// would mean nothing to the shell.

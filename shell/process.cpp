@@ -44,6 +44,7 @@ void read_process_values() {
     startup_dir = directory.data();
     user_name = environment_value("LOGNAME", "Can't get login user name");
     shell_name = environment_value("SHELL", "Can't get shell name");
+    user_shell = {.family = shell_family(shell_name), .utf8 = environment_is_utf8()};
     orvik_home = environment_value("ORVIK_HOME", "Can't get ORVIK_HOME enviroment variable");
     pid = getpid();
 }

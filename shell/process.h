@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "shell/shell_family.h"
+
 #include <string>
 
 #include <sys/types.h>
@@ -14,6 +16,7 @@ inline std::string home_dir;     ///< HOME
 inline std::string startup_dir;  ///< the directory the tool was started in, at most 1023 bytes
 inline std::string user_name;    ///< LOGNAME
 inline std::string shell_name;   ///< SHELL: path of the user's shell
+inline Shell user_shell;         ///< what `shell_name` and the locale make of it
 inline std::string orvik_home;   ///< ORVIK_HOME: the installation directory
 inline pid_t pid = 0;
 

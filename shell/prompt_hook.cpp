@@ -37,9 +37,9 @@ bool is_for(HookKind kind, std::string_view shell_name) {
 
 }  // namespace
 
-std::vector<PromptHook> prompt_hooks(std::string_view shell_name, ClearCaseUsage usage,
+std::vector<PromptHook> prompt_hooks(std::string_view shell_name, const Shell& shell, ClearCaseUsage usage,
                                      std::string_view status_path) {
-    const std::optional<std::string> path = shell_word(status_path, shell_family(shell_name));
+    const std::optional<std::string> path = shell_word(status_path, shell);
     std::vector<PromptHook> hooks;
     for (const HookParts& parts : hook_table) {
         if (!path || parts.usage != usage || !is_for(parts.kind, shell_name)) {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "shell/shell_family.h"
+
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -17,7 +19,7 @@ struct PromptHook {
     bool operator==(const PromptHook&) const = default;
 };
 
-/// The hooks for a shell, chosen by its name: one when it holds "csh", one when it holds "bash" or "ksh", in
+/// The hooks for a shell, chosen by its path: one when it holds "csh", one when it holds "bash" or "ksh", in
 /// that order; none for other shells. None either for a status path that no quoting can bring into the shell.
-std::vector<PromptHook> prompt_hooks(std::string_view shell_name, ClearCaseUsage usage,
+std::vector<PromptHook> prompt_hooks(std::string_view shell_name, const Shell& shell, ClearCaseUsage usage,
                                      std::string_view status_path);

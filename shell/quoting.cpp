@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/quoting.h"
 
+#include "shell/plain_text.h"
 #include "shell/text.h"
 
 #include <algorithm>
@@ -15,49 +16,27 @@ bool is_letter_or_digit(char c) {
 
 bool is_control(char c) { return static_cast<unsigned char>(c) < 0x20 || c == 0x7F; }
 
-bool is_continuation(char c) { return (static_cast<unsigned char>(c) & 0xC0U) == 0x80; }
-
-/// Whether the bytes beyond ASCII are well-formed enough to be typed as they are: lead bytes with as many
-/// continuation bytes as they ask for, and no C1 control character (U+0080 to U+009F).
-bool is_plain_utf8(std::string_view text) {
-    for (std::size_t at = 0; at < text.size();) {
-        const auto lead = static_cast<unsigned char>(text[at]);
-        const std::size_t length = lead < 0x80   ? 1
-                                   : lead < 0xC2 ? 0
-                                   : lead < 0xE0 ? 2
-                                   : lead < 0xF0 ? 3
-                                   : lead < 0xF5 ? 4
-                                                 : 0;
-        if (length == 0 || at + length > text.size()) {
-            return false;
-        }
-        const std::string_view rest = text.substr(at + 1, length - 1);
-        const bool c1 = lead == 0xC2 && static_cast<unsigned char>(rest[0]) < 0xA0;
-        if (c1 || !std::all_of(rest.begin(), rest.end(), is_continuation)) {
-            return false;
-        }
-        at += length;
-    }
-    return true;
+/// Whether the shell takes every byte beyond ASCII for part of a character that it leaves alone.
+bool is_plain(std::string_view text, const Shell& shell) {
+    return is_ascii(text) || (shell.utf8 && shell.family != ShellFamily::unknown && is_plain_utf8(text));
 }
 
-bool is_ordinary(std::string_view name) {
-    constexpr std::string_view harmless = "_./+,:@%=-";
-    const auto ordinary = [&](char c) {
-        return is_letter_or_digit(c) || harmless.find(c) != std::string_view::npos ||
-               static_cast<unsigned char>(c) >= 0x80;
-    };
-    return !name.empty() && !name.starts_with('=') && std::all_of(name.begin(), name.end(), ordinary) &&
-           is_plain_utf8(name);
+/// Whether single quotes keep the shell and its line editor from acting on a plain text.
+bool quotes_hold(std::string_view text, ShellFamily family) {
+    const bool history_mark = text.find('!') != std::string_view::npos && family != ShellFamily::other;
+    // With tcsh's "backslash_quote", \' does not close them.
+    const bool backslash = text.find('\\') != std::string_view::npos && family == ShellFamily::csh;
+    return !history_mark && !backslash && !has_control_characters(text);
 }
 
-/// Text beyond ASCII stays as it is where it is text; bytes that are none are written in octal too.
-std::string octal_word(std::string_view name) {
-    const bool text = is_plain_utf8(name);
+std::string single_quoted(std::string_view text) { return fmt::format("'{}'", inside_single_quotes(text)); }
+
+/// Text beyond ASCII stays as it is where it is plain; else its bytes are written in octal too.
+std::string octal_word(std::string_view text, bool plain) {
     std::string word = "$'";
-    for (const char c : name) {
+    for (const char c : text) {
         const bool high = static_cast<unsigned char>(c) >= 0x80;
-        if (is_letter_or_digit(c) || c == '/' || c == '.' || c == '_' || (high && text)) {
+        if (is_letter_or_digit(c) || c == '/' || c == '.' || c == '_' || (high && plain)) {
             word += c;
         } else {
             word += fmt::format("\\{:03o}", static_cast<unsigned char>(c));
@@ -66,57 +45,86 @@ std::string octal_word(std::string_view name) {
     return word + "'";
 }
 
+bool begins_like_an_option(std::string_view name) { return name.starts_with('-') || name.starts_with('+'); }
+
+std::string as_operand(std::string_view name) {
+    return fmt::format("{}{}", begins_like_an_option(name) ? "./" : "", name);
+}
+
+/// A reader of scripts takes bytes as they are.
+constexpr Shell script_reader{.family = ShellFamily::other, .utf8 = true};
+
 }  // namespace
 
-ShellFamily shell_family(std::string_view shell_name) {
-    const auto named = [&](std::string_view part) { return shell_name.find(part) != std::string_view::npos; };
-    if (named("csh")) {
-        return ShellFamily::csh;
-    }
-    if (named("bash") || named("ksh")) {
-        return ShellFamily::bash;
-    }
-    return named("zsh") ? ShellFamily::zsh : ShellFamily::other;
+bool is_ordinary(std::string_view text, const Shell& shell) {
+    const std::string_view harmless = shell.family == ShellFamily::unknown ? "_./+:-" : "_./+,:@%=-";
+    const auto ordinary = [&](char c) {
+        return is_letter_or_digit(c) || harmless.find(c) != std::string_view::npos ||
+               static_cast<unsigned char>(c) >= 0x80;
+    };
+    return !text.empty() && !text.starts_with('=') && std::ranges::all_of(text, ordinary) &&
+           is_plain(text, shell);
 }
 
-std::optional<std::string> shell_word(std::string_view name, ShellFamily shell) {
-    if (name.empty() || name.find('\0') != std::string_view::npos) {
+std::optional<std::string> shell_text(std::string_view text, const Shell& shell) {
+    if (text.find('\0') != std::string_view::npos) {
         return std::nullopt;
     }
-    const std::string path = fmt::format("{}{}", name.starts_with('-') ? "./" : "", name);
-    if (is_ordinary(path)) {
-        return path;
+    if (is_ordinary(text, shell)) {
+        return std::string(text);
     }
-    const bool text = is_plain_utf8(path);
-    const bool history_mark = path.find('!') != std::string::npos && shell != ShellFamily::other;
-    if (text && !has_control_characters(path) && !history_mark) {
-        return fmt::format("'{}'", inside_single_quotes(path));
+    if (shell.family == ShellFamily::unknown) {
+        return std::nullopt;
+    }
+    const bool plain = is_plain(text, shell);
+    if (plain && quotes_hold(text, shell.family)) {
+        return single_quoted(text);
     }
     // tcsh takes $'\377' for the character U+00FF, not for the byte.
-    const bool possible = shell != ShellFamily::other && (text || shell != ShellFamily::csh);
-    return possible ? std::optional(octal_word(path)) : std::nullopt;
+    const bool possible = shell.family != ShellFamily::other && (plain || shell.family != ShellFamily::csh);
+    return possible ? std::optional(octal_word(text, plain)) : std::nullopt;
 }
 
-std::optional<std::string> double_quoted_word(std::string_view name, ShellFamily shell) {
+std::optional<std::string> shell_word(std::string_view name, const Shell& shell) {
+    return name.empty() ? std::nullopt : shell_text(as_operand(name), shell);
+}
+
+std::optional<std::string> double_quoted_word(std::string_view name, const Shell& shell) {
     constexpr std::string_view live_in_double_quotes = "\"$`\\!";
-    const bool inert = !name.empty() && !name.starts_with('-') &&
+    const bool inert = !name.empty() && !begins_like_an_option(name) &&
                        name.find_first_of(live_in_double_quotes) == std::string_view::npos &&
-                       !has_control_characters(name) && is_plain_utf8(name);
+                       !has_control_characters(name) && is_plain(name, shell) &&
+                       (shell.family != ShellFamily::unknown || is_ordinary(name, shell));
     return inert ? fmt::format("\"{}\"", name) : shell_word(name, shell);
 }
 
-std::string system_word(std::string_view name) {
-    const std::string path = fmt::format("{}{}", name.starts_with('-') ? "./" : "", name);
-    return is_ordinary(remove_spaces(path)) ? ConvertSpaces(path) : quoted_word(path);
-}
-
-std::string quoted_word(std::string_view text) {
-    return is_ordinary(text) ? std::string(text) : fmt::format("'{}'", inside_single_quotes(text));
-}
-
-std::optional<std::string> escaped_word(std::string_view name, ShellFamily shell) {
-    const bool only_blanks = !name.starts_with('-') && is_ordinary(remove_spaces(name));
+std::optional<std::string> escaped_word(std::string_view name, const Shell& shell) {
+    const bool only_blanks = !begins_like_an_option(name) && is_ordinary(remove_spaces(name), shell) &&
+                             (shell.family != ShellFamily::unknown || is_ordinary(name, shell));
     return only_blanks ? ConvertSpaces(name) : shell_word(name, shell);
+}
+
+std::string script_text(std::string_view text, ShellFamily shell) {
+    if (is_ordinary(text, script_reader)) {
+        return std::string(text);
+    }
+    std::string quoted = single_quoted(text);
+    if (shell != ShellFamily::csh) {
+        return quoted;
+    }
+    std::string word;
+    for (const char c : quoted) {
+        if (c == '!' || c == '\n') {
+            word += '\\';
+        }
+        word += c;
+    }
+    return word;
+}
+
+std::string script_word(std::string_view name, ShellFamily shell) {
+    const std::string path = as_operand(name);
+    return is_ordinary(remove_spaces(path), script_reader) ? ConvertSpaces(path) : script_text(path, shell);
 }
 
 std::string inside_single_quotes(std::string_view text) {

@@ -49,7 +49,7 @@ void DisplayStatusTimer() {
 std::vector<PromptHook> type_prompt_hooks() {
     std::vector<PromptHook> typed;
     for (PromptHook& hook : prompt_hooks(
-             shell_name,
+             shell_name, user_shell,
              clearcase_setup().enable_clearcase_usage.value() ? ClearCaseUsage::on : ClearCaseUsage::off,
              status_display().status_file.text())) {
         environment_setup().precmd.set_text(hook.text);

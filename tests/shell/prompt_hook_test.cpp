@@ -39,7 +39,8 @@ TEST(PromptHook, IsChosenByTheShellsName) {
         {"/bin/bash", ClearCaseUsage::off, "", {}},
     };
     for (const auto& [shell, usage, status_path, expected] : cases) {
-        EXPECT_EQ(prompt_hooks(shell, usage, status_path), expected) << shell << ' ' << status_path;
+        EXPECT_EQ(prompt_hooks(shell, {shell_family(shell), true}, usage, status_path), expected)
+            << shell << ' ' << status_path;
     }
 }
 

@@ -44,14 +44,14 @@ const std::string names[] = {"plain",       "/a-b_c.d+e,f:g@h%i=j",
 /// What a shell must be given so that it reads the name: a leading "-" gets its "./".
 std::string as_operand(const std::string& name) { return name.starts_with('-') ? "./" + name : name; }
 
-struct Shell {
+struct LiveShellRow {
     const char* name;
     const char* path;
     std::vector<std::string> arguments;
     int refused;  ///< how many of the names it cannot be given
 };
 
-class LiveShell : public testing::TestWithParam<Shell> {
+class LiveShell : public testing::TestWithParam<LiveShellRow> {
   protected:
     /// Starts the shell with a script `show` in its directory that writes its arguments, each ended by NUL.
     void SetUp() override {
@@ -94,7 +94,7 @@ TEST_P(LiveShell, SeesExactlyTheNameThatWasTyped) {
     for (const auto quoting : {shell_word, double_quoted_word}) {
         int refused = 0;
         for (const std::string& name : names) {
-            const auto word = quoting(name, shell_family(GetParam().path));
+            const auto word = quoting(name, Shell{shell_family(GetParam().path), true});
             if (!word) {
                 ++refused;
                 continue;
@@ -107,18 +107,18 @@ TEST_P(LiveShell, SeesExactlyTheNameThatWasTyped) {
 }
 
 INSTANTIATE_TEST_SUITE_P(All, LiveShell,
-                         testing::Values(Shell{"bash", "/bin/bash", {"bash", "--norc", "-i"}, 0},
-                                         Shell{"ksh", "/bin/ksh93", {"ksh93", "-i"}, 0},
-                                         Shell{"tcsh", "/bin/tcsh", {"tcsh", "-f"}, 3},
-                                         Shell{"zsh", "/bin/zsh", {"zsh", "-f", "-i"}, 0},
-                                         Shell{"sh", "/bin/sh", {"sh", "-i"}, 15}),
+                         testing::Values(LiveShellRow{"bash", "/bin/bash", {"bash", "--norc", "-i"}, 0},
+                                         LiveShellRow{"ksh", "/bin/ksh93", {"ksh93", "-i"}, 0},
+                                         LiveShellRow{"tcsh", "/bin/tcsh", {"tcsh", "-f"}, 3},
+                                         LiveShellRow{"zsh", "/bin/zsh", {"zsh", "-f", "-i"}, 0},
+                                         LiveShellRow{"sh", "/bin/sh", {"sh", "-i"}, 15}),
                          [](const auto& test) { return test.param.name; });
 
 TEST(SystemWord, GivesTheSystemsShellExactlyTheName) {
     const ScratchDirectory directory;
     const std::string out = directory / "out";
     for (const std::string& name : names) {
-        const std::string line = "printf '%s\\000' " + system_word(name) + " >" + out;
+        const std::string line = "printf '%s\\000' " + script_word(name, ShellFamily::other) + " >" + out;
         ASSERT_EQ(std::system(line.c_str()), 0) << line;
         EXPECT_EQ(read_file(out), as_operand(name) + '\0') << line;
     }
@@ -128,21 +128,21 @@ TEST(Word, HasTheSimplestFormThatWillDo) {
     using Word = std::optional<std::string>;
     const std::string nul("a\0b", 3);
     const std::pair<Word, Word> cases[] = {
-        {system_word("/home/u/.orvik-history"), "/home/u/.orvik-history"},
-        {system_word("/home/my files/a b"), "/home/my\\ files/a\\ b"},
-        {system_word("-x y"), "./-x\\ y"},
-        {system_word("a b;c's"), "'a b;c'\\''s'"},
-        {quoted_word("-fixed-*"), "'-fixed-*'"},
-        {quoted_word("-fixed-r--13"), "-fixed-r--13"},
-        {shell_word("a.b-c_d+e,f:g@h%i=j/caf\xC3\xA9", ShellFamily::other),
+        {script_word("/home/u/.orvik-history", ShellFamily::other), "/home/u/.orvik-history"},
+        {script_word("/home/my files/a b", ShellFamily::other), "/home/my\\ files/a\\ b"},
+        {script_word("-x y", ShellFamily::other), "./-x\\ y"},
+        {script_word("a b;c's", ShellFamily::other), "'a b;c'\\''s'"},
+        {script_text("-fixed-*", ShellFamily::other), "'-fixed-*'"},
+        {script_text("-fixed-r--13", ShellFamily::other), "-fixed-r--13"},
+        {shell_word("a.b-c_d+e,f:g@h%i=j/caf\xC3\xA9", Shell{ShellFamily::other, true}),
          "a.b-c_d+e,f:g@h%i=j/caf\xC3\xA9"},
-        {shell_word("", ShellFamily::bash), std::nullopt},
-        {shell_word(nul, ShellFamily::bash), std::nullopt},
-        {shell_word("a\nb", ShellFamily::other), std::nullopt},
-        {double_quoted_word("a b", ShellFamily::bash), "\"a b\""},
-        {double_quoted_word("plain", ShellFamily::csh), "\"plain\""},
-        {double_quoted_word("$HOME", ShellFamily::bash), "'$HOME'"},
-        {double_quoted_word("", ShellFamily::bash), std::nullopt},
+        {shell_word("", Shell{ShellFamily::bash, true}), std::nullopt},
+        {shell_word(nul, Shell{ShellFamily::bash, true}), std::nullopt},
+        {shell_word("a\nb", Shell{ShellFamily::other, true}), std::nullopt},
+        {double_quoted_word("a b", Shell{ShellFamily::bash, true}), "\"a b\""},
+        {double_quoted_word("plain", Shell{ShellFamily::csh, true}), "\"plain\""},
+        {double_quoted_word("$HOME", Shell{ShellFamily::bash, true}), "'$HOME'"},
+        {double_quoted_word("", Shell{ShellFamily::bash, true}), std::nullopt},
     };
     for (const auto& [word, expected] : cases) {
         EXPECT_EQ(word, expected);
@@ -164,23 +164,23 @@ TEST(Operand, IsNotPutWhereTheShellMightActOnIt) {
     const struct {
         std::string before;
         std::string name;
-        ShellFamily shell;
+        Shell shell;
         std::optional<std::string> operand;
     } cases[] = {
-        {"vi ", inert, ShellFamily::bash, "'a;id'"},
-        {"vi \"$x", inert, ShellFamily::bash, inert},
-        {"vi '$(`\\' ", inert, ShellFamily::bash, "'a;id'"},
-        {"vi \\", inert, ShellFamily::bash, std::nullopt},
-        {"vi \\\\", inert, ShellFamily::bash, "'a;id'"},
-        {"vi $", "a\\';id;'", ShellFamily::bash, std::nullopt},
-        {"vi $$", inert, ShellFamily::bash, "'a;id'"},
-        {"vi \"$", "(id)", ShellFamily::bash, std::nullopt},
-        {"vi \"$(cat ", inert, ShellFamily::bash, std::nullopt},
-        {"vi \"$(cat ", "ordinary", ShellFamily::bash, "ordinary"},
-        {"vi `cat ", "a`;id;`", ShellFamily::bash, std::nullopt},
-        {"vi $'it\\'s ", inert, ShellFamily::bash, inert},
-        {"vi $'it\\'s ", inert, ShellFamily::other, "'a;id'"},
-        {"vi \"a\\\"", inert, ShellFamily::csh, std::nullopt},
+        {"vi ", inert, Shell{ShellFamily::bash, true}, "'a;id'"},
+        {"vi \"$x", inert, Shell{ShellFamily::bash, true}, inert},
+        {"vi '$(`\\' ", inert, Shell{ShellFamily::bash, true}, "'a;id'"},
+        {"vi \\", inert, Shell{ShellFamily::bash, true}, std::nullopt},
+        {"vi \\\\", inert, Shell{ShellFamily::bash, true}, "'a;id'"},
+        {"vi $", "a\\';id;'", Shell{ShellFamily::bash, true}, std::nullopt},
+        {"vi $$", inert, Shell{ShellFamily::bash, true}, "'a;id'"},
+        {"vi \"$", "(id)", Shell{ShellFamily::bash, true}, std::nullopt},
+        {"vi \"$(cat ", inert, Shell{ShellFamily::bash, true}, std::nullopt},
+        {"vi \"$(cat ", "ordinary", Shell{ShellFamily::bash, true}, "ordinary"},
+        {"vi `cat ", "a`;id;`", Shell{ShellFamily::bash, true}, std::nullopt},
+        {"vi $'it\\'s ", inert, Shell{ShellFamily::bash, true}, inert},
+        {"vi $'it\\'s ", inert, Shell{ShellFamily::other, true}, "'a;id'"},
+        {"vi \"a\\\"", inert, Shell{ShellFamily::csh, true}, std::nullopt},
     };
     for (const auto& row : cases) {
         EXPECT_EQ(operand_behind(row.before, row.name, row.shell), row.operand) << row.before;

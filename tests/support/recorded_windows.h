@@ -28,6 +28,7 @@ class RecordedWindows : public testing::Test {
     void SetUp() override {
         home_dir = startup_dir = home.path();
         shell_name = "/bin/bash";
+        user_shell = {.family = ShellFamily::bash, .utf8 = true};
         create_windows();
         const std::string script = "stty raw -echo; : >typed; touch ready; exec cat >>typed";
         main_window().termpane.start({"/bin/sh", {"sh", "-c", script}, {"PATH=/usr/bin:/bin"}, home.path()});
