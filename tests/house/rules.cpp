@@ -17,8 +17,9 @@ constexpr std::size_t most_lines = 500;
 /// The folders of the program, from the ground up: each may include those before it and itself.
 constexpr std::array<std::string_view, 8> floors{"terminal", "toolkit",  "ui",       "shell",
                                                  "browsers", "settings", "commands", "app"};
-/// What checks and measures the program may include everything, and nothing of the program includes it.
-constexpr std::array<std::string_view, 3> beside_the_house{"tests", "bench", "fuzz"};
+/// What checks, measures and shows the program may include everything, and nothing of the program includes
+/// it.
+constexpr std::array<std::string_view, 4> beside_the_house{"tests", "bench", "fuzz", "tools"};
 
 /// A word that code may use only in some places.
 struct WordRule {
