@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "tests/house/build_rules.h"
 #include "tests/house/rules.h"
 #include "tests/support/scratch_directory.h"
 
@@ -100,10 +101,35 @@ TEST(House, LicenceLineIsMissed) {
                                                  "app/late.h:1: the first line is not the licence's"}));
 }
 
+TEST(House, BuildFilesNameEveryFile) {
+    const ScratchDirectory tree;
+    tree.write("CMakeLists.txt",
+               "# if(EXISTS here)\nforeach(folder app fuzz)\n    add_subdirectory(${folder})\nendforeach()\n"
+               "include(extra.cmake\n    OPTIONAL)\nif(NOT EXISTS ${x}/y)\nendif()\n");
+    tree.write("app/CMakeLists.txt",
+               "file(GLOB sources *.cpp)\nadd_library(app a.cpp\n  deep/b.cpp  # c.cpp\n)\n");
+    tree.write("fuzz/CMakeLists.txt",
+               "add_executable(${target} ${name}_fuzz.cpp ../tests/main.cpp)\nadd(text)\n");
+    tree.write("tests/CMakeLists.txt", "");
+    for (const char* source : {"app/a.cpp", "app/b.cpp", "app/c.cpp", "app/deep/b.cpp", "fuzz/text_fuzz.cpp",
+                               "fuzz/paste_fuzz.cpp", "tests/main.cpp", "app/a.h"}) {
+        tree.write(source, "");
+    }
+    EXPECT_EQ(
+        build_faults(tree.path()),
+        (Faults{"CMakeLists.txt:5: an optional include hides a missing file",
+                "CMakeLists.txt:7: a question for a file hides that it is missing",
+                "app/CMakeLists.txt:1: a pattern hides a missing file",
+                "app/b.cpp:1: no CMakeLists.txt names it", "app/c.cpp:1: no CMakeLists.txt names it",
+                "fuzz/paste_fuzz.cpp:1: no CMakeLists.txt names it", "tests:1: no CMakeLists.txt names it"}));
+}
+
 TEST(House, ThisTreeKeepsItsRules) {
     ASSERT_TRUE(std::filesystem::exists(ORVIK_SOURCE_DIR "/tests/house/rules.cpp"));
-    for (const std::string& fault : house_faults(ORVIK_SOURCE_DIR)) {
-        ADD_FAILURE() << fault;
+    for (const Faults& faults : {house_faults(ORVIK_SOURCE_DIR), build_faults(ORVIK_SOURCE_DIR)}) {
+        for (const std::string& fault : faults) {
+            ADD_FAILURE() << fault;
+        }
     }
 }
 

@@ -17,13 +17,11 @@ std::string without_comment(const std::string& line) {
 
 namespace {
 
-bool is_source(const fs::path& path) { return path.extension() == ".cpp" || path.extension() == ".h"; }
-
 bool is_skipped(const std::string& name) { return name.starts_with('.') || name == "build"; }
 
-SourceFile read_source(const fs::path& top, const fs::path& path) {
-    SourceFile file{fs::relative(path, top).string(), {}, {}};
-    std::ifstream in(path);
+SourceFile read_source(const fs::path& top, const std::string& path) {
+    SourceFile file{path, {}, {}};
+    std::ifstream in(top / path);
     for (std::string line; std::getline(in, line);) {
         file.lines.push_back(line);
     }
@@ -51,15 +49,24 @@ void find_includes(SourceFile& file, const SourceTree& tree) {
 
 }  // namespace
 
-SourceTree read_source_tree(const fs::path& top) {
-    SourceTree tree;
+std::vector<std::string> files_of(const fs::path& top) {
+    std::vector<std::string> files;
     for (auto entry = fs::recursive_directory_iterator(top); entry != fs::recursive_directory_iterator();
          ++entry) {
         if (entry->is_directory() && is_skipped(entry->path().filename().string())) {
             entry.disable_recursion_pending();
-        } else if (entry->is_regular_file() && is_source(entry->path())) {
-            SourceFile file = read_source(top, entry->path());
-            tree.emplace(file.path, std::move(file));
+        } else if (entry->is_regular_file()) {
+            files.push_back(fs::relative(entry->path(), top).string());
+        }
+    }
+    return files;
+}
+
+SourceTree read_source_tree(const fs::path& top) {
+    SourceTree tree;
+    for (const std::string& path : files_of(top)) {
+        if (path.ends_with(".cpp") || path.ends_with(".h")) {
+            tree.emplace(path, read_source(top, path));
         }
     }
     for (auto& [path, file] : tree) {

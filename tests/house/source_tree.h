@@ -31,5 +31,7 @@ using SourceTree = std::map<std::string, SourceFile>;
 /// A line of code without the comment at its end.
 [[nodiscard]] std::string without_comment(const std::string& line);
 
-/// All C++ files under a directory by their paths, but those of hidden folders and of build/.
+/// All files under a directory by their paths from there, but those of hidden folders and of build/.
+[[nodiscard]] std::vector<std::string> files_of(const std::filesystem::path& top);
+/// The C++ files among them.
 [[nodiscard]] SourceTree read_source_tree(const std::filesystem::path& top);
