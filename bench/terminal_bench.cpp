@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "terminal/engine.h"
 #include "terminal/terminal.h"
 #include "terminal/text.h"
 
@@ -103,11 +102,11 @@ void scrollback_memory(benchmark::State& state) {
     Silent client;
     std::size_t bytes = 0;
     for (auto _ : state) {
-        terminal::Engine engine({{100, 24}, lines}, client);
+        terminal::Terminal terminal({{100, 24}, lines}, client);
         for (std::size_t i = 0; i < lines + lines / 2; ++i) {
-            engine.write(line);
+            terminal.write(line);
         }
-        bytes = engine.scrollback_memory();
+        bytes = terminal.scrollback_memory();
     }
     state.counters["MB"] = static_cast<double>(bytes) / 1e6;
 }

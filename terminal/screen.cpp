@@ -1,16 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/screen.h"
 
-#include "terminal/limits.h"
-
 #include <algorithm>
 #include <cassert>
 
 namespace terminal {
-
-Size within_limits(Size size) {
-    return {std::clamp(size.columns, min_columns, max_columns), std::clamp(size.rows, min_rows, max_rows)};
-}
 
 Screen::Screen(Size size, RowId top, std::uint64_t& clock) : size_(size), top_(top), clock_(clock) {
     reset(size, top);

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "terminal/cell.h"
-#include "terminal/terminal.h"
+#include "terminal/geometry.h"
 
 #include <cstdint>
 #include <optional>
@@ -11,23 +11,6 @@
 #include <vector>
 
 namespace terminal {
-
-/// Rows `top` up to, not including, `bottom`; columns `left` up to, not including, `right`.
-struct Region {
-    int top = 0;
-    int bottom = 0;
-    int left = 0;
-    int right = 0;
-    [[nodiscard]] int height() const { return bottom - top; }
-    [[nodiscard]] int width() const { return right - left; }
-    [[nodiscard]] bool contains(int row, int column) const {
-        return row >= top && row < bottom && column >= left && column < right;
-    }
-    bool operator==(const Region&) const = default;
-};
-
-/// The nearest size that a screen can have.
-Size within_limits(Size size);
 
 /// The character positions of one screen, and what can be done to them; knows no cursor and no modes. Rows
 /// are a ring of headers over a block of cells, so that scrolling moves no cell. A row has cells up to the

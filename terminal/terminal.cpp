@@ -1,41 +1,126 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/terminal.h"
 
-#include "terminal/engine.h"
+#include "terminal/utf8.h"
+
+#include <algorithm>
+#include <cassert>
 
 namespace terminal {
 
+namespace {
+
+/// Rows of the alternate screen are numbered from here on, so that a place on one screen is never taken for
+/// one on the other.
+constexpr RowId alternate_top = RowId{1} << 40;
+
+}  // namespace
+
 Terminal::Terminal(const Options& options, Client& client)
-    : engine_(std::make_unique<Engine>(options, client)) {}
-Terminal::~Terminal() = default;
+    : client_(client),
+      scrollback_(options.scrollback_rows, within_limits(options.size).columns),
+      primary_(within_limits(options.size), 0, clock_),
+      alternate_({min_columns, min_rows}, alternate_top, clock_),
+      margins_(primary_.all()),
+      styles_(max_styles, Style{}),
+      links_(max_links, Link{}),
+      clusters_(max_clusters, std::string{}),
+      parser_(*this),
+      local_parser_(*this) {
+    reset_tabs(0);
+}
 
-void Terminal::write(std::string_view bytes) { engine_->write(bytes); }
-void Terminal::write_local(std::string_view text) { engine_->write_local(text); }
-void Terminal::resize(Size size, std::span<Position> anchors) { engine_->resize(size, anchors); }
-void Terminal::permit(const Permissions& permissions) { engine_->permit(permissions); }
-void Terminal::clear_all() { engine_->clear_all(); }
-void Terminal::reset() { engine_->reset(); }
+void Terminal::write(std::string_view bytes) {
+    parser_.feed(bytes);
+    finish();
+}
 
-Size Terminal::size() const { return engine_->size(); }
-const Modes& Terminal::modes() const { return engine_->modes(); }
-Cursor Terminal::cursor() const { return engine_->cursor(); }
-RowId Terminal::first_row() const { return engine_->first_row(); }
-RowId Terminal::screen_top() const { return engine_->screen_top(); }
-RowId Terminal::end_row() const { return engine_->end_row(); }
-Row Terminal::row(RowId id) const { return engine_->row(id); }
-std::uint64_t Terminal::stamp() const { return engine_->stamp(); }
+void Terminal::write_local(std::string_view text) {
+    while (!text.empty()) {
+        const std::size_t end = text.find('\n');
+        local_parser_.feed(text.substr(0, end));
+        if (end == std::string_view::npos) {
+            break;
+        }
+        local_parser_.feed("\r\n");
+        text.remove_prefix(end + 1);
+    }
+    finish();
+}
 
-const Style& Terminal::style(StyleId id) const { return engine_->style(id); }
-void Terminal::append_text(const Cell& cell, std::string& out) const { engine_->append_text(cell, out); }
-std::string_view Terminal::link(LinkId id) const { return engine_->link(id); }
+/// A cursor that only moved is a change of the picture too.
+void Terminal::finish() {
+    if (cursor_ != shown_cursor_) {
+        shown_cursor_ = cursor_;
+        count_change();
+    }
+    assert(is_wholly_consistent());
+}
 
-Rgb Terminal::palette(int index) const { return engine_->palette().colour(index); }
-Rgb Terminal::foreground() const { return engine_->palette().colour(ColourRole::foreground); }
-Rgb Terminal::background() const { return engine_->palette().colour(ColourRole::background); }
-Rgb Terminal::cursor_colour() const { return engine_->palette().colour(ColourRole::cursor); }
+void Terminal::clear_all() {
+    scrollback_.clear();
+    screen_->fill(screen_->all(), Cell{});
+    move_to(0, 0);
+    count_change();
+    finish();
+}
+
+Cursor Terminal::cursor() const {
+    return {{screen_->top() + cursor_.row, cursor_.column},
+            inner_.cursor_visible,
+            inner_.cursor_blinking,
+            cursor_shape_,
+            cursor_.wrap_pending};
+}
+
+RowId Terminal::first_row() const { return is_alternate() ? screen_->top() : scrollback_.begin_row(); }
+
+Row Terminal::row(RowId id) const {
+    if (id >= screen_->top() && id < end_row()) {
+        const int row = static_cast<int>(id - screen_->top());
+        return {screen_->cells(row), screen_->wrapped(row), std::max(screen_->stamp(row), epoch_)};
+    }
+    if (is_alternate() || id < scrollback_.begin_row() || id >= scrollback_.end_row()) {
+        return {};
+    }
+    const Scrollback::RowState state = scrollback_.row(id, row_buffer_);
+    return {row_buffer_, state.wrapped, std::max(state.stamp, epoch_)};
+}
+
+void Terminal::append_text(const Cell& cell, std::string& out) const {
+    if (cell.is_cluster()) {
+        out += clusters_[cell.character()];
+    } else if (cell.character() != 0) {
+        append_utf8(cell.character(), out);
+    } else if (!cell.is_wide_tail()) {
+        out += ' ';
+    }
+}
+
 void Terminal::set_standard_colours(Rgb foreground, Rgb background, Rgb cursor,
                                     std::span<const Rgb> palette) {
-    engine_->set_standard_colours(foreground, background, cursor, palette);
+    palette_.set_standard(foreground, background, cursor, palette);
+    palette_changed();
+}
+
+/// What holds after each operation, as far as it costs nothing to speak of.
+bool Terminal::is_consistent() const {
+    const Size limits = size();
+    return cursor_.row >= 0 && cursor_.row < limits.rows && cursor_.column >= 0 &&
+           cursor_.column < limits.columns && margins_.top >= 0 && margins_.top < margins_.bottom &&
+           margins_.bottom <= limits.rows && margins_.left >= 0 && margins_.left < margins_.right &&
+           margins_.right <= limits.columns && screen_->size() == limits &&
+           screen_->is_consistent(cursor_.row) && primary_.top() == scrollback_.end_row();
+}
+
+bool Terminal::is_wholly_consistent() const {
+    for (int row = 0; row < size().rows; ++row) {
+        if (!screen_->is_consistent(row)) {
+            return false;
+        }
+    }
+    return is_consistent() && tabs_.size() == static_cast<std::size_t>(size().columns) &&
+           scrollback_.begin_row() <= scrollback_.end_row();
 }
 
 }  // namespace terminal

@@ -69,7 +69,7 @@ const Case text_cases[] = {
     {"InsertModeWithWide", "abcdefgh\r\033[4h漢", "漢abcdefgh|||", "0,2"},
 };
 
-TEST(Engine, TextIsWritten) { expect_screens(text_cases); }
+TEST(Terminal, TextIsWritten) { expect_screens(text_cases); }
 
 const Case cursor_cases[] = {
     {"PositionIsLimited", "\033[99;99HX", "|||         X", "3,9+"},
@@ -109,7 +109,7 @@ const Case cursor_cases[] = {
     {"Vt52Graphics", "\033[?2l\033Fq\033Gq\033H\033I\033K", "|─q||", "0,0"},
 };
 
-TEST(Engine, CursorIsMoved) { expect_screens(cursor_cases); }
+TEST(Terminal, CursorIsMoved) { expect_screens(cursor_cases); }
 
 const Case edit_cases[] = {
     {"EraseToEnd", four + "\033[2;3H\033[J", "aaaa|bb||", "1,2"},
@@ -160,9 +160,9 @@ const Case edit_cases[] = {
     {"FullReset", four + "\033[2;3r\033[1m\033cx", "x|||", "0,1"},
 };
 
-TEST(Engine, ScreenIsEdited) { expect_screens(edit_cases); }
+TEST(Terminal, ScreenIsEdited) { expect_screens(edit_cases); }
 
-TEST(Engine, AlternateScreenKeepsPrimaryAndCursor) {
+TEST(Terminal, AlternateScreenKeepsPrimaryAndCursor) {
     Screened at;
     at.terminal.write("one\r\ntwo\033[?1049hALT");
     EXPECT_EQ(at.screen(), "|   ALT||");
@@ -172,7 +172,7 @@ TEST(Engine, AlternateScreenKeepsPrimaryAndCursor) {
     EXPECT_EQ(at.scrollback(), "");
 }
 
-TEST(Engine, LeavingAlternateScreen1047ErasesIt) {
+TEST(Terminal, LeavingAlternateScreen1047ErasesIt) {
     Screened at;
     at.terminal.write("\033[?1047hALT\033[?1047l\033[?47h");
     EXPECT_EQ(at.screen(), "|||");
@@ -180,7 +180,7 @@ TEST(Engine, LeavingAlternateScreen1047ErasesIt) {
     EXPECT_EQ(at.screen(), "   again|||");
 }
 
-TEST(Engine, ErasingTakesTheBackground) {
+TEST(Terminal, ErasingTakesTheBackground) {
     Screened at;
     at.terminal.write("\033[44mab\033[K\033[0m\033[4H\033[41m\n");
     EXPECT_EQ(at.style(3, 5).background, Colour::indexed(1));
@@ -190,14 +190,14 @@ TEST(Engine, ErasingTakesTheBackground) {
     EXPECT_EQ(at.terminal.style(scrolled.cells[9].style).background, Colour::indexed(4));
 }
 
-TEST(Engine, ReversedAndChangedRectangles) {
+TEST(Terminal, ReversedAndChangedRectangles) {
     Screened at;
     at.terminal.write("\033[2*x\033[1;2;2;3;1;7$r\033[2;2;2;2;7$t");
     EXPECT_TRUE(at.style(0, 1).reverse && at.style(0, 1).bold && at.style(1, 2).reverse);
     EXPECT_FALSE(at.style(0, 0).bold || at.style(0, 3).bold || at.style(1, 0).bold || at.style(1, 1).reverse);
 }
 
-TEST(Engine, LinksAreKeptByCell) {
+TEST(Terminal, LinksAreKeptByCell) {
     Screened at;
     at.terminal.write(
         "\033]8;;http://a/\033\\ab\033]8;;\033\\c\033]8;id=1;http://b/\007d\033]8;;http://a/\007e");
@@ -209,7 +209,7 @@ TEST(Engine, LinksAreKeptByCell) {
     EXPECT_EQ(cells[4].link, cells[1].link);
 }
 
-TEST(Engine, LocalTextDoesNotDisturbABegunSequence) {
+TEST(Terminal, LocalTextDoesNotDisturbABegunSequence) {
     Screened at;
     at.terminal.write("a\033[3");
     at.terminal.write_local("b\nc");
@@ -219,7 +219,7 @@ TEST(Engine, LocalTextDoesNotDisturbABegunSequence) {
     EXPECT_EQ(at.screen(), "ab|c   de漢||");
 }
 
-TEST(Engine, ClearAllEmptiesTheScrollbackAndResetKeepsIt) {
+TEST(Terminal, ClearAllEmptiesTheScrollbackAndResetKeepsIt) {
     Screened at;
     at.terminal.write(four + "\r\ne\r\nf");
     const RowId top = at.terminal.screen_top();
@@ -233,7 +233,7 @@ TEST(Engine, ClearAllEmptiesTheScrollbackAndResetKeepsIt) {
     EXPECT_EQ(at.cursor(), "0,0");
 }
 
-TEST(Engine, StampsTellWhichRowsChanged) {
+TEST(Terminal, StampsTellWhichRowsChanged) {
     Screened at;
     at.terminal.write(four);
     const RowId top = at.terminal.screen_top();

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/scrollback.h"
 
-#include "terminal/engine.h"
 #include "tests/terminal/screen_fixture.h"
 
 #include <gtest/gtest.h>
@@ -95,16 +94,16 @@ TEST(Scrollback, LineInManyPiecesIsOneLine) {
 
 TEST(Scrollback, MillionRowsCanBeKept) {
     Recorder recorder;
-    Engine engine({{90, 24}, 1'000'000}, recorder);
+    Terminal terminal({{90, 24}, 1'000'000}, recorder);
     const std::string lines = numbered_lines(0, 1'000);
     for (int i = 0; i < 1'100; ++i) {
-        engine.write(lines);
+        terminal.write(lines);
     }
-    EXPECT_EQ(engine.screen_top() - engine.first_row(), 1'000'000);
-    EXPECT_LT(engine.scrollback_memory(), 60'000'000U);
-    engine.resize({5, 24}, {});
-    EXPECT_GT(engine.screen_top() - engine.first_row(), 1'900'000);
-    const Row row = engine.row(engine.first_row() + 1'000'001);
+    EXPECT_EQ(terminal.screen_top() - terminal.first_row(), 1'000'000);
+    EXPECT_LT(terminal.scrollback_memory(), 60'000'000U);
+    terminal.resize({5, 24}, {});
+    EXPECT_GT(terminal.screen_top() - terminal.first_row(), 1'900'000);
+    const Row row = terminal.row(terminal.first_row() + 1'000'001);
     EXPECT_FALSE(row.cells.empty());
 }
 

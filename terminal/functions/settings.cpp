@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "terminal/engine.h"
 #include "terminal/sgr.h"
+#include "terminal/terminal.h"
 #include "terminal/text_codes.h"
 
 #include <algorithm>
@@ -36,7 +36,7 @@ char bits(std::initializer_list<bool> low_first) {
 
 }  // namespace
 
-void Engine::device_control(const ControlFunction& function, std::string_view data) {
+void Terminal::device_control(const ControlFunction& function, std::string_view data) {
     last_character_ = 0;
     if (function.prefix == 0 && function.intermediate_count == 1) {
         const char intermediate = function.intermediates[0];
@@ -52,13 +52,13 @@ void Engine::device_control(const ControlFunction& function, std::string_view da
 }
 
 /// DECRQSS: the settings asked for by the end of the sequence that would make them.
-void Engine::decrqss(std::string_view request) {
+void Terminal::decrqss(std::string_view request) {
     const std::string text = setting(request);
     reply(text.empty() ? "\x1bP0$r\x1b\\" : "\x1bP1$r" + text + std::string(request) + "\x1b\\");
 }
 
 /// The parameters; empty for a request that is not known.
-std::string Engine::setting(std::string_view request) const {
+std::string Terminal::setting(std::string_view request) const {
     const auto pair = [](int first, int second) {
         return std::to_string(first) + ';' + std::to_string(second);
     };
@@ -86,7 +86,7 @@ std::string Engine::setting(std::string_view request) const {
 }
 
 /// Names in hexadecimal digits, with semicolons between; the answer ends with the first one not known.
-void Engine::xtgettcap(std::string_view request) {
+void Terminal::xtgettcap(std::string_view request) {
     std::string known;
     while (!request.empty()) {
         const std::string_view name = request.substr(0, request.find(';'));
@@ -101,7 +101,7 @@ void Engine::xtgettcap(std::string_view request) {
 }
 
 /// `1`: what DECSC would save; `2`: the tab stops.
-void Engine::decrqpsr(Function function) {
+void Terminal::decrqpsr(Function function) {
     const int report = function.parameters.get(0);
     if (report == 1) {
         deccir();
@@ -112,7 +112,7 @@ void Engine::decrqpsr(Function function) {
 
 /// Cursor information report: row, column, page; attributes, protection and flags as bits; the sets invoked,
 /// their sizes and their names.
-void Engine::deccir() {
+void Terminal::deccir() {
     const int row = inner_.origin ? cursor_.row - margins_.top : cursor_.row;
     const int column = inner_.origin ? cursor_.column - margins_.left : cursor_.column;
     std::string text = std::to_string(row + 1) + ';' + std::to_string(column + 1) + ";1;";
@@ -132,7 +132,7 @@ void Engine::deccir() {
     reply("\x1bP1$u" + text + ';' + names + "\x1b\\");
 }
 
-void Engine::dectabsr() {
+void Terminal::dectabsr() {
     std::string text;
     for (std::size_t column = 0; column < tabs_.size(); ++column) {
         if (tabs_[column]) {
@@ -143,7 +143,7 @@ void Engine::dectabsr() {
 }
 
 /// DECRSPS: takes the report of the tab stops back.
-void Engine::decrsps(Function function, std::string_view data) {
+void Terminal::decrsps(Function function, std::string_view data) {
     if (function.parameters.get(0) != 2 || data.find_first_not_of("0123456789/") != std::string_view::npos) {
         return;
     }

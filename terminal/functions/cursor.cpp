@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "terminal/engine.h"
+#include "terminal/terminal.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -14,12 +14,12 @@ constexpr int tab_width = 8;
 
 }  // namespace
 
-void Engine::move_to(int row, int column) {
+void Terminal::move_to(int row, int column) {
     cursor_ = {std::clamp(row, 0, size().rows - 1), std::clamp(column, 0, size().columns - 1), false};
 }
 
 /// As CUP counts: from the margins in origin mode.
-void Engine::move_in_origin(int row, int column) {
+void Terminal::move_in_origin(int row, int column) {
     if (!inner_.origin) {
         move_to(row, column);
         return;
@@ -29,22 +29,22 @@ void Engine::move_in_origin(int row, int column) {
 }
 
 /// Up or down, as far as the margin the cursor is within, else the screen's edge.
-void Engine::move_vertically(int rows) {
+void Terminal::move_vertically(int rows) {
     const int top = cursor_.row >= margins_.top ? margins_.top : 0;
     const int bottom = cursor_.row < margins_.bottom ? margins_.bottom : size().rows;
     move_to(std::clamp(cursor_.row + rows, top, bottom - 1), cursor_.column);
 }
 
-void Engine::move_horizontally(int columns) {
+void Terminal::move_horizontally(int columns) {
     const int left = cursor_.column >= margins_.left ? margins_.left : 0;
     move_to(cursor_.row, std::clamp(cursor_.column + columns, left, right_limit() - 1));
 }
 
-void Engine::carriage_return() {
+void Terminal::carriage_return() {
     move_to(cursor_.row, cursor_.column >= margins_.left || inner_.origin ? margins_.left : 0);
 }
 
-void Engine::line_feed() {
+void Terminal::line_feed() {
     const bool at_margin = cursor_.row == margins_.bottom - 1;
     if (at_margin && cursor_.column >= margins_.left && cursor_.column < margins_.right) {
         scroll_text_up(1);
@@ -54,7 +54,7 @@ void Engine::line_feed() {
     cursor_.wrap_pending = false;
 }
 
-void Engine::reverse_line_feed() {
+void Terminal::reverse_line_feed() {
     const bool at_margin = cursor_.row == margins_.top;
     if (at_margin && cursor_.column >= margins_.left && cursor_.column < margins_.right) {
         scroll_text_down(1);
@@ -67,7 +67,7 @@ void Engine::reverse_line_feed() {
 /// To the left, and with reverse wrap-around on to the end of the row above, from the top row to the last
 /// one. A pending wrap then counts as a column. (Since its version 383 xterm goes only to rows that wrap,
 /// unless mode 1045 is set too; here, as before, both modes do the same.)
-void Engine::back(int count) {
+void Terminal::back(int count) {
     if (!inner_.autowrap || !(inner_.reverse_wrap || inner_.far_reverse_wrap)) {
         move_horizontally(-count);
         return;
@@ -86,7 +86,7 @@ void Engine::back(int count) {
     }
 }
 
-void Engine::tab(int count) {
+void Terminal::tab(int count) {
     if (inner_.tab_wraps && cursor_.wrap_pending && inner_.autowrap) {
         wrap();
     }
@@ -98,7 +98,7 @@ void Engine::tab(int count) {
     }
 }
 
-void Engine::back_tab(int count) {
+void Terminal::back_tab(int count) {
     const int first = inner_.origin ? margins_.left : 0;
     cursor_.wrap_pending = false;
     for (; count > 0 && cursor_.column > first; --count) {
@@ -109,18 +109,18 @@ void Engine::back_tab(int count) {
 }
 
 /// Puts the stops of a new terminal on the columns from `from` on.
-void Engine::reset_tabs(int from) {
+void Terminal::reset_tabs(int from) {
     tabs_.resize(static_cast<std::size_t>(size().columns));
     for (int column = from; column < size().columns; ++column) {
         tabs_[static_cast<std::size_t>(column)] = column % tab_width == 0;
     }
 }
 
-void Engine::save_cursor() {
+void Terminal::save_cursor() {
     saved() = {cursor_, style_, guarded_, area_guarded_, inner_.origin, true, sets_};
 }
 
-void Engine::restore_cursor() {
+void Terminal::restore_cursor() {
     const SavedCursor& from = saved();
     style_ = from.pen;
     guarded_ = from.guarded;
@@ -136,53 +136,53 @@ void Engine::restore_cursor() {
     cursor_.wrap_pending = from.place.wrap_pending && from.place.column == cursor_.column;
 }
 
-void Engine::cuu(Function function) { move_vertically(-function.parameters.count(0)); }
-void Engine::cud(Function function) { move_vertically(function.parameters.count(0)); }
-void Engine::cuf(Function function) { move_horizontally(function.parameters.count(0)); }
+void Terminal::cuu(Function function) { move_vertically(-function.parameters.count(0)); }
+void Terminal::cud(Function function) { move_vertically(function.parameters.count(0)); }
+void Terminal::cuf(Function function) { move_horizontally(function.parameters.count(0)); }
 
-void Engine::cub(Function function) { back(function.parameters.count(0)); }
+void Terminal::cub(Function function) { back(function.parameters.count(0)); }
 
-void Engine::cnl(Function function) {
+void Terminal::cnl(Function function) {
     move_vertically(function.parameters.count(0));
     carriage_return();
 }
 
-void Engine::cpl(Function function) {
+void Terminal::cpl(Function function) {
     move_vertically(-function.parameters.count(0));
     carriage_return();
 }
 
-void Engine::cha(Function function) {
+void Terminal::cha(Function function) {
     const int row = inner_.origin ? cursor_.row - margins_.top : cursor_.row;
     move_in_origin(row, function.parameters.count(0) - 1);
 }
 
 /// HPR and VPR are not held by the margins, unless in origin mode.
-void Engine::hpr(Function function) {
+void Terminal::hpr(Function function) {
     const int row = inner_.origin ? cursor_.row - margins_.top : cursor_.row;
     const int column = inner_.origin ? cursor_.column - margins_.left : cursor_.column;
     move_in_origin(row, column + function.parameters.count(0));
 }
 
-void Engine::vpr(Function function) {
+void Terminal::vpr(Function function) {
     const int row = inner_.origin ? cursor_.row - margins_.top : cursor_.row;
     const int column = inner_.origin ? cursor_.column - margins_.left : cursor_.column;
     move_in_origin(row + function.parameters.count(0), column);
 }
 
-void Engine::cup(Function function) {
+void Terminal::cup(Function function) {
     move_in_origin(function.parameters.count(0) - 1, function.parameters.count(1) - 1);
 }
 
-void Engine::cht(Function function) { tab(function.parameters.count(0)); }
-void Engine::cbt(Function function) { back_tab(function.parameters.count(0)); }
+void Terminal::cht(Function function) { tab(function.parameters.count(0)); }
+void Terminal::cbt(Function function) { back_tab(function.parameters.count(0)); }
 
-void Engine::vpa(Function function) {
+void Terminal::vpa(Function function) {
     const int column = inner_.origin ? cursor_.column - margins_.left : cursor_.column;
     move_in_origin(function.parameters.count(0) - 1, column);
 }
 
-void Engine::tbc(Function function) {
+void Terminal::tbc(Function function) {
     const int which = function.parameters.get(0);
     if (which == 0) {
         tabs_[static_cast<std::size_t>(cursor_.column)] = false;
@@ -192,24 +192,24 @@ void Engine::tbc(Function function) {
 }
 
 /// The stops of a new terminal.
-void Engine::decst8c(Function function) {
+void Terminal::decst8c(Function function) {
     if (function.parameters.get(0) == 5) {
         reset_tabs(0);
     }
 }
 
-void Engine::hts(Function /*function*/) { tabs_[static_cast<std::size_t>(cursor_.column)] = true; }
+void Terminal::hts(Function /*function*/) { tabs_[static_cast<std::size_t>(cursor_.column)] = true; }
 
-void Engine::ind(Function /*function*/) { line_feed(); }
+void Terminal::ind(Function /*function*/) { line_feed(); }
 
-void Engine::nel(Function /*function*/) {
+void Terminal::nel(Function /*function*/) {
     line_feed();
     carriage_return();
 }
 
-void Engine::ri(Function /*function*/) { reverse_line_feed(); }
+void Terminal::ri(Function /*function*/) { reverse_line_feed(); }
 
-void Engine::decbi(Function /*function*/) {
+void Terminal::decbi(Function /*function*/) {
     if (cursor_.column != margins_.left) {
         move_to(cursor_.row, cursor_.column - 1);
     } else if (margins_.contains(cursor_.row, cursor_.column)) {
@@ -217,7 +217,7 @@ void Engine::decbi(Function /*function*/) {
     }
 }
 
-void Engine::decfi(Function /*function*/) {
+void Terminal::decfi(Function /*function*/) {
     if (cursor_.column != margins_.right - 1) {
         move_to(cursor_.row, cursor_.column + 1);
     } else if (margins_.contains(cursor_.row, cursor_.column)) {
@@ -225,11 +225,11 @@ void Engine::decfi(Function /*function*/) {
     }
 }
 
-void Engine::decsc(Function /*function*/) { save_cursor(); }
-void Engine::decrc(Function /*function*/) { restore_cursor(); }
+void Terminal::decsc(Function /*function*/) { save_cursor(); }
+void Terminal::decrc(Function /*function*/) { restore_cursor(); }
 
 /// `CSI s` sets the side margins where they may be set, else saves the cursor as the SCO console does.
-void Engine::scosc_or_decslrm(Function function) {
+void Terminal::scosc_or_decslrm(Function function) {
     if (!inner_.side_margins) {
         if (function.parameters.size() == 0) {
             save_cursor();

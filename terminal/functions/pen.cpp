@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "terminal/engine.h"
 #include "terminal/sgr.h"
+#include "terminal/terminal.h"
 
 #include <array>
 
@@ -9,19 +9,19 @@
 
 namespace terminal {
 
-void Engine::sgr(Function function) {
+void Terminal::sgr(Function function) {
     apply_sgr(function.parameters, style_);
     change_pen();
 }
 
 /// All attributes are saved, whichever are named. The stack is as deep as xterm's.
-void Engine::xtpushsgr(Function /*function*/) {
+void Terminal::xtpushsgr(Function /*function*/) {
     if (saved_styles_.size() < max_saved_states) {
         saved_styles_.push_back(style_);
     }
 }
 
-void Engine::xtpopsgr(Function /*function*/) {
+void Terminal::xtpopsgr(Function /*function*/) {
     if (!saved_styles_.empty()) {
         style_ = saved_styles_.back();
         saved_styles_.pop_back();
@@ -29,24 +29,24 @@ void Engine::xtpopsgr(Function /*function*/) {
     }
 }
 
-void Engine::decsca(Function function) {
+void Terminal::decsca(Function function) {
     guarded_ = function.parameters.get(0) == 1;
     guards_areas_ = false;  // of the two ways to protect the one used last counts, as on xterm
     change_pen();
 }
 
-void Engine::spa(Function /*function*/) {
+void Terminal::spa(Function /*function*/) {
     area_guarded_ = guards_areas_ = true;
     change_pen();
 }
 
-void Engine::epa(Function /*function*/) {
+void Terminal::epa(Function /*function*/) {
     area_guarded_ = false;
     change_pen();
 }
 
 /// 0 is the standard cursor; then by twos block, underline, bar, the odd ones blinking.
-void Engine::decscusr(Function function) {
+void Terminal::decscusr(Function function) {
     const int style = function.parameters.get(0);
     if (style > 6) {
         return;
@@ -56,8 +56,8 @@ void Engine::decscusr(Function function) {
     count_change();
 }
 
-void Engine::deckpam(Function /*function*/) { modes_.application_keypad = true; }
-void Engine::deckpnm(Function /*function*/) { modes_.application_keypad = false; }
+void Terminal::deckpam(Function /*function*/) { modes_.application_keypad = true; }
+void Terminal::deckpnm(Function /*function*/) { modes_.application_keypad = false; }
 
 namespace {
 
@@ -66,7 +66,7 @@ constexpr int modify_other_keys = 4;  // of xterm's resources for keys the one t
 }  // namespace
 
 /// `CSI > 4 ; 0 to 2 m`; without a value, or without any parameter, back to the beginning.
-void Engine::xtmodkeys(Function function) {
+void Terminal::xtmodkeys(Function function) {
     const bool concerns_it =
         function.parameters.size() == 0 || function.parameters.get(0) == modify_other_keys;
     const int value = function.parameters.get(1);
@@ -75,13 +75,13 @@ void Engine::xtmodkeys(Function function) {
     }
 }
 
-void Engine::xtunmodkeys(Function function) {
+void Terminal::xtunmodkeys(Function function) {
     if (function.parameters.get(0) == modify_other_keys) {
         modes_.modify_other_keys = 0;
     }
 }
 
-void Engine::xtqmodkeys(Function function) {
+void Terminal::xtqmodkeys(Function function) {
     constexpr std::array fixed = {0, 2, 2};  // keyboard, cursor keys, function keys
     const int which = function.parameters.get(0);
     if (which == modify_other_keys) {
@@ -94,7 +94,7 @@ void Engine::xtqmodkeys(Function function) {
 
 /// `ESC ( F` to `ESC + F` designate sets of 94 characters to G0 to G3, `ESC - F` to `ESC / F` those of 96 to
 /// G1 to G3. Sets that we do not have change nothing.
-void Engine::scs(Function function) {
+void Terminal::scs(Function function) {
     const char where = function.intermediates[0];
     const SetSize set_size = where >= '-' ? SetSize::of_96 : SetSize::of_94;
     const auto index = static_cast<std::size_t>(where - (set_size == SetSize::of_96 ? ',' : '('));
@@ -109,12 +109,12 @@ void Engine::scs(Function function) {
     }
 }
 
-void Engine::ls2(Function /*function*/) { sets_.invoked = 2; }
-void Engine::ls3(Function /*function*/) { sets_.invoked = 3; }
-void Engine::ls1r(Function /*function*/) { sets_.right = 1; }
-void Engine::ls2r(Function /*function*/) { sets_.right = 2; }
-void Engine::ls3r(Function /*function*/) { sets_.right = 3; }
-void Engine::ss2(Function /*function*/) { sets_.single_shift = 2; }
-void Engine::ss3(Function /*function*/) { sets_.single_shift = 3; }
+void Terminal::ls2(Function /*function*/) { sets_.invoked = 2; }
+void Terminal::ls3(Function /*function*/) { sets_.invoked = 3; }
+void Terminal::ls1r(Function /*function*/) { sets_.right = 1; }
+void Terminal::ls2r(Function /*function*/) { sets_.right = 2; }
+void Terminal::ls3r(Function /*function*/) { sets_.right = 3; }
+void Terminal::ss2(Function /*function*/) { sets_.single_shift = 2; }
+void Terminal::ss3(Function /*function*/) { sets_.single_shift = 3; }
 
 }  // namespace terminal

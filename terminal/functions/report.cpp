@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "terminal/engine.h"
+#include "terminal/terminal.h"
 
 #include <array>
 #include <cassert>
@@ -11,7 +11,7 @@
 namespace terminal {
 
 /// Replies are written in 7-bit form; the C1 controls in them become single bytes for who wants them so.
-void Engine::reply(std::string_view bytes) {
+void Terminal::reply(std::string_view bytes) {
     if (controls_ == Controls::of_7_bits) {
         client_.reply(bytes);
         return;
@@ -27,7 +27,7 @@ void Engine::reply(std::string_view bytes) {
 /// What the terminal is at a conformance level: up to 64, a VT420. Then: 132 columns, printer port, selective
 /// erase, national sets, technical characters, locator port, state reports, windows, horizontal scrolling,
 /// colours, rectangles. Nothing is connected to the ports, as the status reports say.
-void Engine::da1(Function function) {
+void Terminal::da1(Function function) {
     if (function.parameters.get(0) != 0) {
         return;
     }
@@ -38,35 +38,35 @@ void Engine::da1(Function function) {
     reply("\x1b[?" + std::to_string(60 + level_) + ";1;2;6;9;15;16;17;18;21;22;28c");
 }
 
-void Engine::decid(Function /*function*/) { da1({}); }
+void Terminal::decid(Function /*function*/) { da1({}); }
 
 /// VT420; programs take the number for the patch level of an xterm and expect SGR mouse reports from 277 on.
-void Engine::da2(Function function) {
+void Terminal::da2(Function function) {
     if (function.parameters.get(0) == 0) {
         reply("\x1b[>41;380;0c");
     }
 }
 
-void Engine::da3(Function function) {
+void Terminal::da3(Function function) {
     if (function.parameters.get(0) == 0) {
         reply("\x1bP!|00000000\x1b\\");
     }
 }
 
-void Engine::xtversion(Function function) {
+void Terminal::xtversion(Function function) {
     if (function.parameters.get(0) == 0) {
         reply("\x1bP>|Orvik\x1b\\");
     }
 }
 
-void Engine::report_position(std::string_view introducer, std::string_view end) {
+void Terminal::report_position(std::string_view introducer, std::string_view end) {
     const int row = inner_.origin ? cursor_.row - margins_.top : cursor_.row;
     const int column = inner_.origin ? cursor_.column - margins_.left : cursor_.column;
     reply(std::string(introducer) + std::to_string(row + 1) + ';' + std::to_string(column + 1) +
           std::string(end));
 }
 
-void Engine::dsr(Function function) {
+void Terminal::dsr(Function function) {
     switch (function.parameters.get(0)) {
         case 5:
             return reply("\x1b[0n");
@@ -97,7 +97,7 @@ constexpr Status statuses[] = {
 
 }  // namespace
 
-void Engine::decdsr(Function function) {
+void Terminal::decdsr(Function function) {
     const int request = function.parameters.get(0);
     if (request == 6) {
         return report_position("\x1b[?", ";1R");
@@ -112,7 +112,7 @@ void Engine::decdsr(Function function) {
     }
 }
 
-void Engine::report_checksum(int id, int sum) {
+void Terminal::report_checksum(int id, int sum) {
     std::array<char, 32> text{};
     const auto value = static_cast<unsigned>(sum) & 0xFFFFU;
     const int length = std::snprintf(text.data(), text.size(), "\x1bP%d!~%04X\x1b\\", id, value);
@@ -120,7 +120,7 @@ void Engine::report_checksum(int id, int sum) {
 }
 
 /// The line settings of a VT100: no parity, 8 bits, 19,200 baud.
-void Engine::decreqtparm(Function function) {
+void Terminal::decreqtparm(Function function) {
     const int kind = function.parameters.get(0);
     if (kind <= 1) {
         reply("\x1b[" + std::to_string(kind + 2) + ";1;1;128;128;1;0x");
@@ -128,14 +128,14 @@ void Engine::decreqtparm(Function function) {
 }
 
 /// DECRQLP: there is no locator.
-void Engine::decrqlp(Function /*function*/) { reply("\x1b[0&w"); }
+void Terminal::decrqlp(Function /*function*/) { reply("\x1b[0&w"); }
 
 /// DECRQDE: rows and columns, the first of each, and the page.
-void Engine::decrqde(Function /*function*/) {
+void Terminal::decrqde(Function /*function*/) {
     reply("\x1b[" + std::to_string(size().rows) + ';' + std::to_string(size().columns) + ";1;1;1\"w");
 }
 
 /// The user-preferred supplemental set is DEC's, of 94 characters.
-void Engine::decrqupss(Function /*function*/) { reply("\x1bP0!u%5\x1b\\"); }
+void Terminal::decrqupss(Function /*function*/) { reply("\x1bP0!u%5\x1b\\"); }
 
 }  // namespace terminal

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "terminal/engine.h"
+#include "terminal/terminal.h"
 #include "terminal/utf8.h"
 #include "terminal/width.h"
 
@@ -35,16 +35,18 @@ std::size_t LinkHash::operator()(const Link& link) const {
 }
 
 /// One past the last column for text: the right margin, unless the cursor is beyond it.
-int Engine::right_limit() const { return cursor_.column < margins_.right ? margins_.right : size().columns; }
+int Terminal::right_limit() const {
+    return cursor_.column < margins_.right ? margins_.right : size().columns;
+}
 
-const Cell& Engine::pen() {
+const Cell& Terminal::pen() {
     if (pen_changed_) {
         refresh_pen();
     }
     return pen_;
 }
 
-const Cell& Engine::blank() {
+const Cell& Terminal::blank() {
     if (blank_changed_) {
         blank_changed_ = false;
         blank_.style = 0;
@@ -57,14 +59,14 @@ const Cell& Engine::blank() {
     return blank_;
 }
 
-void Engine::refresh_pen() {
+void Terminal::refresh_pen() {
     pen_changed_ = false;
     pen_.glyph = (guarded_ ? Cell::guarded : 0) | (area_guarded_ ? Cell::area_guarded : 0);
     pen_.style = intern_style(style_);
 }
 
 /// The number of a style; the plain one when there are too many styles.
-StyleId Engine::intern_style(const Style& style) {
+StyleId Terminal::intern_style(const Style& style) {
     if (style == Style{}) {
         return 0;
     }
@@ -77,7 +79,7 @@ StyleId Engine::intern_style(const Style& style) {
 }
 
 /// Frees the numbers of styles, links and clusters that no cell has any more.
-void Engine::collect_unused() {
+void Terminal::collect_unused() {
     UsedIds used;
     used.styles.resize(styles_.end_id());
     used.links.resize(links_.end_id());
@@ -95,7 +97,7 @@ void Engine::collect_unused() {
     clusters_.retain(used.clusters);
 }
 
-void Engine::print_ascii(std::string_view text) {
+void Terminal::print_ascii(std::string_view text) {
     last_character_ = static_cast<std::uint8_t>(text.back());
     if (inner_.insert || !sets_.plain()) {
         for (const char character : text) {
@@ -106,7 +108,7 @@ void Engine::print_ascii(std::string_view text) {
     print_plain(text);
 }
 
-void Engine::print_plain(std::string_view text) {
+void Terminal::print_plain(std::string_view text) {
     const Cell& attributes = pen();
     while (!text.empty()) {
         if (cursor_.wrap_pending) {
@@ -129,7 +131,7 @@ void Engine::print_plain(std::string_view text) {
 }
 
 /// With UTF-8 switched off the right half of the code table is a designated set's too.
-void Engine::print_latin1(std::span<const char32_t> text) {
+void Terminal::print_latin1(std::span<const char32_t> text) {
     constexpr char32_t right_begin = 0xA0;
     constexpr char32_t right_end = 0x100;
     for (const char32_t character : text) {
@@ -142,7 +144,7 @@ void Engine::print_latin1(std::span<const char32_t> text) {
     assert(is_consistent());
 }
 
-void Engine::print(std::span<const char32_t> text) {
+void Terminal::print(std::span<const char32_t> text) {
     if (encoding_ == Encoding::latin1) {
         print_latin1(text);
         return;
@@ -161,7 +163,7 @@ void Engine::print(std::span<const char32_t> text) {
 
 /// Places characters from the front of `text` as long as they take cells of their own and the row has room;
 /// returns how many.
-std::size_t Engine::print_run(std::span<const char32_t> text) {
+std::size_t Terminal::print_run(std::span<const char32_t> text) {
     if (inner_.insert || cursor_.wrap_pending) {
         return 0;
     }
@@ -192,7 +194,7 @@ std::size_t Engine::print_run(std::span<const char32_t> text) {
 }
 
 /// Behind the last column the cursor stays on it, and the next character wraps.
-void Engine::advance_cursor(int columns, int limit) {
+void Terminal::advance_cursor(int columns, int limit) {
     cursor_.column += columns;
     if (cursor_.column >= limit) {
         cursor_.column = limit - 1;
@@ -200,7 +202,7 @@ void Engine::advance_cursor(int columns, int limit) {
     }
 }
 
-void Engine::put(char32_t character) {
+void Terminal::put(char32_t character) {
     const int width = character_width(character);
     if (width == 0) {
         combine(character);
@@ -210,7 +212,7 @@ void Engine::put(char32_t character) {
     put_visible(character, width);
 }
 
-void Engine::put_visible(char32_t character, int width) {
+void Terminal::put_visible(char32_t character, int width) {
     const Cell& attributes = pen();
     if (cursor_.wrap_pending) {
         wrap();
@@ -237,7 +239,7 @@ void Engine::put_visible(char32_t character, int width) {
 
 /// Joins a combining character to the one before the cursor. One that finds none is dropped, and so is one
 /// too many.
-void Engine::combine(char32_t character) {
+void Terminal::combine(char32_t character) {
     int column = cursor_.wrap_pending ? cursor_.column : cursor_.column - 1;
     if (column > 0 && screen_->cell(cursor_.row, column).is_wide_tail()) {
         --column;
@@ -264,7 +266,7 @@ void Engine::combine(char32_t character) {
 }
 
 /// The text goes on in the next row.
-void Engine::wrap() {
+void Terminal::wrap() {
     const bool whole_row = margins_.width() == size().columns;
     screen_->set_wrapped(cursor_.row, whole_row);
     line_feed();
@@ -275,7 +277,7 @@ void Engine::wrap() {
     cursor_.column = cursor_.column < margins_.left ? 0 : margins_.left;
 }
 
-void Engine::rep(Function function) {
+void Terminal::rep(Function function) {
     if (last_character_ == 0) {
         return;
     }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "terminal/engine.h"
+#include "terminal/terminal.h"
 #include "terminal/text_codes.h"
 #include "terminal/utf8.h"
 
@@ -33,7 +33,7 @@ bool concerns_window(int which) { return which == 0 || which == 2; }
 
 /// The terminal has the new size at once, so that what the program writes next already finds it; the window
 /// follows. One that cannot has the terminal resized again.
-void Engine::request_size(Size wanted) {
+void Terminal::request_size(Size wanted) {
     wanted = within_limits(wanted);
     if (permissions_.window_operations && wanted != size()) {
         resize(wanted, {});
@@ -41,14 +41,14 @@ void Engine::request_size(Size wanted) {
     }
 }
 
-void Engine::request_window(WindowRequest::Kind kind, WindowGeometry::Place place) {
+void Terminal::request_window(WindowRequest::Kind kind, WindowGeometry::Place place) {
     if (permissions_.window_operations) {
         client_.window_requested({kind, place});
     }
 }
 
 /// `height ; width`. What is left out stays, 0 is as much as the screen has.
-void Engine::request_characters(Function function) {
+void Terminal::request_characters(Function function) {
     const WindowGeometry window = client_.window();
     const auto wanted = [&function](std::size_t index, int now, int pixels, int cell) {
         const int value = function.parameters.get(index, now);
@@ -60,7 +60,7 @@ void Engine::request_characters(Function function) {
                   wanted(1, size().rows, room_y, window.cell.height)});
 }
 
-void Engine::request_pixels(Function function) {
+void Terminal::request_pixels(Function function) {
     const WindowGeometry window = client_.window();
     if (window.cell.width == 0 || window.cell.height == 0) {
         return;
@@ -74,7 +74,7 @@ void Engine::request_pixels(Function function) {
 }
 
 /// Whether it was an operation that changes the window.
-bool Engine::change_window(Function function) {
+bool Terminal::change_window(Function function) {
     using Kind = WindowRequest::Kind;
     constexpr std::array maximizing = {Kind::unmaximize, Kind::maximize, Kind::maximize_vertically,
                                        Kind::maximize_horizontally};
@@ -117,7 +117,7 @@ bool Engine::change_window(Function function) {
 }
 
 /// In pixels only where there are any.
-void Engine::report_window(Function function) {
+void Terminal::report_window(Function function) {
     const WindowGeometry window = client_.window();
     const bool exists = window.cell.width > 0 && window.cell.height > 0;
     const bool other = function.parameters.get(1) == 2;
@@ -146,7 +146,7 @@ void Engine::report_window(Function function) {
     }
 }
 
-void Engine::xtwinops(Function function) {
+void Terminal::xtwinops(Function function) {
     constexpr int first_lines = 24;
     const int operation = function.parameters.get(0);
     switch (operation) {
@@ -168,14 +168,14 @@ void Engine::xtwinops(Function function) {
     }
 }
 
-void Engine::decscpp(Function function) {
+void Terminal::decscpp(Function function) {
     const int columns = function.parameters.get(0);
     if (columns == 0 || columns == 80 || columns == 132) {
         request_size({columns == 0 ? 80 : columns, size().rows});
     }
 }
 
-void Engine::decsnls(Function function) {
+void Terminal::decsnls(Function function) {
     const int rows = function.parameters.get(0);
     if (rows > 0) {
         request_size({size().columns, rows});
@@ -185,14 +185,14 @@ void Engine::decsnls(Function function) {
 // Titles.
 
 /// Titles are text that a program chose: without the user's permission they are never sent.
-void Engine::report_title(char kind, const std::string& title) {
+void Terminal::report_title(char kind, const std::string& title) {
     if (permissions_.window_operations) {
         reply(std::string("\x1b]") + kind + (hex_title_reports_ ? hexadecimal(title) : title) + "\x1b\\");
     }
 }
 
 /// OSC 0, 1 and 2.
-void Engine::set_titles(int which, std::string_view text) {
+void Terminal::set_titles(int which, std::string_view text) {
     std::string decoded;
     if (hex_titles_) {
         decoded = from_hexadecimal(text);
@@ -202,7 +202,7 @@ void Engine::set_titles(int which, std::string_view text) {
     change_titles(which, {title, title});
 }
 
-void Engine::change_titles(int which, const Titles& titles) {
+void Terminal::change_titles(int which, const Titles& titles) {
     if (concerns_icon(which)) {
         titles_.icon = titles.icon;
     }
@@ -213,13 +213,13 @@ void Engine::change_titles(int which, const Titles& titles) {
 }
 
 /// Both titles are saved, as on xterm, whichever is named.
-void Engine::push_titles() {
+void Terminal::push_titles() {
     if (title_stack_.size() < max_saved_states) {
         title_stack_.push_back(titles_);
     }
 }
 
-void Engine::pop_titles(int which) {
+void Terminal::pop_titles(int which) {
     if (!title_stack_.empty()) {
         const Titles titles = std::move(title_stack_.back());
         title_stack_.pop_back();
@@ -228,7 +228,7 @@ void Engine::pop_titles(int which) {
 }
 
 /// 0: titles are set, 1: reported in hexadecimal digits. (2 and 3, UTF-8, always hold.)
-void Engine::change_title_modes(Function function, bool on) {
+void Terminal::change_title_modes(Function function, bool on) {
     for (std::size_t i = 0; i < std::max<std::size_t>(function.parameters.size(), 1); ++i) {
         const int mode = function.parameters.get(i);
         hex_titles_ = mode == 0 ? on : hex_titles_;
@@ -236,7 +236,7 @@ void Engine::change_title_modes(Function function, bool on) {
     }
 }
 
-void Engine::xtsmtitle(Function function) { change_title_modes(function, true); }
-void Engine::xtrmtitle(Function function) { change_title_modes(function, false); }
+void Terminal::xtsmtitle(Function function) { change_title_modes(function, true); }
+void Terminal::xtrmtitle(Function function) { change_title_modes(function, false); }
 
 }  // namespace terminal

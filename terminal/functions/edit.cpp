@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "terminal/engine.h"
+#include "terminal/terminal.h"
 
 #include <algorithm>
 #include <array>
@@ -10,7 +10,7 @@ namespace terminal {
 
 /// Selective erasing (DECSED, DECSEL) spares what DECSCA guards; the other spares guarded areas, once there
 /// are any.
-void Engine::erase_row(int row, int from, int to, Erasure erasure) {
+void Terminal::erase_row(int row, int from, int to, Erasure erasure) {
     if (erasure == Erasure::selective) {
         screen_->erase_unguarded(row, from, to, Cell::guarded);
     } else if (guards_areas_) {
@@ -23,7 +23,7 @@ void Engine::erase_row(int row, int from, int to, Erasure erasure) {
 /// With a wrap pending the cursor stands behind the last column: erasing from there to the end of the row
 /// spares the character before it, or programs that end coloured text with EL would lose it. Where it is
 /// erased no wrap is pending any more.
-void Engine::erase_in_row(Which which, Erasure erasure) {
+void Terminal::erase_in_row(Which which, Erasure erasure) {
     const int columns = size().columns;
     const int behind = cursor_.wrap_pending ? cursor_.column + 1 : cursor_.column;
     const int from = which == Which::cursor_to_end ? behind : 0;
@@ -32,7 +32,7 @@ void Engine::erase_in_row(Which which, Erasure erasure) {
     cursor_.wrap_pending = cursor_.wrap_pending && which == Which::cursor_to_end;
 }
 
-void Engine::erase_on_screen(Which which, Erasure erasure) {
+void Terminal::erase_on_screen(Which which, Erasure erasure) {
     const int first = which == Which::cursor_to_end ? cursor_.row + 1 : 0;
     const int end = which == Which::begin_to_cursor ? cursor_.row : size().rows;
     for (int row = first; row < end; ++row) {
@@ -44,7 +44,7 @@ void Engine::erase_on_screen(Which which, Erasure erasure) {
 }
 
 /// Scrolls within the margins. What leaves the primary screen at its top goes to the scrollback.
-void Engine::scroll_text_up(int count) {
+void Terminal::scroll_text_up(int count) {
     const bool whole_rows = margins_.width() == size().columns;
     const bool whole_screen = whole_rows && margins_.height() == size().rows;
     if (margins_.top > 0 || !whole_rows || (is_alternate() && !whole_screen)) {
@@ -60,7 +60,7 @@ void Engine::scroll_text_up(int count) {
     }
 }
 
-void Engine::scroll_text_down(int count) {
+void Terminal::scroll_text_down(int count) {
     if (margins_.top == 0 && !is_alternate()) {
         scrollback_.close();
     }
@@ -68,7 +68,7 @@ void Engine::scroll_text_down(int count) {
 }
 
 /// The rows that IL and DL move; empty when the cursor is outside the margins.
-Region Engine::below_cursor() const {
+Region Terminal::below_cursor() const {
     if (!margins_.contains(cursor_.row, cursor_.column)) {
         return {};
     }
@@ -76,7 +76,7 @@ Region Engine::below_cursor() const {
 }
 
 /// Outside the side margins ICH and DCH do nothing.
-void Engine::ich(Function function) {
+void Terminal::ich(Function function) {
     cursor_.wrap_pending = false;
     if (cursor_.column >= margins_.left && cursor_.column < margins_.right) {
         screen_->insert_cells(cursor_.row, cursor_.column, margins_.right, function.parameters.count(0),
@@ -84,7 +84,7 @@ void Engine::ich(Function function) {
     }
 }
 
-void Engine::dch(Function function) {
+void Terminal::dch(Function function) {
     cursor_.wrap_pending = false;
     if (cursor_.column >= margins_.left && cursor_.column < margins_.right) {
         screen_->delete_cells(cursor_.row, cursor_.column, margins_.right, function.parameters.count(0),
@@ -92,13 +92,13 @@ void Engine::dch(Function function) {
     }
 }
 
-void Engine::ech(Function function) {
+void Terminal::ech(Function function) {
     const int end = std::min(cursor_.column + function.parameters.count(0), size().columns);
     erase_row(cursor_.row, cursor_.column, end, Erasure::plain);
     cursor_.wrap_pending = false;
 }
 
-void Engine::il(Function function) {
+void Terminal::il(Function function) {
     const Region region = below_cursor();
     if (region.height() > 0) {
         screen_->scroll_down(region, function.parameters.count(0), blank());
@@ -106,7 +106,7 @@ void Engine::il(Function function) {
     }
 }
 
-void Engine::dl(Function function) {
+void Terminal::dl(Function function) {
     const Region region = below_cursor();
     if (region.height() == 0) {
         return;
@@ -118,13 +118,13 @@ void Engine::dl(Function function) {
     carriage_return();
 }
 
-std::optional<Engine::Which> Engine::which(Function function) {
+std::optional<Terminal::Which> Terminal::which(Function function) {
     constexpr std::array places = {Which::cursor_to_end, Which::begin_to_cursor, Which::all};
     const auto number = static_cast<std::size_t>(function.parameters.get(0));
     return number < places.size() ? std::optional(places[number]) : std::nullopt;
 }
 
-void Engine::ed(Function function) {
+void Terminal::ed(Function function) {
     if (const auto place = which(function)) {
         erase_on_screen(*place, Erasure::plain);
     } else if (function.parameters.get(0) == 3) {
@@ -133,71 +133,71 @@ void Engine::ed(Function function) {
     }
 }
 
-void Engine::decsed(Function function) {
+void Terminal::decsed(Function function) {
     if (const auto place = which(function)) {
         erase_on_screen(*place, Erasure::selective);
     }
 }
 
-void Engine::el(Function function) {
+void Terminal::el(Function function) {
     if (const auto place = which(function)) {
         erase_in_row(*place, Erasure::plain);
     }
 }
 
-void Engine::decsel(Function function) {
+void Terminal::decsel(Function function) {
     if (const auto place = which(function)) {
         erase_in_row(*place, Erasure::selective);
     }
 }
 
-void Engine::su(Function function) { scroll_text_up(function.parameters.count(0)); }
+void Terminal::su(Function function) { scroll_text_up(function.parameters.count(0)); }
 
-void Engine::sd(Function function) {
+void Terminal::sd(Function function) {
     if (function.parameters.size() <= 1) {  // with five it is xterm's highlight tracking
         scroll_text_down(function.parameters.count(0));
     }
 }
 
 /// SL and SR move the text within the margins, and only when the cursor is there, as on xterm.
-void Engine::sl(Function function) {
+void Terminal::sl(Function function) {
     if (margins_.contains(cursor_.row, cursor_.column)) {
         delete_columns(margins_.left, function.parameters.count(0));
     }
 }
 
-void Engine::sr(Function function) {
+void Terminal::sr(Function function) {
     if (margins_.contains(cursor_.row, cursor_.column)) {
         insert_columns(margins_.left, function.parameters.count(0));
     }
 }
 
-void Engine::decic(Function function) {
+void Terminal::decic(Function function) {
     if (margins_.contains(cursor_.row, cursor_.column)) {
         insert_columns(cursor_.column, function.parameters.count(0));
     }
 }
 
-void Engine::decdc(Function function) {
+void Terminal::decdc(Function function) {
     if (margins_.contains(cursor_.row, cursor_.column)) {
         delete_columns(cursor_.column, function.parameters.count(0));
     }
 }
 
 /// In all rows within the margins, from `column` to the right margin.
-void Engine::insert_columns(int column, int count) {
+void Terminal::insert_columns(int column, int count) {
     for (int row = margins_.top; row < margins_.bottom; ++row) {
         screen_->insert_cells(row, column, margins_.right, count, blank());
     }
 }
 
-void Engine::delete_columns(int column, int count) {
+void Terminal::delete_columns(int column, int count) {
     for (int row = margins_.top; row < margins_.bottom; ++row) {
         screen_->delete_cells(row, column, margins_.right, count, blank());
     }
 }
 
-void Engine::decaln(Function /*function*/) {
+void Terminal::decaln(Function /*function*/) {
     reset_margins();
     inner_.origin = false;
     screen_->fill(screen_->all(), {U'E', 0, 0});

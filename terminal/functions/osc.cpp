@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "terminal/engine.h"
+#include "terminal/terminal.h"
 #include "terminal/text_codes.h"
 #include "terminal/utf8.h"
 
@@ -44,7 +44,7 @@ bool is_colour(int index) { return index >= 0 && index < special_base + special_
 
 }  // namespace
 
-void Engine::operating_system_command(std::string_view data) {
+void Terminal::operating_system_command(std::string_view data) {
     const std::string_view text = take_field(data);
     const int number = parse_number(text);
     last_character_ = 0;
@@ -81,7 +81,7 @@ void Engine::operating_system_command(std::string_view data) {
 
 /// `8 ; parameters ; address`. Addresses are in printable ASCII; with anything else, or when there are too
 /// many, the text that follows is no link.
-void Engine::set_link(std::string_view data) {
+void Terminal::set_link(std::string_view data) {
     std::string_view parameters = take_field(data);
     pen();  // so that its other attributes are up to date
     pen_.link = 0;
@@ -107,15 +107,15 @@ void Engine::set_link(std::string_view data) {
     pen_.link = static_cast<LinkId>(number.value_or(0));
 }
 
-void Engine::palette_changed() { epoch_ = ++clock_; }
+void Terminal::palette_changed() { epoch_ = ++clock_; }
 
 /// Ends with ST always, whatever ended the question: a reply holds no BEL.
-void Engine::reply_colour(std::string_view prefix, Rgb colour) {
+void Terminal::reply_colour(std::string_view prefix, Rgb colour) {
     reply("\x1b]" + std::string(prefix) + ';' + colour_text(colour) + "\x1b\\");
 }
 
 /// A number of colour names is looked up by the client, each once: it may have to ask the X server.
-std::optional<Rgb> Engine::colour(std::string_view text) {
+std::optional<Rgb> Terminal::colour(std::string_view text) {
     if (const auto colour = parse_colour(text)) {
         return colour;
     }
@@ -136,7 +136,7 @@ std::optional<Rgb> Engine::colour(std::string_view text) {
 }
 
 /// Pairs of index and colour; "?" asks. Indices count from `base` on.
-void Engine::osc_palette(std::string_view number, int base, std::string_view data) {
+void Terminal::osc_palette(std::string_view number, int base, std::string_view data) {
     while (!data.empty()) {
         const int given = parse_number(take_field(data));
         const std::string_view text = take_field(data);
@@ -156,7 +156,7 @@ void Engine::osc_palette(std::string_view number, int base, std::string_view dat
 }
 
 /// 10 to 19: the colours from role `number` on. 110 to 119: takes one back.
-void Engine::osc_role(int number, std::string_view data) {
+void Terminal::osc_role(int number, std::string_view data) {
     if (number >= 100 + first_role && number <= 100 + last_role) {
         palette_.reset(role_of(number));
         palette_changed();
@@ -174,7 +174,7 @@ void Engine::osc_role(int number, std::string_view data) {
 }
 
 /// Without an index all of OSC 4's or 5's.
-void Engine::osc_reset_palette(int base, std::string_view data) {
+void Terminal::osc_reset_palette(int base, std::string_view data) {
     if (data.empty()) {
         base == 0 ? palette_.reset_indexed() : palette_.reset_special();
     }
@@ -190,7 +190,7 @@ void Engine::osc_reset_palette(int base, std::string_view data) {
 }
 
 /// `selections ; text in base 64`. Never read; written where the user permits it.
-void Engine::osc_selection(std::string_view data) {
+void Terminal::osc_selection(std::string_view data) {
     const std::string_view which = take_field(data);
     const std::string text = from_base64(data);
     const bool is_text = text.find('\0') == std::string::npos;

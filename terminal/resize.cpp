@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "terminal/engine.h"
+#include "terminal/terminal.h"
 
 #include <algorithm>
 #include <cassert>
@@ -11,7 +11,7 @@
 namespace terminal {
 
 /// The text of the screen as logical lines while it is laid out anew.
-class Engine::Flow {
+class Terminal::Flow {
   public:
     /// Takes the first `rows` rows of a screen. A line that only blanks of the others belong to ends with
     /// them.
@@ -82,7 +82,7 @@ class Engine::Flow {
     std::vector<Row> rows_;
 };
 
-std::vector<Mark> Engine::marks(std::span<const Position> positions) const {
+std::vector<Mark> Terminal::marks(std::span<const Position> positions) const {
     std::vector<Mark> result;
     for (const Position& place : positions) {
         if (place.row < scrollback_.end_row()) {
@@ -108,7 +108,7 @@ std::vector<Mark> Engine::marks(std::span<const Position> positions) const {
 }
 
 /// Where the text of a mark is now. The column may be one past the last, at the end of a full row.
-Position Engine::position(Mark mark) const {
+Position Terminal::position(Mark mark) const {
     if (const auto place = scrollback_.find(mark)) {
         return *place;
     }
@@ -122,7 +122,7 @@ Position Engine::position(Mark mark) const {
     return {primary_.top() + row, static_cast<int>(std::min<std::int64_t>(mark.offset, size().columns))};
 }
 
-void Engine::resize(Size wanted, std::span<Position> anchors) {
+void Terminal::resize(Size wanted, std::span<Position> anchors) {
     wanted = within_limits(wanted);
     const Size before = size();
     if (wanted == before) {
@@ -139,7 +139,7 @@ void Engine::resize(Size wanted, std::span<Position> anchors) {
 }
 
 /// Lays the primary screen out anew. Its cursor is the saved one while the alternate screen is shown.
-void Engine::resize_primary(Size wanted, std::span<Position> anchors) {
+void Terminal::resize_primary(Size wanted, std::span<Position> anchors) {
     CursorState& cursor = is_alternate() ? saved_[0].place : cursor_;
     CursorState& saved_cursor = saved_[0].place;
     std::vector<Position> places(anchors.begin(), anchors.end());
@@ -161,7 +161,7 @@ void Engine::resize_primary(Size wanted, std::span<Position> anchors) {
 
 /// Rows below the text and the cursor are given up first when the screen gets lower. When it gets higher,
 /// rows come back from the scrollback.
-void Engine::flow_primary(Size wanted, int cursor_row) {
+void Terminal::flow_primary(Size wanted, int cursor_row) {
     const Size before = primary_.size();
     int used = before.rows;
     while (used > cursor_row + 1 && primary_.is_blank(used - 1)) {
@@ -202,7 +202,7 @@ void Engine::flow_primary(Size wanted, int cursor_row) {
 }
 
 /// A cursor at a place of the primary screen. Behind a full row a wrap is pending.
-Engine::CursorState Engine::cursor_at(Position place) const {
+Terminal::CursorState Terminal::cursor_at(Position place) const {
     const int row = static_cast<int>(std::max<RowId>(place.row - primary_.top(), 0));
     const int columns = size().columns;
     if (place.column < columns) {
@@ -212,7 +212,7 @@ Engine::CursorState Engine::cursor_at(Position place) const {
 }
 
 /// A full-screen program paints its screen anew, so that cutting serves it best; the cursor's row stays.
-void Engine::resize_alternate(Size wanted) {
+void Terminal::resize_alternate(Size wanted) {
     const int drop_top = std::max(cursor_.row - wanted.rows + 1, 0);
     alternate_.resize_fixed(wanted, drop_top);
     move_to(cursor_.row - drop_top, cursor_.column);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "terminal/engine.h"
+#include "terminal/terminal.h"
 
 #include <algorithm>
 #include <cassert>
@@ -14,7 +14,7 @@ constexpr char argument_offset = 0x20;
 
 }  // namespace
 
-void Engine::vt52_sequence(char final, std::array<char, max_intermediates> arguments) {
+void Terminal::vt52_sequence(char final, std::array<char, max_intermediates> arguments) {
     switch (final) {
         case 'Y': {
             const int row = arguments[0] - argument_offset;
@@ -52,7 +52,7 @@ void Engine::vt52_sequence(char final, std::array<char, max_intermediates> argum
     assert(is_consistent());
 }
 
-void Engine::vt52_move(char final) {
+void Terminal::vt52_move(char final) {
     switch (final) {
         case 'A':
             return move_vertically(-1);

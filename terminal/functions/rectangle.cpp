@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "terminal/engine.h"
 #include "terminal/sgr.h"
+#include "terminal/terminal.h"
 #include "terminal/utf8.h"
 
 #include <algorithm>
@@ -41,7 +41,7 @@ void reverse_attributes(const Parameters& parameters, std::size_t first, Style& 
 
 /// Top, left, bottom and right from parameter `first` on, within the margins in origin mode. Empty when they
 /// make no rectangle.
-Region Engine::rectangle(Function function, std::size_t first) const {
+Region Terminal::rectangle(Function function, std::size_t first) const {
     const Region within = inner_.origin ? margins_ : screen_->all();
     const auto place = [&function](std::size_t index, int begin, int end, int missing) {
         const int value = function.parameters.get(index);
@@ -54,16 +54,16 @@ Region Engine::rectangle(Function function, std::size_t first) const {
     return region.height() > 0 && region.width() > 0 ? region : Region{};
 }
 
-void Engine::decera(Function function) { screen_->fill(rectangle(function, 0), blank()); }
+void Terminal::decera(Function function) { screen_->fill(rectangle(function, 0), blank()); }
 
-void Engine::decsera(Function function) {
+void Terminal::decsera(Function function) {
     const Region region = rectangle(function, 0);
     for (int row = region.top; row < region.bottom; ++row) {
         screen_->erase_unguarded(row, region.left, region.right, Cell::guarded);
     }
 }
 
-void Engine::decfra(Function function) {
+void Terminal::decfra(Function function) {
     const int character = function.parameters.get(0);
     const bool printable =
         (character >= 0x20 && character <= 0x7E) || (character >= 0xA0 && character <= 0xFF);
@@ -74,7 +74,7 @@ void Engine::decfra(Function function) {
     }
 }
 
-void Engine::deccra(Function function) {
+void Terminal::deccra(Function function) {
     Region from = rectangle(function, 0);
     const Region within = inner_.origin ? margins_ : screen_->all();
     const int row = within.top + function.parameters.count(5) - 1;
@@ -86,11 +86,11 @@ void Engine::deccra(Function function) {
     }
 }
 
-void Engine::deccara(Function function) { change_styles(function, change_attributes); }
-void Engine::decrara(Function function) { change_styles(function, reverse_attributes); }
+void Terminal::deccara(Function function) { change_styles(function, change_attributes); }
+void Terminal::decrara(Function function) { change_styles(function, reverse_attributes); }
 
 /// Changes the styles of a rectangle, or of the text from its first corner to its last (DECSACE).
-void Engine::change_styles(Function function, void (*change)(const Parameters&, std::size_t, Style&)) {
+void Terminal::change_styles(Function function, void (*change)(const Parameters&, std::size_t, Style&)) {
     const Region region = rectangle(function, 0);
     std::optional<std::pair<StyleId, StyleId>> known;  // neighbours mostly have one style
     for (int row = region.top; row < region.bottom; ++row) {
@@ -122,18 +122,18 @@ constexpr int checksum_of_whole_characters = 16;
 
 }  // namespace
 
-void Engine::xtchecksum(Function function) { checksum_flags_ = function.parameters.get(0); }
+void Terminal::xtchecksum(Function function) { checksum_flags_ = function.parameters.get(0); }
 
 /// `id ; page ; rectangle`. Off unless the user wants it: with it whatever is shown can read what else is
 /// shown.
-void Engine::decrqcra(Function function) {
+void Terminal::decrqcra(Function function) {
     if (permissions_.checksum) {
         report_checksum(function.parameters.get(0), checksum(rectangle(function, 2)));
     }
 }
 
 /// A character with its attributes. A VT420 counts protection too; xterm does not, and neither do we.
-int Engine::checksum(const Cell& cell) const {
+int Terminal::checksum(const Cell& cell) const {
     int sum = cell.character() == 0 ? ' ' : static_cast<int>(cell.character());
     if (cell.is_cluster()) {
         const std::string& text = clusters_[cell.character()];
@@ -160,7 +160,7 @@ int Engine::checksum(const Cell& cell) const {
 }
 
 /// The negated sum. Blanks at the ends of rows do not count, except as the very first character.
-int Engine::checksum(const Region& region) const {
+int Terminal::checksum(const Region& region) const {
     int sum = 0;
     bool first = true;
     for (int row = region.top; row < region.bottom; ++row) {
@@ -185,6 +185,6 @@ int Engine::checksum(const Region& region) const {
     return (checksum_flags_ & checksum_not_negated) != 0 ? sum : -sum;
 }
 
-void Engine::decsace(Function function) { whole_rectangles_ = function.parameters.get(0) == 2; }
+void Terminal::decsace(Function function) { whole_rectangles_ = function.parameters.get(0) == 2; }
 
 }  // namespace terminal

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "terminal/engine.h"
+#include "terminal/terminal.h"
 
 #include <algorithm>
 #include <type_traits>
@@ -9,10 +9,10 @@
 namespace terminal {
 
 /// A mode that can be set, reset, asked for and saved.
-struct Engine::Mode {
+struct Terminal::Mode {
     int number;
-    void (Engine::*set)(bool);
-    bool (Engine::*get)() const;
+    void (Terminal::*set)(bool);
+    bool (Terminal::*get)() const;
 
     static std::span<const Mode> ansi();
     static std::span<const Mode> dec();
@@ -23,20 +23,20 @@ struct Engine::Mode {
 
     template <auto flag>
     static constexpr Mode of(int number) {
-        return {number, &Engine::set_mode<flag>, &Engine::mode<flag>};
+        return {number, &Terminal::set_mode<flag>, &Terminal::mode<flag>};
     }
     template <MouseTracking tracking>
     static constexpr Mode of_tracking(int number) {
-        return {number, &Engine::set_mouse_tracking<tracking>, &Engine::has_mouse_tracking<tracking>};
+        return {number, &Terminal::set_mouse_tracking<tracking>, &Terminal::has_mouse_tracking<tracking>};
     }
     template <MouseEncoding encoding>
     static constexpr Mode of_encoding(int number) {
-        return {number, &Engine::set_mouse_encoding<encoding>, &Engine::has_mouse_encoding<encoding>};
+        return {number, &Terminal::set_mouse_encoding<encoding>, &Terminal::has_mouse_encoding<encoding>};
     }
 };
 
 template <auto flag>
-void Engine::set_mode(bool on) {
+void Terminal::set_mode(bool on) {
     if constexpr (std::is_same_v<decltype(flag), bool Modes::*>) {
         modes_.*flag = on;
     } else {
@@ -46,7 +46,7 @@ void Engine::set_mode(bool on) {
 }
 
 template <auto flag>
-bool Engine::mode() const {
+bool Terminal::mode() const {
     if constexpr (std::is_same_v<decltype(flag), bool Modes::*>) {
         return modes_.*flag;
     } else {
@@ -55,41 +55,41 @@ bool Engine::mode() const {
 }
 
 template <MouseTracking tracking>
-void Engine::set_mouse_tracking(bool on) {
+void Terminal::set_mouse_tracking(bool on) {
     modes_.mouse_tracking = on ? tracking : MouseTracking::off;
 }
 template <MouseTracking tracking>
-bool Engine::has_mouse_tracking() const {
+bool Terminal::has_mouse_tracking() const {
     return modes_.mouse_tracking == tracking;
 }
 template <MouseEncoding encoding>
-void Engine::set_mouse_encoding(bool on) {
+void Terminal::set_mouse_encoding(bool on) {
     modes_.mouse_encoding = on ? encoding : MouseEncoding::classic;
 }
 template <MouseEncoding encoding>
-bool Engine::has_mouse_encoding() const {
+bool Terminal::has_mouse_encoding() const {
     return modes_.mouse_encoding == encoding;
 }
 
-std::span<const Engine::Mode> Engine::Mode::ansi() {
+std::span<const Terminal::Mode> Terminal::Mode::ansi() {
     static constexpr Mode modes[] = {
         of<&Modes::keyboard_locked>(2),
         of<&InnerModes::insert>(4),
-        {12, &Engine::set_send_receive, &Engine::has_send_receive},
+        {12, &Terminal::set_send_receive, &Terminal::has_send_receive},
         of<&Modes::newline>(20),
     };
     return modes;
 }
 
-std::span<const Engine::Mode> Engine::Mode::dec() {
+std::span<const Terminal::Mode> Terminal::Mode::dec() {
     static constexpr Mode modes[] = {
         of<&Modes::application_cursor_keys>(1),
-        {2, &Engine::set_ansi, &Engine::is_ansi},
-        {3, &Engine::set_columns, &Engine::mode<&InnerModes::columns_132>},
+        {2, &Terminal::set_ansi, &Terminal::is_ansi},
+        {3, &Terminal::set_columns, &Terminal::mode<&InnerModes::columns_132>},
         of<&InnerModes::smooth_scroll>(4),
-        {5, &Engine::set_reverse_video, &Engine::mode<&Modes::reverse_video>},
-        {6, &Engine::set_origin, &Engine::mode<&InnerModes::origin>},
-        {7, &Engine::set_autowrap, &Engine::mode<&InnerModes::autowrap>},
+        {5, &Terminal::set_reverse_video, &Terminal::mode<&Modes::reverse_video>},
+        {6, &Terminal::set_origin, &Terminal::mode<&InnerModes::origin>},
+        {7, &Terminal::set_autowrap, &Terminal::mode<&InnerModes::autowrap>},
         of<&Modes::auto_repeat>(8),
         of_tracking<MouseTracking::press>(9),
         of<&InnerModes::cursor_blinking>(12),
@@ -100,10 +100,10 @@ std::span<const Engine::Mode> Engine::Mode::dec() {
         of<&InnerModes::tab_wraps>(41),
         of<&InnerModes::national_sets>(42),
         of<&InnerModes::reverse_wrap>(45),
-        {47, &Engine::set_alternate, &Engine::is_alternate},
+        {47, &Terminal::set_alternate, &Terminal::is_alternate},
         of<&Modes::application_keypad>(66),
         of<&Modes::backarrow_sends_backspace>(67),
-        {69, &Engine::set_side_margins, &Engine::mode<&InnerModes::side_margins>},
+        {69, &Terminal::set_side_margins, &Terminal::mode<&InnerModes::side_margins>},
         of<&InnerModes::keep_on_columns>(95),
         of_tracking<MouseTracking::press_release>(1000),
         of_tracking<MouseTracking::drag>(1002),
@@ -115,10 +115,10 @@ std::span<const Engine::Mode> Engine::Mode::dec() {
         of_encoding<MouseEncoding::urxvt>(1015),
         of_encoding<MouseEncoding::sgr_pixels>(1016),
         of<&InnerModes::far_reverse_wrap>(1045),
-        {1046, &Engine::set_allow_alternate, &Engine::mode<&InnerModes::allow_alternate>},
-        {1047, &Engine::set_alternate_cleared, &Engine::is_alternate},
-        {1048, &Engine::set_saved_cursor, &Engine::has_saved_cursor},
-        {1049, &Engine::set_alternate_saved, &Engine::is_alternate},
+        {1046, &Terminal::set_allow_alternate, &Terminal::mode<&InnerModes::allow_alternate>},
+        {1047, &Terminal::set_alternate_cleared, &Terminal::is_alternate},
+        {1048, &Terminal::set_saved_cursor, &Terminal::has_saved_cursor},
+        {1049, &Terminal::set_alternate_saved, &Terminal::is_alternate},
         of<&Modes::bracketed_paste>(2004),
         of<&Modes::synchronized_output>(2026),
     };
@@ -163,7 +163,7 @@ constexpr FixedMode fixed_dec[] = {
 
 }  // namespace
 
-void Engine::change_modes(Function function, bool on) {
+void Terminal::change_modes(Function function, bool on) {
     const auto modes = function.prefix == '?' ? Mode::dec() : Mode::ansi();
     for (std::size_t i = 0; i < function.parameters.size(); ++i) {
         if (const Mode* const mode = Mode::find(modes, function.parameters.get(i))) {
@@ -172,12 +172,12 @@ void Engine::change_modes(Function function, bool on) {
     }
 }
 
-void Engine::sm(Function function) { change_modes(function, true); }
-void Engine::rm(Function function) { change_modes(function, false); }
-void Engine::decset(Function function) { change_modes(function, true); }
-void Engine::decrst(Function function) { change_modes(function, false); }
+void Terminal::sm(Function function) { change_modes(function, true); }
+void Terminal::rm(Function function) { change_modes(function, false); }
+void Terminal::decset(Function function) { change_modes(function, true); }
+void Terminal::decrst(Function function) { change_modes(function, false); }
 
-void Engine::xtsave(Function function) {
+void Terminal::xtsave(Function function) {
     for (std::size_t i = 0; i < function.parameters.size(); ++i) {
         const Mode* const mode = Mode::find(Mode::dec(), function.parameters.get(i));
         if (mode != nullptr) {
@@ -187,7 +187,7 @@ void Engine::xtsave(Function function) {
     }
 }
 
-void Engine::xtrestore(Function function) {
+void Terminal::xtrestore(Function function) {
     for (std::size_t i = 0; i < function.parameters.size(); ++i) {
         const auto saved = std::ranges::find(saved_modes_, function.parameters.get(i),
                                              [](const auto& entry) { return entry.first; });
@@ -197,7 +197,7 @@ void Engine::xtrestore(Function function) {
     }
 }
 
-int Engine::mode_state(std::span<const Mode> modes, int number) const {
+int Terminal::mode_state(std::span<const Mode> modes, int number) const {
     const Mode* const mode = Mode::find(modes, number);
     if (mode == nullptr) {
         return mode_unknown;
@@ -205,7 +205,7 @@ int Engine::mode_state(std::span<const Mode> modes, int number) const {
     return (this->*mode->get)() ? mode_set : mode_reset;
 }
 
-void Engine::decrqm(Function function) {
+void Terminal::decrqm(Function function) {
     const bool is_private = function.prefix == '?';
     const int number = function.parameters.get(0);
     const std::span<const FixedMode> fixed = is_private ? std::span<const FixedMode>(fixed_dec) : fixed_ansi;
@@ -216,16 +216,16 @@ void Engine::decrqm(Function function) {
           std::to_string(state) + "$y");
 }
 
-void Engine::set_send_receive(bool on) { modes_.local_echo = !on; }
+void Terminal::set_send_receive(bool on) { modes_.local_echo = !on; }
 
 /// A wrap that was pending is off too.
-void Engine::set_autowrap(bool on) {
+void Terminal::set_autowrap(bool on) {
     inner_.autowrap = on;
     cursor_.wrap_pending = cursor_.wrap_pending && on;
 }
 
 /// A VT52 has one character set and no margins.
-void Engine::set_ansi(bool on) {
+void Terminal::set_ansi(bool on) {
     modes_.vt52 = !on;
     parser_.set_language(on ? Parser::Language::ansi : Parser::Language::vt52);
     sets_ = CharacterSets{};
@@ -237,7 +237,7 @@ void Engine::set_ansi(bool on) {
 
 /// DECCOLM, where xterm's mode 40 and the user let it: besides the width it empties the screen, unless
 /// DECNCSM forbids that, and resets the margins.
-void Engine::set_columns(bool on) {
+void Terminal::set_columns(bool on) {
     if (!inner_.allow_columns || !permissions_.window_operations) {
         return;
     }
@@ -254,20 +254,20 @@ void Engine::set_columns(bool on) {
 }
 
 /// Without the permission to show the alternate screen a program goes back to the primary one.
-void Engine::set_allow_alternate(bool on) {
+void Terminal::set_allow_alternate(bool on) {
     if (!on) {
         set_alternate(false);
     }
     inner_.allow_alternate = on;
 }
 
-void Engine::set_origin(bool on) {
+void Terminal::set_origin(bool on) {
     inner_.origin = on;
     move_in_origin(0, 0);
 }
 
 /// Of a VT420.
-void Engine::set_side_margins(bool on) {
+void Terminal::set_side_margins(bool on) {
     inner_.side_margins = on && level_ >= 4;
     if (!on) {
         margins_.left = 0;
@@ -275,13 +275,13 @@ void Engine::set_side_margins(bool on) {
     }
 }
 
-void Engine::set_reverse_video(bool on) {
+void Terminal::set_reverse_video(bool on) {
     modes_.reverse_video = on;
     epoch_ = ++clock_;
 }
 
 /// Shows the one or the other screen. The cursor is one for both.
-void Engine::set_alternate(bool on) {
+void Terminal::set_alternate(bool on) {
     if (is_alternate() == on || !inner_.allow_alternate) {
         return;
     }
@@ -293,14 +293,14 @@ void Engine::set_alternate(bool on) {
     epoch_ = ++clock_;
 }
 
-void Engine::set_alternate_cleared(bool on) {
+void Terminal::set_alternate_cleared(bool on) {
     if (!on && is_alternate()) {
         alternate_.reset(size(), alternate_.top() + size().rows);
     }
     set_alternate(on);
 }
 
-void Engine::set_alternate_saved(bool on) {
+void Terminal::set_alternate_saved(bool on) {
     if (!inner_.allow_alternate || (!on && !is_alternate())) {
         return;
     }
@@ -314,7 +314,7 @@ void Engine::set_alternate_saved(bool on) {
     alternate_.reset(size(), alternate_.top() + size().rows);
 }
 
-void Engine::set_saved_cursor(bool on) {
+void Terminal::set_saved_cursor(bool on) {
     if (on) {
         save_cursor();
     } else {
@@ -322,7 +322,7 @@ void Engine::set_saved_cursor(bool on) {
     }
 }
 
-void Engine::decstbm(Function function) {
+void Terminal::decstbm(Function function) {
     const int top = function.parameters.count(0);
     const int asked = function.parameters.get(1);
     const int bottom = asked == 0 ? size().rows : std::min(asked, size().rows);

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
-#include "terminal/engine.h"
+#include "terminal/terminal.h"
 
 // Resets, the conformance level, and the form of controls.
 
 namespace terminal {
 
-void Engine::reset_margins() { margins_ = screen_->all(); }
+void Terminal::reset_margins() { margins_ = screen_->all(); }
 
 /// What DECSTR resets, and a full reset too. Unlike a VT420's, autowrap is on then, as on xterm.
-void Engine::soft_reset() {
+void Terminal::soft_reset() {
     inner_.insert = inner_.origin = inner_.reverse_wrap = inner_.far_reverse_wrap = false;
     inner_.side_margins = inner_.national_sets = false;
     inner_.autowrap = inner_.cursor_visible = true;
@@ -24,10 +24,10 @@ void Engine::soft_reset() {
     cursor_.wrap_pending = false;
 }
 
-void Engine::decstr(Function /*function*/) { soft_reset(); }
-void Engine::ris(Function /*function*/) { reset(); }
+void Terminal::decstr(Function /*function*/) { soft_reset(); }
+void Terminal::ris(Function /*function*/) { reset(); }
 
-void Engine::reset() {
+void Terminal::reset() {
     inner_.allow_alternate = true;
     set_alternate(false);
     if (inner_.columns_132) {
@@ -57,7 +57,7 @@ void Engine::reset() {
 
 /// `61 to 64 ; controls`: the level, and whether replies use 7-bit controls (1) or 8-bit ones. A reset too
 /// (VT420 manual).
-void Engine::decscl(Function function) {
+void Terminal::decscl(Function function) {
     constexpr int base = 60;
     const int level = function.parameters.get(0) - base;
     if (level < 1 || level > top_level) {
@@ -70,23 +70,23 @@ void Engine::decscl(Function function) {
     }
 }
 
-void Engine::s7c1t(Function /*function*/) { choose_controls(Controls::of_7_bits); }
-void Engine::s8c1t(Function /*function*/) { choose_controls(Controls::of_8_bits); }
-void Engine::use_latin1(Function /*function*/) { choose_encoding(Encoding::latin1); }
-void Engine::use_utf8(Function /*function*/) { choose_encoding(Encoding::utf8); }
+void Terminal::s7c1t(Function /*function*/) { choose_controls(Controls::of_7_bits); }
+void Terminal::s8c1t(Function /*function*/) { choose_controls(Controls::of_8_bits); }
+void Terminal::use_latin1(Function /*function*/) { choose_encoding(Encoding::latin1); }
+void Terminal::use_utf8(Function /*function*/) { choose_encoding(Encoding::utf8); }
 
-void Engine::choose_controls(Controls controls) {
+void Terminal::choose_controls(Controls controls) {
     controls_ = controls;
     update_parser();
 }
 
-void Engine::choose_encoding(Encoding encoding) {
+void Terminal::choose_encoding(Encoding encoding) {
     encoding_ = encoding;
     update_parser();
 }
 
 /// A program that wants 8-bit controls in replies may send them too, also within UTF-8.
-void Engine::update_parser() {
+void Terminal::update_parser() {
     using Wanted = Parser::Encoding;
     const Wanted utf8 = controls_ == Controls::of_8_bits ? Wanted::utf8_with_8bit_controls : Wanted::utf8;
     parser_.set_encoding(encoding_ == Encoding::latin1 ? Wanted::latin1 : utf8);
