@@ -4,6 +4,8 @@
 #include <cstdint>
 #include <string>
 
+#include <sys/time.h>
+
 /// The picture before a row of a list.
 enum class Glyph : std::uint8_t {
     none,
@@ -18,3 +20,20 @@ struct ListRow {
 
     bool operator==(const ListRow&) const = default;
 };
+
+/// What a user did with a row of a list.
+struct ListEvent {
+    enum class Kind : std::uint8_t {
+        press,     ///< the left mouse button went down on the row
+        select,    ///< the keyboard came to the row
+        activate,  ///< Return was pressed on the row
+    };
+    Kind kind = Kind::press;
+    int row = 0;
+    int x = 0;  ///< of a press, in the list, in pixels
+    int y = 0;
+    timeval time{};  ///< of a press
+};
+
+/// What a list calls when its user has acted on a row, which is selected by then.
+using ListNotify = void (*)(const ListEvent& event);

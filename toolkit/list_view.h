@@ -1,13 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "toolkit/scrolling_list.h"
+#include "toolkit/list_row.h"
 
 #include <QAbstractListModel>
 #include <QIcon>
 #include <QListView>
 
 #include <array>
+#include <string>
+#include <vector>
 
 /// The rows of a list.
 class ListModel final : public QAbstractListModel {

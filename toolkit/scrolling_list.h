@@ -5,33 +5,13 @@
 #include "toolkit/list_row.h"
 #include "toolkit/panel.h"
 
-#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include <sys/time.h>
-
 class ListModel;
 class ListView;
-
-/// What a user did with a row of a list.
-struct ListEvent {
-    enum class Kind : std::uint8_t {
-        press,     ///< the left mouse button went down on the row
-        select,    ///< the keyboard came to the row
-        activate,  ///< Return was pressed on the row
-    };
-    Kind kind = Kind::press;
-    int row = 0;
-    int x = 0;  ///< of a press, in the list, in pixels
-    int y = 0;
-    timeval time{};  ///< of a press
-};
-
-/// What a list calls when its user has acted on a row, which is selected by then.
-using ListNotify = void (*)(const ListEvent& event);
 
 enum class Duplicates : bool { refused, allowed };
 

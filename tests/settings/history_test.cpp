@@ -3,7 +3,6 @@
 
 #include "shell/messages.h"
 #include "tests/settings/history_windows.h"
-#include "toolkit/pane/view.h"
 #include "ui/message_board.h"
 
 #include <QMenu>
@@ -181,7 +180,7 @@ TEST_F(HistoryTest, IsWalked) {
         EXPECT_EQ(main_window().command.text(), row.command);
         EXPECT_EQ(main_window().left_footer(), row.footer);
         // A bell soon after another one is passed over.
-        EXPECT_EQ(!control<TerminalView>(main_window(), "terminal").ring(), row.rings);
+        EXPECT_EQ(!main_window().termpane.ring_bell(), row.rings);
         const bool selects = row.walker == button && row.footer.empty();
         EXPECT_EQ(list().selected(), selects ? std::optional(row.to) : std::nullopt);
     }

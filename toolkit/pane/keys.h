@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "toolkit/pane/pane.h"
+#include "toolkit/pane/key_event.h"
 
 #include <Qt>
 

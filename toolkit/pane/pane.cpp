@@ -12,9 +12,10 @@
 #include "toolkit/text_conversion.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QClipboard>
+#include <QElapsedTimer>
 #include <QGridLayout>
-#include <QGuiApplication>
 #include <QMenu>
 #include <QScrollBar>
 
@@ -28,6 +29,9 @@ class PaneWidget final : public QWidget {
     [[nodiscard]] TerminalSession& session() { return session_; }
     [[nodiscard]] TerminalView& view() { return *view_; }
     void set_events(TerminalPane::Events events) { events_ = std::move(events); }
+    /// A sound, and a flash unless that is switched off. Bells that follow too soon are passed over: false.
+    bool ring();
+    void set_visual_bell(VisualBell bell) { visual_bell_ = bell; }
 
   private:
     void fill_menu(const std::string& link);
@@ -38,9 +42,13 @@ class PaneWidget final : public QWidget {
     TerminalView* view_;
     TerminalFindBar* find_bar_;
     TerminalPane::Events events_;
+    VisualBell visual_bell_ = VisualBell::on;
+    QElapsedTimer since_bell_;
 };
 
 namespace {
+
+constexpr int bell_interval_milliseconds = 500;
 
 void call(const std::function<void()>& callback) {
     if (callback) {
@@ -93,7 +101,7 @@ PaneWidget::PaneWidget(QWidget* parent)
         {.changed = [this] { view_->content_changed(); },
          .bell =
              [this] {
-                 if (view_->ring()) {
+                 if (ring()) {
                      call(events_.bell);
                  }
              },
@@ -103,6 +111,18 @@ PaneWidget::PaneWidget(QWidget* parent)
          .resized = [this] { view_->follow_size(); },
          .window_requested = [this](const terminal::WindowRequest& request) { view_->perform(request); }});
     session_.set_window_source([this] { return view_->window_geometry(); });
+}
+
+bool PaneWidget::ring() {
+    if (since_bell_.isValid() && !since_bell_.hasExpired(bell_interval_milliseconds)) {
+        return false;
+    }
+    since_bell_.start();
+    QApplication::beep();
+    if (visual_bell_ == VisualBell::on) {
+        view_->flash();
+    }
+    return true;
 }
 
 void PaneWidget::fill_menu(const std::string& link) {
@@ -118,7 +138,7 @@ void PaneWidget::fill_menu(const std::string& link) {
     if (!link.empty()) {
         add("Open Link...", "", [this, link] { offer_link(view_, link); });
         add("Copy Link Address", "",
-            [link] { QGuiApplication::clipboard()->setText(to_qstring(link), QClipboard::Clipboard); });
+            [link] { QApplication::clipboard()->setText(to_qstring(link), QClipboard::Clipboard); });
         menu.addSeparator();
     }
     add("Copy", "Ctrl+Shift+C", [this] { view_->copy(); })->setEnabled(!view_->selection().empty());
@@ -162,9 +182,9 @@ void TerminalPane::permit(const terminal::Permissions& permissions) { pane_->ses
 
 void TerminalPane::clear() { pane_->session().clear(); }
 
-void TerminalPane::ring_bell() { pane_->view().ring(); }
+bool TerminalPane::ring_bell() { return pane_->ring(); }
 
-void TerminalPane::set_visual_bell(VisualBell bell) { pane_->view().set_visual_bell(bell); }
+void TerminalPane::set_visual_bell(VisualBell bell) { pane_->set_visual_bell(bell); }
 
 TerminalPane::CurrentLine TerminalPane::current_line() {
     pane_->session().await_echo();

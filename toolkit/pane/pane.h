@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "terminal/input.h"
 #include "terminal/pty.h"
 #include "terminal/terminal.h"
 #include "toolkit/font.h"
+#include "toolkit/pane/key_event.h"
 #include "toolkit/panel.h"
 
 #include <cstdint>
@@ -16,23 +16,6 @@
 
 class PaneWidget;
 class QWidget;
-
-/// A key pressed or released in a terminal pane.
-struct KeyEvent {
-    enum class Kind : std::uint8_t { press, release };
-    Kind kind = Kind::press;
-    bool repeated = false;                    ///< made by holding the key down
-    terminal::Key key = terminal::Key::none;  ///< none: a key that types its text
-    terminal::Modifiers modifiers;
-    std::string text;  ///< what the key types (UTF-8), before control and alt are applied: "c" for Ctrl+C
-
-    /// Whether this is that letter with control and nothing else.
-    [[nodiscard]] bool is_control(char letter) const {
-        return key == terminal::Key::none && text.size() == 1 && text.front() == letter &&
-               modifiers == terminal::Modifiers{.control = true};
-    }
-    bool operator==(const KeyEvent&) const = default;
-};
 
 /// Whether a bell makes the pane flash; it sounds in either case.
 enum class VisualBell : std::uint8_t { off, on };
@@ -53,7 +36,8 @@ class TerminalPane {
     void permit(const terminal::Permissions& permissions);
     /// Empties the text, with the scrollback.
     void clear();
-    void ring_bell();
+    /// False for a bell that follows too soon on another: it is passed over.
+    bool ring_bell();
     void set_visual_bell(VisualBell bell);
 
     /// The logical line that the insertion point is on, as far as it has been shown.

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "toolkit/pane/reader.h"
 
-#include "toolkit/pane/view.h"
-
 #include <QAccessible>
 
 #include <algorithm>
@@ -251,7 +249,7 @@ QString TerminalReader::text_from(const Text& text, std::int64_t place) {
     return result;
 }
 
-void TerminalReader::tell_changes(TerminalView& view) {
+void TerminalReader::tell_changes(QObject& view, const terminal::Range& selection) {
     if (!QAccessible::isActive()) {
         told_ = {};
         lost_.clear();
@@ -259,10 +257,10 @@ void TerminalReader::tell_changes(TerminalView& view) {
     }
     Text& text = refresh();
     tell_text(view, text);
-    tell_caret_and_selection(view);
+    tell_caret_and_selection(view, selection);
 }
 
-void TerminalReader::tell_text(TerminalView& view, Text& text) {
+void TerminalReader::tell_text(QObject& view, Text& text) {
     const bool alternate = terminal_.modes().alternate_screen;
     const std::int64_t base = text.lines.empty() ? 0 : text.lines.front().start;
     const bool comparable = told_.valid && told_.alternate == alternate && base <= told_.tail_start;
@@ -305,15 +303,14 @@ void TerminalReader::tell_text(TerminalView& view, Text& text) {
     told_.tail = text_from(text, told_.tail_start);
 }
 
-void TerminalReader::tell_caret_and_selection(TerminalView& view) {
+void TerminalReader::tell_caret_and_selection(QObject& view, const terminal::Range& selection) {
     if (const int place = caret(); place != told_.caret) {
         told_.caret = place;
         QAccessibleTextCursorEvent event(&view, place);
         QAccessible::updateAccessibility(&event);
     }
-    const terminal::Range range = view.selection().range();
-    const int begin = range.empty() ? 0 : offset_of(range.begin);
-    const int end = range.empty() ? 0 : offset_of(range.end);
+    const int begin = selection.empty() ? 0 : offset_of(selection.begin);
+    const int end = selection.empty() ? 0 : offset_of(selection.end);
     if (begin != told_.selection_begin || end != told_.selection_end) {
         told_.selection_begin = begin;
         told_.selection_end = end;

@@ -8,7 +8,7 @@
 #include <cstdint>
 #include <deque>
 
-class TerminalView;
+class QObject;
 
 /// A terminal's text as assistive tools read it: logical lines of scrollback and screen with a line feed
 /// between them, no blanks at the ends of lines but before the insertion point, up to the later of the last
@@ -32,8 +32,9 @@ class TerminalReader {
     [[nodiscard]] int offset_of(terminal::Position position);
     [[nodiscard]] terminal::Position position_of(int offset);
 
-    /// Tells assistive tools, if there are any, what has changed since they were last told.
-    void tell_changes(TerminalView& view);
+    /// Tells assistive tools, if there are any, what has changed in the view and its selection since they
+    /// were last told.
+    void tell_changes(QObject& view, const terminal::Range& selection);
 
   private:
     /// A logical line. `start` counts from the beginning of all text, what is gone from the scrollback
@@ -69,8 +70,8 @@ class TerminalReader {
     void drop_blank_lines(Text& text);
     [[nodiscard]] StoredLine read_line(terminal::RowId first) const;
     [[nodiscard]] static std::deque<StoredLine>::const_iterator line_of(const Text& text, std::int64_t place);
-    void tell_text(TerminalView& view, Text& text);
-    void tell_caret_and_selection(TerminalView& view);
+    void tell_text(QObject& view, Text& text);
+    void tell_caret_and_selection(QObject& view, const terminal::Range& selection);
     [[nodiscard]] static QString text_from(const Text& text, std::int64_t place);
 
     const terminal::Terminal& terminal_;

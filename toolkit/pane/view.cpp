@@ -161,7 +161,7 @@ void TerminalView::frame() {
         return;
     }
     refresh();
-    reader_->tell_changes(*this);
+    reader_->tell_changes(*this, selection_.range());
 }
 
 TerminalView::Picture TerminalView::picture_of(RowId row) const {

@@ -3,8 +3,8 @@
 
 #include "terminal/input.h"
 #include "toolkit/pane/font.h"
+#include "toolkit/pane/key_event.h"
 #include "toolkit/pane/painter.h"
-#include "toolkit/pane/pane.h"
 #include "toolkit/pane/selection.h"
 #include "toolkit/pane/session.h"
 
@@ -13,6 +13,7 @@
 #include <QTimer>
 #include <QWidget>
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -40,10 +41,8 @@ class TerminalView final : public QWidget {
 
     /// The terminal has changed: it is painted with the next frame.
     void content_changed();
-    /// A sound, and a short flash unless that is switched off. Bells that follow too soon are passed over:
-    /// false.
-    bool ring();
-    void set_visual_bell(VisualBell bell) { visual_bell_ = bell; }
+    /// Flashes shortly, in the margin round the text.
+    void flash();
 
     [[nodiscard]] const terminal::Terminal& terminal() const { return session_.terminal(); }
     [[nodiscard]] QSize sizeHint() const override;
@@ -211,9 +210,7 @@ class TerminalView final : public QWidget {
     terminal::Position cursor_place_;  ///< as last seen, and whether it blinked
     bool cursor_blinks_ = false;
     QBasicTimer text_blink_timer_;
-    VisualBell visual_bell_ = VisualBell::on;
     QBasicTimer flash_timer_;
-    QElapsedTimer since_bell_;
     QBasicTimer drag_timer_;
     MouseState mouse_;
     std::optional<QPointF> pointer_;  ///< while it is over the view

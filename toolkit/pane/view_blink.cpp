@@ -14,7 +14,6 @@ namespace {
 constexpr int cursor_blink_limit_milliseconds = 10'000;
 constexpr int text_blink_milliseconds = 600;
 constexpr int flash_milliseconds = 120;
-constexpr int bell_interval_milliseconds = 500;
 
 }  // namespace
 
@@ -81,17 +80,9 @@ void TerminalView::blink_text() {
     }
 }
 
-bool TerminalView::ring() {
-    if (since_bell_.isValid() && !since_bell_.hasExpired(bell_interval_milliseconds)) {
-        return false;
-    }
-    since_bell_.start();
-    QApplication::beep();
-    if (visual_bell_ == VisualBell::on) {
-        flash_timer_.start(flash_milliseconds, this);
-        update(flash_area());
-    }
-    return true;
+void TerminalView::flash() {
+    flash_timer_.start(flash_milliseconds, this);
+    update(flash_area());
 }
 
 /// A frame in the margin round the text, which need not be painted anew.
