@@ -12,6 +12,7 @@
 
 #include <sys/types.h>
 #include <termios.h>
+#include <unistd.h>
 
 namespace terminal {
 
@@ -63,6 +64,8 @@ class Pty {
     [[nodiscard]] std::string control_characters() const;
     /// Whether a program reads lines (ICANON): the kernel then cuts a line at 4,095 bytes.
     [[nodiscard]] bool reads_lines() const;
+    /// The process group in the terminal's foreground; none (0 or -1) where no program has it.
+    [[nodiscard]] pid_t foreground_group() const { return tcgetpgrp(master_); }
     /// Whether what is typed is shown (ECHO): not while a program asks for a password.
     [[nodiscard]] bool echoes() const;
 

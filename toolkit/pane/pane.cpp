@@ -3,6 +3,7 @@
 
 #include "terminal/text.h"
 #include "toolkit/pane/accessible.h"
+#include "toolkit/pane/colour_name.h"
 #include "toolkit/pane/colours.h"
 #include "toolkit/pane/find_bar.h"
 #include "toolkit/pane/link_notice.h"
@@ -109,8 +110,15 @@ PaneWidget::PaneWidget(QWidget* parent)
          .ended = [this] { call(events_.ended); },
          .restarted = [this] { call(events_.restarted); },
          .resized = [this] { view_->follow_size(); },
-         .window_requested = [this](const terminal::WindowRequest& request) { view_->perform(request); }});
-    session_.set_window_source([this] { return view_->window_geometry(); });
+         .window_requested = [this](const terminal::WindowRequest& request) { view_->perform(request); },
+         .selection_written =
+             [](TerminalSession::Selection selection, const std::string& text) {
+                 const bool clipboard = selection == TerminalSession::Selection::clipboard;
+                 QApplication::clipboard()->setText(
+                     to_qstring(text), clipboard ? QClipboard::Clipboard : QClipboard::Selection);
+             }});
+    session_.set_surroundings(
+        {.window = [this] { return view_->window_geometry(); }, .named_colour = x_colour});
 }
 
 bool PaneWidget::ring() {

@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "terminal/pty.h"
+
+#include <QElapsedTimer>
+#include <QObject>
+#include <QSocketNotifier>
+#include <QTimer>
+
+#include <functional>
+#include <memory>
+#include <string_view>
+
+/// Moves bytes between a program on a pty and its terminal: what the program writes in bounded slices of the
+/// event loop's time, so that keys and painting get their turn; what it is to read as fast as it takes it.
+class PtyStream final : public QObject {
+  public:
+    /// What it tells its owner, from the event loop or from `await_echo`.
+    struct Events {
+        std::function<void(std::string_view)> output;  ///< some of what the program has written
+        std::function<void()> slice_read;              ///< the output of a slice has been given
+        std::function<void()> hung_up;                 ///< nobody holds the terminal open just now
+    };
+
+    PtyStream(std::unique_ptr<terminal::Pty> pty, Events events);
+
+    [[nodiscard]] terminal::Pty& pty() { return *pty_; }
+    /// Closes the pty and tells nothing more. Nothing but destroying it may follow, and not from an event.
+    void close();
+
+    /// Queues bytes for the program, in order and without loss.
+    void write(std::string_view bytes);
+    /// The same for a key, which the program is expected to answer.
+    void type(std::string_view bytes);
+    /// The same for the terminal's own answers: they are dropped where a program asks and asks and does not
+    /// read them.
+    void reply(std::string_view bytes);
+
+    /// Reads what the program has written, and what it is about to echo of the last key typed. Waits at most
+    /// some milliseconds, and only when nothing has been read since that key.
+    void await_echo();
+    /// The program has not answered the last key yet.
+    [[nodiscard]] bool echo_is_due() const { return echo_due_; }
+    /// Reads the last words of a program that has ended. Jobs it left behind must not keep us here.
+    void read_last_words();
+
+  private:
+    void read_slice();
+    void write_pending();
+
+    std::unique_ptr<terminal::Pty> pty_;
+    Events events_;
+    QSocketNotifier readable_;
+    QSocketNotifier writable_;
+    QTimer hung_up_;  ///< looks after a program that has closed its terminal but not ended
+    QElapsedTimer since_key_;
+    bool echo_due_ = false;  ///< a key was typed and nothing has been read since
+};
