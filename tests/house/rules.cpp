@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <array>
 #include <functional>
+#include <map>
 #include <regex>
 #include <set>
 #include <string_view>
@@ -102,36 +103,57 @@ void check_includes(const SourceFile& file, Faults& faults) {
     }
 }
 
-/// Walks the includes in depth and reports each way that leads back to a header it came through.
+/// A header and its source: what one of them includes, both depend on.
+std::string module_of(const std::string& path) {
+    return std::filesystem::path(path).replace_extension().string();
+}
+
+using Modules = std::map<std::string, std::set<std::string>>;
+
+Modules modules_of(const SourceTree& tree) {
+    Modules modules;
+    for (const auto& [path, file] : tree) {
+        const std::string module = module_of(path);
+        for (const Include& include : file.includes) {
+            if (module_of(include.header) != module) {
+                modules[module].insert(module_of(include.header));
+            }
+        }
+    }
+    return modules;
+}
+
+/// Walks the includes in depth and reports each way that leads back to a module it came through.
 class CycleSearch {
   public:
-    CycleSearch(const SourceTree& tree, Faults& faults) : tree_(tree), faults_(faults) {}
+    CycleSearch(const Modules& modules, Faults& faults) : modules_(modules), faults_(faults) {}
 
-    void visit(const std::string& path) {
-        if (const auto seen = std::ranges::find(way_, path); seen != way_.end()) {
+    void visit(const std::string& module) {
+        if (const auto seen = std::ranges::find(way_, module); seen != way_.end()) {
             report(seen);
             return;
         }
-        if (!done_.insert(path).second) {
+        const auto found = modules_.find(module);
+        if (found == modules_.end() || !done_.insert(module).second) {
             return;
         }
-        way_.push_back(path);
-        for (const Include& include : tree_.at(path).includes) {
-            visit(include.header);
+        way_.push_back(module);
+        for (const std::string& included : found->second) {
+            visit(included);
         }
         way_.pop_back();
     }
 
   private:
     void report(std::vector<std::string>::const_iterator first) {
-        std::string text = "include cycle";
+        std::string text = *first + ": include cycle";
         for (auto step = first; step != way_.end(); ++step) {
             text += ' ' + *step + " ->";
         }
-        faults_.push_back(at(tree_.at(*first), 1, text + ' ' + *first));
+        faults_.push_back(text + ' ' + *first);
     }
 
-    const SourceTree& tree_;
+    const Modules& modules_;
     Faults& faults_;
     std::vector<std::string> way_;
     std::set<std::string> done_;
@@ -142,12 +164,15 @@ class CycleSearch {
 std::vector<std::string> house_faults(const std::filesystem::path& tree) {
     const SourceTree sources = read_source_tree(tree);
     Faults faults;
-    CycleSearch cycles(sources, faults);
     for (const auto& [path, file] : sources) {
         check_form(file, faults);
         check_words(file, faults);
         check_includes(file, faults);
-        cycles.visit(path);
+    }
+    const Modules modules = modules_of(sources);
+    CycleSearch cycles(modules, faults);
+    for (const auto& [module, included] : modules) {
+        cycles.visit(module);
     }
     std::ranges::sort(faults);
     return faults;
