@@ -4,6 +4,8 @@
 #include "terminal/style.h"
 
 #include <array>
+#include <optional>
+#include <string_view>
 
 /// The pane's colours: what a program gets that asks for none, and the 16 it can name. On a dark background
 /// all but the two blacks are legible (contrast of 4.5 to 1 and more), and bright white is on each of them.
@@ -39,3 +41,7 @@ inline constexpr Rgb match_background{0xe6, 0xb4, 0x50};
 inline constexpr Rgb match_foreground{0x1d, 0x21, 0x29};
 
 }  // namespace terminal_colours
+
+/// A colour as Xlib reads it (XParseColor): by its name on the X server, or in a device-independent form, as
+/// "rgbi:1/0.5/0" or "CIELab:50/20/20". May ask the server. Nothing for what is none, or without X.
+std::optional<terminal::Rgb> x_colour(std::string_view name);

@@ -3,10 +3,9 @@
 
 #include "terminal/text.h"
 #include "toolkit/pane/accessible.h"
-#include "toolkit/pane/colour_name.h"
 #include "toolkit/pane/colours.h"
 #include "toolkit/pane/find_bar.h"
-#include "toolkit/pane/link_notice.h"
+#include "toolkit/pane/link.h"
 #include "toolkit/pane/session.h"
 #include "toolkit/pane/view.h"
 #include "toolkit/resources.h"

@@ -1,15 +1,21 @@
 // SPDX-License-Identifier: MIT
 #include "toolkit/pane/view.h"
 
+#include "toolkit/pane/keys.h"
 #include "toolkit/pane/reader.h"
+#include "toolkit/text_conversion.h"
 
 #include <QClipboard>
+#include <QContextMenuEvent>
 #include <QFontDatabase>
 #include <QGuiApplication>
+#include <QHelpEvent>
 #include <QMenu>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QScrollBar>
+#include <QToolTip>
+#include <QWheelEvent>
 
 #include <algorithm>
 #include <cmath>
@@ -17,31 +23,28 @@
 using terminal::Position;
 using terminal::RowId;
 
-namespace {
-
-constexpr int frame_milliseconds = 16;
-constexpr int longest_frame_milliseconds = 100;  // where painting is slow
-constexpr terminal::Size smallest{2, 1};
-
-}  // namespace
-
 TerminalView::TerminalView(TerminalSession& session, QScrollBar& scroll_bar, QWidget* parent)
     : QWidget(parent),
       session_(session),
       scroll_bar_(scroll_bar),
-      font_(std::make_unique<TerminalFont>(QFontDatabase::systemFont(QFontDatabase::FixedFont),
-                                           devicePixelRatioF())),
       reader_(std::make_unique<TerminalReader>(session.terminal())),
+      viewport_(session.terminal()),
       selection_(session.terminal()),
+      mouse_(*this, session, viewport_, selection_,
+             {.changed = [this] { content_changed(); },
+              .selected = [this] { publish_selection(); },
+              .paste = [this] { paste(PasteSource::primary); }}),
+      blinking_({.cursor = [this] { content_changed(); },
+                 .text = [this] { blink_text(); },
+                 .flash = [this] { update(flash_area()); }}),
+      frames_([this] { frame(); }),
       menu_(new QMenu(this)) {
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_OpaquePaintEvent);
     setAttribute(Qt::WA_InputMethodEnabled);
     setMouseTracking(true);
     setCursor(Qt::IBeamCursor);
-    frame_timer_.setSingleShot(true);
-    frame_timer_.setTimerType(Qt::PreciseTimer);
-    connect(&frame_timer_, &QTimer::timeout, this, [this] { frame(); });
+    set_terminal_font(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     settle_timer_.setSingleShot(true);
     connect(&settle_timer_, &QTimer::timeout, this, [this] { settle(); });
     connect(&scroll_bar_, &QScrollBar::valueChanged, this,
@@ -54,84 +57,46 @@ TerminalView::~TerminalView() = default;
 
 void TerminalView::set_terminal_font(const QFont& font) {
     font_ = std::make_unique<TerminalFont>(font, devicePixelRatioF());
+    viewport_.set_cell({font_->cell_width(), font_->cell_height()});
     fit_to_size();
     updateGeometry();
     refresh_all();
 }
 
-QSize TerminalView::sizeHint() const {
-    const terminal::Size standard;
-    return {standard.columns * font_->cell_width() + 2 * margin,
-            standard.rows * font_->cell_height() + 2 * margin};
-}
-
-// Geometry.
+QSize TerminalView::sizeHint() const { return viewport_.area_for({}); }
 
 void TerminalView::resizeEvent(QResizeEvent* /*event*/) {
     laid_out_ = true;
+    viewport_.set_area(size());
     fit_to_size();
 }
 
-terminal::Size TerminalView::room_for_text() const {
-    return {std::max(smallest.columns, (width() - 2 * margin) / font_->cell_width()),
-            std::max(smallest.rows, (height() - 2 * margin) / font_->cell_height())};
-}
-
 void TerminalView::fit_to_size() {
-    const terminal::Size size = room_for_text();
+    const terminal::Size size = viewport_.room_for_text();
     if (laid_out_ && size != terminal().size() && !settle_timer_.isActive()) {
         std::vector<Position> anchors(selection_.anchors().begin(), selection_.anchors().end());
-        anchors.insert(anchors.end(), {match_.begin, match_.end, Position{top_row(), 0}});
+        anchors.insert(anchors.end(), {match_.begin, match_.end, Position{viewport_.top_row(), 0}});
         session_.resize(size, size.columns * font_->cell_width(), size.rows * font_->cell_height(), anchors);
         std::copy_n(anchors.begin(), selection_.anchors().size(), selection_.anchors().begin());
         selection_.anchors_moved();
         match_ = {anchors[anchors.size() - 3], anchors[anchors.size() - 2]};
-        view_top_ = anchors.back().row;
+        viewport_.top_row_moved(anchors.back().row);
     }
     refresh_all();
 }
 
-QRect TerminalView::row_area(int line) const {
-    return {0, margin + line * font_->cell_height(), width(), font_->cell_height()};
-}
-
-QRect TerminalView::cell_area(Position position) const {
-    const auto line = static_cast<int>(position.row - top_row());
-    return {margin + position.column * font_->cell_width(), margin + line * font_->cell_height(),
-            font_->cell_width(), font_->cell_height()};
-}
-
-Position TerminalView::position_at(QPointF point) const {
-    const terminal::Size size = terminal().size();
-    const auto cell = [](qreal at, int cell_size, int count) {
-        return std::clamp(static_cast<int>(std::floor((at - margin) / cell_size)), 0, count - 1);
-    };
-    return {top_row() + cell(point.y(), font_->cell_height(), size.rows),
-            cell(point.x(), font_->cell_width(), size.columns)};
-}
-
 // Scrolling.
 
-RowId TerminalView::top_row() const {
-    return follows_output_ ? terminal().screen_top()
-                           : std::clamp(view_top_, terminal().first_row(), terminal().screen_top());
-}
-
 void TerminalView::scroll_to(RowId top) {
-    view_top_ = std::clamp(top, terminal().first_row(), terminal().screen_top());
-    follows_output_ = view_top_ == terminal().screen_top();
+    viewport_.scroll_to(top);
     content_changed();
 }
 
 void TerminalView::scroll_to_bottom() { scroll_to(terminal().screen_top()); }
 
-void TerminalView::scroll_lines(int lines) { scroll_to(top_row() + lines); }
-
 void TerminalView::show_row(RowId row) {
-    const int rows = terminal().size().rows;
-    if (row < top_row() || row >= top_row() + rows) {
-        scroll_to(row - rows / 2);
-    }
+    viewport_.show_row(row);
+    content_changed();
 }
 
 void TerminalView::update_scroll_bar() {
@@ -139,25 +104,14 @@ void TerminalView::update_scroll_bar() {
     const RowId first = terminal().first_row();
     scroll_bar_.setPageStep(terminal().size().rows);
     scroll_bar_.setRange(0, static_cast<int>(terminal().screen_top() - first));
-    scroll_bar_.setValue(static_cast<int>(top_row() - first));
+    scroll_bar_.setValue(static_cast<int>(viewport_.top_row() - first));
 }
 
 // Frames.
 
-void TerminalView::content_changed() {
-    if (frame_timer_.isActive()) {
-        return;
-    }
-    // At least half of the time is for reading what comes.
-    const qint64 interval =
-        std::clamp<qint64>(2 * paint_milliseconds_, frame_milliseconds, longest_frame_milliseconds);
-    const qint64 passed = since_frame_.isValid() ? since_frame_.elapsed() : interval;
-    frame_timer_.start(static_cast<int>(std::max<qint64>(interval - passed, 0)));
-}
-
 void TerminalView::frame() {
     if (session_.update_is_open()) {
-        frame_timer_.start(frame_milliseconds);
+        frames_.put_off();
         return;
     }
     refresh();
@@ -175,7 +129,7 @@ TerminalView::Picture TerminalView::picture_of(RowId row) const {
     };
     const terminal::Row shown = terminal().row(row);
     Picture picture{row, shown.stamp, {}};
-    picture.marks.link = hovered_link_in(shown);
+    picture.marks.link = mouse_.hovered_link_in(shown);
     picture.marks.selection = columns_of(selection_.range());
     picture.marks.match = columns_of(match_);
     const terminal::Cursor cursor = terminal().cursor();
@@ -195,7 +149,7 @@ CursorLook TerminalView::cursor_look() const {
     if (!hasFocus()) {
         return CursorLook::hollow;
     }
-    if (cursor_hidden_ && cursor.blinking) {
+    if (blinking_.cursor_hidden() && cursor.blinking) {
         return CursorLook::none;
     }
     switch (cursor.shape) {
@@ -222,10 +176,10 @@ void TerminalView::repaint_all_if_colours_changed() {
     for (int index = 0; index < palette_size; ++index) {
         colours.push_back(terminal().palette(index));
     }
-    const ScreenLook look{terminal().modes().reverse_video, look_.blink_hidden};
-    if (colours != colours_ || look != look_) {
+    const bool reverse_video = terminal().modes().reverse_video;
+    if (colours != colours_ || reverse_video != reverse_video_) {
         colours_ = std::move(colours);
-        look_ = look;
+        reverse_video_ = reverse_video;
         pictures_.clear();
         update();
     }
@@ -244,7 +198,7 @@ void TerminalView::shift_pictures(RowId top) {
         return;
     }
     const auto lines = static_cast<int>(shift);
-    const QRect area(0, margin, width(), static_cast<int>(rows) * font_->cell_height());
+    const QRect area(0, Viewport::margin, width(), static_cast<int>(rows) * font_->cell_height());
     scroll(0, -lines * font_->cell_height(), area);
     if (lines > 0) {
         std::move(pictures_.begin() + lines, pictures_.end(), pictures_.begin());
@@ -257,16 +211,14 @@ void TerminalView::shift_pictures(RowId top) {
 
 void TerminalView::refresh() {
     if (selection_.drop_if_changed()) {
-        mouse_.selecting = false;
+        mouse_.stop_selecting();
     }
-    if (!follows_output_ && view_top_ >= terminal().screen_top()) {
-        follows_output_ = true;  // the text was cleared
-    }
+    viewport_.keep_to_text();
     update_scroll_bar();
     repaint_all_if_colours_changed();
-    const RowId top = top_row();
+    const RowId top = viewport_.top_row();
     shift_pictures(top);
-    follow_pointer();
+    mouse_.follow_text();
     const auto rows = static_cast<std::size_t>(terminal().size().rows);
     if (pictures_.size() != rows) {
         pictures_.assign(rows, Picture{-1, 0, {}});
@@ -275,10 +227,10 @@ void TerminalView::refresh() {
         Picture picture = picture_of(top + static_cast<RowId>(line));
         if (picture != pictures_[line]) {
             pictures_[line] = std::move(picture);
-            update(row_area(static_cast<int>(line)));
+            update(viewport_.line_area(static_cast<int>(line)));
         }
     }
-    follow_cursor();
+    blinking_.follow_cursor(terminal().cursor(), hasFocus());
 }
 
 void TerminalView::paintEvent(QPaintEvent* event) {
@@ -288,33 +240,109 @@ void TerminalView::paintEvent(QPaintEvent* event) {
     if (pictures_.empty()) {
         refresh();
     }
-    since_frame_.start();
+    frames_.painting_begins();
     QPainter painter(this);
-    TerminalPainter rows(painter, terminal(), *font_, look_);
-    const terminal::Rgb standard = look_.reverse_video ? terminal().foreground() : terminal().background();
+    TerminalPainter rows(painter, terminal(), *font_, look());
+    const terminal::Rgb standard = reverse_video_ ? terminal().foreground() : terminal().background();
     const QColor background(standard.red, standard.green, standard.blue);
     const int columns = terminal().size().columns;
-    const QRect cells(margin, margin, columns * font_->cell_width(),
+    const QRect cells(Viewport::margin, Viewport::margin, columns * font_->cell_width(),
                       static_cast<int>(pictures_.size()) * font_->cell_height());
     for (const QRect& area : event->region() - cells) {
         painter.fillRect(area, background);
     }
     for (std::size_t line = 0; line < pictures_.size(); ++line) {
-        const QRect area = row_area(static_cast<int>(line)) & cells;
+        const QRect area = viewport_.line_area(static_cast<int>(line)) & cells;
         if (!event->region().intersects(area)) {
             continue;
         }
         const Picture& picture = pictures_[line];
         painter.setClipRect(area);
-        rows.draw_row(terminal().row(picture.row), picture.marks, {margin, area.y()}, columns);
+        rows.draw_row(terminal().row(picture.row), picture.marks, {Viewport::margin, area.y()}, columns);
     }
     painter.setClipping(false);
-    if (flash_timer_.isActive()) {
-        const terminal::Rgb colour = terminal().cursor_colour();
-        for (const QRect& area : flash_area()) {
-            painter.fillRect(area, QColor(colour.red, colour.green, colour.blue));
+    if (blinking_.flashes()) {
+        paint_flash(painter);
+    }
+    if (rows.has_blinking_text()) {
+        blinking_.await_text();
+    }
+    frames_.painting_ends();
+}
+
+/// A frame in the margin round the text, which need not be painted anew.
+QRegion TerminalView::flash_area() const {
+    constexpr int thickness = Viewport::margin - 1;
+    return QRegion(rect()) - rect().adjusted(thickness, thickness, -thickness, -thickness);
+}
+
+void TerminalView::paint_flash(QPainter& painter) const {
+    const terminal::Rgb colour = terminal().cursor_colour();
+    for (const QRect& area : flash_area()) {
+        painter.fillRect(area, QColor(colour.red, colour.green, colour.blue));
+    }
+}
+
+/// Goes on while a row in view has text that blinks; not while a program has an update of the screen open.
+void TerminalView::blink_text() {
+    if (session_.update_is_open()) {
+        return;
+    }
+    blinking_.turn_text();
+    bool any = false;
+    for (std::size_t line = 0; line < pictures_.size(); ++line) {
+        const std::span<const terminal::Cell> cells = terminal().row(pictures_[line].row).cells;
+        const bool blinks = std::any_of(cells.begin(), cells.end(), [this](const terminal::Cell& cell) {
+            return terminal().style(cell.style).blink;
+        });
+        if (blinks) {
+            any = true;
+            update(viewport_.line_area(static_cast<int>(line)));
         }
     }
-    await_blink(rows.has_blinking_text());
-    paint_milliseconds_ = since_frame_.elapsed();
+    if (!any) {
+        blinking_.rest_text();
+    }
+}
+
+// The mouse.
+
+void TerminalView::mousePressEvent(QMouseEvent* event) { mouse_.press(*event); }
+void TerminalView::mouseDoubleClickEvent(QMouseEvent* event) { mouse_.press_again(*event); }
+void TerminalView::mouseMoveEvent(QMouseEvent* event) { mouse_.move(*event); }
+void TerminalView::mouseReleaseEvent(QMouseEvent* event) { mouse_.release(*event); }
+
+void TerminalView::wheelEvent(QWheelEvent* event) {
+    const QPoint delta = event->angleDelta();
+    const bool sideways = std::abs(delta.x()) > std::abs(delta.y());
+    if (!sideways) {
+        mouse_.turn_wheel(*event);
+    }
+    event->setAccepted(!sideways);
+}
+
+void TerminalView::leaveEvent(QEvent* event) {
+    mouse_.leave();
+    QWidget::leaveEvent(event);
+}
+
+void TerminalView::contextMenuEvent(QContextMenuEvent* event) {
+    const bool by_mouse = event->reason() == QContextMenuEvent::Mouse;
+    if (by_mouse && !mouse_.is_the_programs(to_modifiers(event->modifiers()))) {
+        show_menu_(event->globalPos());
+    }
+    // The menu key comes as a key.
+    event->accept();
+}
+
+/// The address of a link on one line; one too long for that is seen in full in the notice.
+void TerminalView::show_tool_tip(const QHelpEvent& event) {
+    constexpr qsizetype longest = 120;
+    QString address = visible_text(link_at(event.pos()));
+    if (address.size() > longest) {
+        address = address.left(longest) + QChar(u'\u2026');
+    }
+    const QString text = QStringLiteral("<p style='white-space:pre'>%1<br>Ctrl+click opens it</p>");
+    QToolTip::showText(event.globalPos(), address.isEmpty() ? QString() : text.arg(address.toHtmlEscaped()),
+                       this);
 }

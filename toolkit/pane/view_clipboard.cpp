@@ -31,7 +31,7 @@ void TerminalView::publish_selection() {
 /// What is marked in the pane is what others get: as on xterm, the mark goes when somebody else takes the
 /// primary selection.
 void TerminalView::primary_selection_changed() {
-    if (!publishing_ && !mouse_.selecting) {
+    if (!publishing_ && !mouse_.selecting()) {
         clear_selection();
     }
 }

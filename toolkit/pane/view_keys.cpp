@@ -37,7 +37,7 @@ bool TerminalView::focusNextPrevChild(bool /*next*/) { return false; }
 
 void TerminalView::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Control) {
-        move_pointer(pointer_, event->modifiers() | Qt::ControlModifier);
+        mouse_.control_key(true);
     }
     const KeyEvent pressed = to_key_event(*event);
     KeyEvent key = pressed;
@@ -52,7 +52,7 @@ void TerminalView::keyPressEvent(QKeyEvent* event) {
 
 void TerminalView::keyReleaseEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Control) {
-        move_pointer(pointer_, event->modifiers() & ~Qt::KeyboardModifiers(Qt::ControlModifier));
+        mouse_.control_key(false);
     }
     KeyEvent key = to_key_event(*event);
     if (!key.repeated) {
@@ -116,10 +116,10 @@ bool TerminalView::handle_scroll_key(const QKeyEvent& event) {
     const int page = std::max(1, terminal().size().rows - 1);
     switch (event.key()) {
         case Qt::Key_PageUp:
-            scroll_lines(-page);
+            scroll_to(viewport_.top_row() - page);
             return true;
         case Qt::Key_PageDown:
-            scroll_lines(page);
+            scroll_to(viewport_.top_row() + page);
             return true;
         case Qt::Key_Home:
             scroll_to(terminal().first_row());
@@ -152,7 +152,7 @@ void TerminalView::type_key(const KeyEvent& event) {
         session_.show(bytes);
     }
     scroll_to_bottom();
-    restart_cursor_blinking();
+    blinking_.restart_cursor(terminal().cursor(), hasFocus());
 }
 
 // Input methods and dead keys.
@@ -185,14 +185,11 @@ QVariant TerminalView::inputMethodQuery(Qt::InputMethodQuery query) const {
     }
 }
 
-void TerminalView::focusInEvent(QFocusEvent* /*event*/) {
-    session_.type(terminal::encode_focus(true, terminal().modes()));
-    restart_cursor_blinking();
-    content_changed();
-}
+void TerminalView::focusInEvent(QFocusEvent* /*event*/) { focus_changed(true); }
+void TerminalView::focusOutEvent(QFocusEvent* /*event*/) { focus_changed(false); }
 
-void TerminalView::focusOutEvent(QFocusEvent* /*event*/) {
-    session_.type(terminal::encode_focus(false, terminal().modes()));
-    restart_cursor_blinking();
+void TerminalView::focus_changed(bool has_focus) {
+    session_.type(terminal::encode_focus(has_focus, terminal().modes()));
+    blinking_.restart_cursor(terminal().cursor(), has_focus);
     content_changed();
 }

@@ -17,14 +17,14 @@ terminal::WindowGeometry::Place place(QPoint point) { return {point.x(), point.y
 }  // namespace
 
 terminal::WindowGeometry TerminalView::window_geometry() const {
-    const QSize cell = cell_area({top_row(), 0}).size();
+    const QSize cell = viewport_.cell();
     const terminal::Size size = terminal().size();
     return {.cell = extent(cell),
             .text = {size.columns * cell.width(), size.rows * cell.height()},
             .window = extent(window()->size()),
             .screen = extent(screen()->size()),
             .window_place = place(window()->pos()),
-            .text_place = place(mapToGlobal(cell_area({top_row(), 0}).topLeft())),
+            .text_place = place(mapToGlobal(QPoint(Viewport::margin, Viewport::margin))),
             .iconified = window()->isMinimized()};
 }
 
@@ -32,9 +32,8 @@ terminal::WindowGeometry TerminalView::window_geometry() const {
 /// the terminal keeps its size until the window's user gives it another.
 void TerminalView::follow_size() {
     const terminal::Size size = terminal().size();
-    const QRect corner = cell_area({top_row(), 0});
-    const QSize text(size.columns * corner.width(), size.rows * corner.height());
-    const QSize wanted = text + 2 * QSize(corner.x(), corner.x());
+    const QSize wanted = viewport_.area_for(size);
+    const QSize text = wanted - 2 * QSize(Viewport::margin, Viewport::margin);
     selection_.clear();
     match_ = {};
     settle_timer_.start(settle_milliseconds);
@@ -47,7 +46,7 @@ void TerminalView::follow_size() {
 
 /// The window may have refused, or its user may have resized it meanwhile.
 void TerminalView::settle() {
-    const terminal::Size room = room_for_text();
+    const terminal::Size room = viewport_.room_for_text();
     const terminal::Size size = terminal().size();
     if (this->size() != settled_size_ || room.columns < size.columns || room.rows < size.rows) {
         fit_to_size();

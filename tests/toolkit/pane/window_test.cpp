@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "tests/toolkit/pane/fixture.h"
-#include "toolkit/pane/colour_name.h"
+#include "toolkit/pane/colours.h"
 
 #include <fmt/format.h>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "toolkit/pane/colour_name.h"
+#include "toolkit/pane/colours.h"
 
 #include <QGuiApplication>
 #include <qguiapplication_platform.h>
