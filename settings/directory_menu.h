@@ -26,4 +26,4 @@ struct DirectoryMenu {
     int total = 0;               ///< of entries, hidden ones included
 };
 
-DirectoryMenu read_directory_menu(const std::string& directory, unsigned hide);
+DirectoryMenu read_directory_menu(const std::string& path, unsigned hide);

@@ -30,7 +30,7 @@ void SetupTimer(int milliseconds) {
     if (status_display().display.value() != display_on) {
         return;
     }
-    wtimer.it_value = {.tv_sec = 0, .tv_usec = milliseconds * 1000};
+    wtimer.it_value = {.tv_sec = 0, .tv_usec = suseconds_t{milliseconds} * 1000};
     notify_set_itimer_func(main_window(), DisplayStatusTimer, wtimer);
 }
 

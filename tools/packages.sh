@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-# The Debian and Ubuntu packages this tree needs, in one place; sourced by ./run and ./test.
+# The Debian and Ubuntu packages this tree needs, in one place; sourced by ./run, ./test and tools/tidy.
 # shellcheck shell=bash disable=SC2034
 
 # What builds the program and runs it.
@@ -26,6 +26,9 @@ TEST_PACKAGES=(
     bash tcsh ksh zsh
     procps xclip
 )
+
+# What checks the form of the code.
+TIDY_PACKAGES=(clang-format clang-tidy)
 
 # Prints one line about what is being done.
 say() { printf '%s: %s\n' "${0##*/}" "$*"; }

@@ -19,7 +19,7 @@ struct Case {
     void (*action)();
     std::string selection;
     std::string typed;
-    std::string footer = "";
+    std::string footer;
 };
 
 const Case cases[] = {

@@ -140,7 +140,7 @@ Accessible Program::open(XDisplay& display, std::string_view menu, std::string_v
     if (!choose(display, menu, item)) {
         return {};
     }
-    const Accessible opened = window(title);
+    Accessible opened = window(title);
     (void)wait_until([&] { return opened.active() || !opened.showing(); });  // keys go to it from now on
     return opened;
 }

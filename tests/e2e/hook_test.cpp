@@ -16,9 +16,9 @@ struct Case {
     const char* name;
     std::string shell;
     std::vector<std::string> options;
-    std::string typed;       ///< STATUS stands for the status file's path
-    std::string precmd;      ///< what "Precmd:" shows
-    std::string setup = "";  ///< the setup file
+    std::string typed;   ///< STATUS stands for the status file's path
+    std::string precmd;  ///< what "Precmd:" shows
+    std::string setup;   ///< the setup file
 };
 
 std::ostream& operator<<(std::ostream& out, const Case& row) { return out << row.name; }

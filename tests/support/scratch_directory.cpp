@@ -22,14 +22,14 @@ ScratchDirectory::~ScratchDirectory() {
 }
 
 std::filesystem::path ScratchDirectory::write(std::string_view name, std::string_view content) const {
-    const std::filesystem::path file = path_ / name;
+    std::filesystem::path file = path_ / name;
     std::filesystem::create_directories(file.parent_path());
     std::ofstream(file, std::ios::binary) << content;
     return file;
 }
 
 std::filesystem::path ScratchDirectory::write_script(std::string_view name, std::string_view content) const {
-    const std::filesystem::path file = write(name, content);
+    std::filesystem::path file = write(name, content);
     std::filesystem::permissions(file, std::filesystem::perms::owner_all);
     return file;
 }

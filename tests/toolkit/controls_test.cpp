@@ -80,7 +80,7 @@ TEST_F(Controls, HaveNamesAndRolesForAssistivePrograms) {
         {"Size: 1", QAccessible::StaticText},
     };
     for (const auto& [name, role] : expected) {
-        QWidget* widget = find<QWidget>(name);
+        auto* widget = find<QWidget>(name);
         ASSERT_NE(widget, nullptr) << name;
         const QAccessibleInterface* interface = QAccessible::queryAccessibleInterface(widget);
         EXPECT_EQ(interface->role(), role) << name;

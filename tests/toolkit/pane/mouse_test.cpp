@@ -199,7 +199,7 @@ TEST_F(TerminalMouseTest, WheelScrollsOrSendsArrowsOnTheAlternateScreen) {
     QTest::qWait(0);
     turn_wheel(2);
     EXPECT_EQ(view().position_at({0, 0}).row,
-              view().terminal().screen_top() - 2 * QApplication::wheelScrollLines());
+              view().terminal().screen_top() - 2L * QApplication::wheelScrollLines());
     turn_wheel(-2);
     show_text("\033[?1049h\033[Hready\n");
     turn_wheel(-1);

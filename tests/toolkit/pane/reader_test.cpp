@@ -15,7 +15,7 @@ class TerminalReaderTest : public TerminalFixture {
     [[nodiscard]] std::string part(QAccessible::TextBoundaryType type, int offset) const {
         int begin = 0;
         int end = 0;
-        const std::string found = from_qstring(accessible().textAtOffset(offset, type, &begin, &end));
+        std::string found = from_qstring(accessible().textAtOffset(offset, type, &begin, &end));
         EXPECT_EQ(found, from_qstring(accessible().text(begin, end)));
         return found;
     }
