@@ -28,8 +28,8 @@ Size size_of(std::uint8_t columns, std::uint8_t rows) {
     return {wide, std::min(extent(rows), most_cells / std::max(wide, 1))};
 }
 
-/// A place on the screen or in the scrollback.
-Position place(const Terminal& terminal, std::uint8_t row, std::uint8_t column) {
+/// A position on the screen or in the scrollback.
+Position position(const Terminal& terminal, std::uint8_t row, std::uint8_t column) {
     const RowId rows = terminal.end_row() - terminal.first_row();
     return {terminal.first_row() + row % rows, column % terminal.size().columns};
 }
@@ -43,12 +43,12 @@ Cell cell_at(const Terminal& terminal, Position at) {
     return cell;
 }
 
-/// Another size loses no text, and places stay with theirs. The beginning of a line that was cut at the
+/// Another size loses no text, and positions stay with theirs. The beginning of a line that was cut at the
 /// scrollback's limit may come back.
 void resize(Terminal& terminal, std::uint8_t columns, std::uint8_t rows) {
     const bool primary = !terminal.modes().alternate_screen;
     const std::string text = primary ? all_text(terminal) : "";
-    std::array anchors{place(terminal, rows, columns), terminal.cursor().position};
+    std::array anchors{position(terminal, rows, columns), terminal.cursor().position};
     const Cell anchored = cell_at(terminal, anchors[0]);
     terminal.resize(size_of(columns, rows), anchors);
     if (!primary) {
@@ -58,7 +58,7 @@ void resize(Terminal& terminal, std::uint8_t columns, std::uint8_t rows) {
     require(anchored.glyph == 0 || cell_at(terminal, anchors[0]) == anchored, "an anchor left its text");
 }
 
-/// What is told of a place lies within the rows.
+/// What is told of a position lies within the rows.
 void ask(const Terminal& terminal, Position at) {
     const auto require_place = [&](Position asked) {
         require(asked.row >= terminal.first_row() && asked.row < terminal.end_row(),
@@ -99,7 +99,7 @@ void take_step(Terminal& whole, Terminal& pieces, char step, std::uint8_t first,
             whole.reset();
             return pieces.reset();
         case 'q':
-            return ask(whole, place(whole, first, second));
+            return ask(whole, position(whole, first, second));
         default:
             return;
     }

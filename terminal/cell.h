@@ -3,6 +3,7 @@
 
 #include <compare>
 #include <cstdint>
+#include <vector>
 
 namespace terminal {
 
@@ -35,10 +36,10 @@ struct Cell {
 static_assert(sizeof(Cell) == 8);
 
 /// Number of a row since the terminal began: rows keep their number while they scroll up and into the
-/// scrollback, so that a place in the text stays the same place. Only a resize renumbers.
+/// scrollback, so that a position in the text stays the same. Only a resize renumbers.
 using RowId = std::int64_t;
 
-/// A place in the text. `column` may be one past the row's last cell.
+/// A position in the text. `column` may be one past the row's last cell.
 struct Position {
     RowId row = 0;
     int column = 0;
@@ -51,6 +52,21 @@ struct Range {
     Position end;
     [[nodiscard]] bool empty() const { return begin >= end; }
     bool operator==(const Range&) const = default;
+};
+
+/// Which styles, links and clusters cells have, while those out of use are looked for.
+struct UsedIds {
+    std::vector<bool> styles;
+    std::vector<bool> links;
+    std::vector<bool> clusters;
+
+    void add(const Cell& cell) {
+        styles[cell.style] = true;
+        links[cell.link] = true;
+        if (cell.is_cluster()) {
+            clusters[cell.character()] = true;
+        }
+    }
 };
 
 }  // namespace terminal

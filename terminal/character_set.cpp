@@ -14,7 +14,7 @@ constexpr std::array<char32_t, 32> special_graphics = {
 };
 constexpr char special_graphics_begin = 0x5F;
 
-/// DEC Technical from 2/1 to 7/14 (VT330 manual). Unassigned places, and the pieces of a large summation sign
+/// DEC Technical from 2/1 to 7/14 (VT330 manual). Unassigned codes, and the pieces of a large summation sign
 /// that Unicode lacks, hold the replacement character.
 constexpr std::u32string_view technical =
     U"⎷┌─⌠⌡│⎡⎣⎤⎦⎛⎝⎞⎠⎨⎬\uFFFD\uFFFD\uFFFD\uFFFD\uFFFD\uFFFD\uFFFD\uFFFD\uFFFD\uFFFD\uFFFD≤≠≥∫"
@@ -96,10 +96,10 @@ constexpr Designation designations[] = {
 };
 
 char32_t translate_national(CharacterSet set, char character) {
-    const std::size_t place = replaced.find(character);
+    const std::size_t index = replaced.find(character);
     const auto* const found = std::ranges::find(national_sets, set, &NationalSet::set);
-    const bool is_replaced = place != std::string_view::npos && found != std::end(national_sets);
-    return is_replaced ? found->replacements[place] : static_cast<char32_t>(character);
+    const bool is_replaced = index != std::string_view::npos && found != std::end(national_sets);
+    return is_replaced ? found->replacements[index] : static_cast<char32_t>(character);
 }
 
 }  // namespace
@@ -118,6 +118,14 @@ std::optional<CharacterSet> character_set(std::string_view code, SetSize size, N
 std::string_view designation(CharacterSet set) {
     const auto* const found = std::ranges::find(designations, set, &Designation::set);
     return found == std::end(designations) ? "A" : found->code;  // ISO Latin-1 is of the other size
+}
+
+void CharacterSets::designate(char where, std::string_view code, NationalSets national) {
+    const SetSize size = where >= '-' ? SetSize::of_96 : SetSize::of_94;
+    const auto index = static_cast<std::size_t>(where - (size == SetSize::of_96 ? ',' : '('));
+    if (const auto set = character_set(code, size, national)) {
+        designated[index] = *set;
+    }
 }
 
 char32_t translate(CharacterSet set, char character) {

@@ -48,6 +48,11 @@ struct CharacterSets {
     std::uint8_t right = 2;         ///< by LS1R, LS2R, LS3R
     std::uint8_t single_shift = 0;  ///< for the next character only, by SS2, SS3; 0 for none
 
+    /// `ESC ( F` to `ESC + F` designate sets of 94 characters to G0 to G3, `ESC - F` to `ESC / F` those of 96
+    /// to G1 to G3. `where` is the first intermediate, `code` what follows it; sets that we do not have
+    /// change nothing.
+    void designate(char where, std::string_view code, NationalSets national);
+
     [[nodiscard]] bool plain() const {
         return single_shift == 0 && designated[invoked] == CharacterSet::ascii;
     }

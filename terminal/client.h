@@ -15,7 +15,7 @@ struct WindowGeometry {
         int width = 0;
         int height = 0;
     };
-    struct Place {
+    struct Point {
         int x = 0;
         int y = 0;
     };
@@ -23,8 +23,8 @@ struct WindowGeometry {
     Extent text;  ///< the text area
     Extent window;
     Extent screen;
-    Place window_place;
-    Place text_place;
+    Point window_corner;
+    Point text_corner;
     bool iconified = false;
 };
 
@@ -46,7 +46,7 @@ struct WindowRequest {
         toggle_full_screen,
     };
     Kind kind = Kind::refresh;
-    WindowGeometry::Place place;  ///< for `move`
+    WindowGeometry::Point corner;  ///< for `move`
 };
 
 /// What the engine tells the one who shows it. Called from within `Terminal::write`; must not call back into

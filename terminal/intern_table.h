@@ -49,7 +49,7 @@ class InternTable {
     /// any.
     [[nodiscard]] bool wants_collection() const { return size() >= capacity_ && refused_ >= patience_; }
 
-    /// Frees all numbers whose place in `used` is false.
+    /// Frees all numbers for which `used` is false.
     void retain(const std::vector<bool>& used) {
         std::vector<bool> taken(used);
         taken.resize(values_.size(), false);
@@ -92,11 +92,11 @@ class InternTable {
             }
             rebuild(slots_.size() * 2, taken);
         } else {
-            place(id);
+            enter(id);
         }
         return id;
     }
-    void place(Id id) {
+    void enter(Id id) {
         std::size_t slot = first_slot(values_[id]);
         while (slots_[slot] != empty_slot) {
             slot = next(slot);
@@ -107,7 +107,7 @@ class InternTable {
         slots_.assign(slot_count, empty_slot);
         for (std::size_t id = 0; id < values_.size(); ++id) {
             if (taken[id]) {
-                place(static_cast<Id>(id));
+                enter(static_cast<Id>(id));
             }
         }
     }

@@ -35,7 +35,7 @@ class Parameters {
     [[nodiscard]] int get(std::size_t index, int fallback = 0) const {
         return index < size_ && values_[index] != missing ? values_[index] : fallback;
     }
-    /// The value as a count or a place: missing and 0 mean 1.
+    /// The value as a count or a coordinate: missing and 0 mean 1.
     [[nodiscard]] int count(std::size_t index) const { return std::max(get(index, 1), 1); }
     /// Whether a colon stands before it: it belongs to the parameter before.
     [[nodiscard]] bool is_sub(std::size_t index) const { return index < size_ && joined_[index]; }

@@ -18,7 +18,7 @@ namespace terminal {
 /// A control function as it was read: `ESC I... F`, `CSI prefix P... I... F` or the head of a DCS.
 struct ControlFunction {
     char prefix = 0;                                    ///< one of < = > ?, or 0
-    std::array<char, max_intermediates> intermediates;  ///< unused places hold 0
+    std::array<char, max_intermediates> intermediates;  ///< the unused ones hold 0
     std::uint8_t intermediate_count = 0;                ///< may count more than are kept
     char final = 0;
     Parameters parameters;

@@ -84,14 +84,14 @@ class Terminal::Flow {
 
 std::vector<Mark> Terminal::marks(std::span<const Position> positions) const {
     std::vector<Mark> result;
-    for (const Position& place : positions) {
-        if (place.row < scrollback_.end_row()) {
-            const bool exists = place.row >= scrollback_.begin_row();
-            result.push_back(exists ? scrollback_.mark(place) : Mark{});
+    for (const Position& position : positions) {
+        if (position.row < scrollback_.end_row()) {
+            const bool exists = position.row >= scrollback_.begin_row();
+            result.push_back(exists ? scrollback_.mark(position) : Mark{});
             continue;
         }
-        const int row = static_cast<int>(std::min<RowId>(place.row - primary_.top(), size().rows - 1));
-        Mark mark{0, place.column};
+        const int row = static_cast<int>(std::min<RowId>(position.row - primary_.top(), size().rows - 1));
+        Mark mark{0, position.column};
         if (primary_.wrapped(row)) {
             mark.offset = std::min<std::int64_t>(mark.offset, std::ssize(primary_.cells(row)));
         }
@@ -109,8 +109,8 @@ std::vector<Mark> Terminal::marks(std::span<const Position> positions) const {
 
 /// Where the text of a mark is now. The column may be one past the last, at the end of a full row.
 Position Terminal::position(Mark mark) const {
-    if (const auto place = scrollback_.find(mark)) {
-        return *place;
+    if (const auto position = scrollback_.find(mark)) {
+        return *position;
     }
     int row = 0;
     for (; mark.line > 0 && row < size().rows - 1; ++row) {
@@ -132,7 +132,7 @@ void Terminal::resize(Size wanted, std::span<Position> anchors) {
     if (is_alternate()) {
         resize_alternate(wanted);
     }
-    reset_tabs(before.columns);
+    tabs_.resize(wanted.columns);
     reset_margins();
     epoch_ = ++clock_;
     finish();
@@ -140,23 +140,23 @@ void Terminal::resize(Size wanted, std::span<Position> anchors) {
 
 /// Lays the primary screen out anew. Its cursor is the saved one while the alternate screen is shown.
 void Terminal::resize_primary(Size wanted, std::span<Position> anchors) {
-    CursorState& cursor = is_alternate() ? saved_[0].place : cursor_;
-    CursorState& saved_cursor = saved_[0].place;
-    std::vector<Position> places(anchors.begin(), anchors.end());
+    CursorState& cursor = is_alternate() ? saved_[0].cursor : cursor_;
+    CursorState& saved_cursor = saved_[0].cursor;
+    std::vector<Position> positions(anchors.begin(), anchors.end());
     for (const CursorState* const state : {&cursor, &saved_cursor}) {
-        places.push_back({primary_.top() + state->row, state->column + (state->wrap_pending ? 1 : 0)});
+        positions.push_back({primary_.top() + state->row, state->column + (state->wrap_pending ? 1 : 0)});
     }
-    const std::vector<Mark> places_marks = marks(places);
+    const std::vector<Mark> all_marks = marks(positions);
 
     flow_primary(wanted, cursor.row);
 
     for (std::size_t i = 0; i < anchors.size(); ++i) {
         if (anchors[i].row < alternate_.top() || !is_alternate()) {
-            anchors[i] = position(places_marks[i]);
+            anchors[i] = position(all_marks[i]);
         }
     }
-    cursor = cursor_at(position(places_marks[anchors.size()]));
-    saved_cursor = cursor_at(position(places_marks[anchors.size() + 1]));
+    cursor = cursor_at(position(all_marks[anchors.size()]));
+    saved_cursor = cursor_at(position(all_marks[anchors.size() + 1]));
 }
 
 /// Rows below the text and the cursor are given up first when the screen gets lower. When it gets higher,
@@ -201,12 +201,12 @@ void Terminal::flow_primary(Size wanted, int cursor_row) {
     }
 }
 
-/// A cursor at a place of the primary screen. Behind a full row a wrap is pending.
-Terminal::CursorState Terminal::cursor_at(Position place) const {
-    const int row = static_cast<int>(std::max<RowId>(place.row - primary_.top(), 0));
+/// A cursor at a position of the primary screen. Behind a full row a wrap is pending.
+Terminal::CursorState Terminal::cursor_at(Position position) const {
+    const int row = static_cast<int>(std::max<RowId>(position.row - primary_.top(), 0));
     const int columns = size().columns;
-    if (place.column < columns) {
-        return {row, place.column, false};
+    if (position.column < columns) {
+        return {row, position.column, false};
     }
     return {row, columns - 1, std::ssize(primary_.cells(row)) == columns};
 }
@@ -216,9 +216,9 @@ void Terminal::resize_alternate(Size wanted) {
     const int drop_top = std::max(cursor_.row - wanted.rows + 1, 0);
     alternate_.resize_fixed(wanted, drop_top);
     move_to(cursor_.row - drop_top, cursor_.column);
-    CursorState& saved_place = saved_[1].place;
-    saved_place = {std::min(saved_place.row, wanted.rows - 1),
-                   std::min(saved_place.column, wanted.columns - 1), false};
+    CursorState& saved_cursor = saved_[1].cursor;
+    saved_cursor = {std::min(saved_cursor.row, wanted.rows - 1),
+                    std::min(saved_cursor.column, wanted.columns - 1), false};
 }
 
 }  // namespace terminal

@@ -194,7 +194,7 @@ void Screen::clear(Line& line, Cell blank) {
     touch(line);
 }
 
-/// Moves the rows `top` up to `bottom` up by `count` places, round the end.
+/// Moves the rows `top` up to `bottom` up by `count`, round the end.
 void Screen::rotate(int top, int bottom, int count) {
     const int height = bottom - top;
     scratch_.clear();

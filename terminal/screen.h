@@ -14,7 +14,7 @@ namespace terminal {
 
 /// The character positions of one screen, and what can be done to them; knows no cursor and no modes. Rows
 /// are a ring of headers over a block of cells, so that scrolling moves no cell. A row has cells up to the
-/// last one written; what is behind is blank. Places are the caller's to keep within the size, counts need
+/// last one written; what is behind is blank. Positions are the caller's to keep within the size, counts need
 /// not be. Wide characters that are hit by half are blanked.
 class Screen {
   public:
@@ -91,7 +91,7 @@ class Screen {
     void split(Line& line, int column);
     void open_gap(Line& line, int from, int to);
     /// The cells of a line whose cells between `column` and `right` are about to move apart or together at
-    /// `seam`: wide characters across these places are erased first.
+    /// `seam`: wide characters across these edges are erased first.
     Cell* opened(Line& line, int column, int right, int seam);
     void written(Line& line, int end);
     void clear(Line& line, Cell blank);

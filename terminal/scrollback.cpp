@@ -45,14 +45,6 @@ std::uint64_t attributes(const Cell& cell) {
 
 }  // namespace
 
-void UsedIds::add(const Cell& cell) {
-    styles[cell.style] = true;
-    links[cell.link] = true;
-    if (cell.is_cluster()) {
-        clusters[cell.character()] = true;
-    }
-}
-
 Scrollback::Scrollback(std::size_t row_limit, int columns)
     : row_limit_(std::min(row_limit, max_scrollback_rows)), columns_(columns) {}
 

@@ -13,20 +13,12 @@
 
 namespace terminal {
 
-/// A place told by the text alone, so that it outlives a reflow: the number of logical lines before it, and
-/// of cells before it in its line.
+/// A position told by the text alone, so that it outlives a reflow: the number of logical lines before it,
+/// and of cells before it in its line.
 struct Mark {
     std::int64_t line = 0;
     std::int64_t offset = 0;
     bool operator==(const Mark&) const = default;
-};
-
-/// Which numbers of the intern tables are in use, while the unused ones are collected.
-struct UsedIds {
-    std::vector<bool> styles;
-    std::vector<bool> links;
-    std::vector<bool> clusters;
-    void add(const Cell& cell);
 };
 
 /// The rows that left the screen at its top. Kept as logical lines in UTF-8 with runs of attributes, a byte
@@ -92,7 +84,7 @@ class Scrollback {
         [[nodiscard]] bool is_ascii() const { return bytes == cells && !wide; }
     };
     static_assert(sizeof(Piece) == 40);
-    /// A place within a piece.
+    /// A position within a piece.
     struct Spot {
         int cell;
         int byte;

@@ -72,18 +72,18 @@ class SearchLine {
     [[nodiscard]] RowId end() const { return first_ + std::ssize(rows_); }
     [[nodiscard]] std::string_view text() const { return text_; }
 
-    /// Where a place is in the text.
-    [[nodiscard]] std::size_t offset(Position place) const {
-        const std::size_t begin = rows_[static_cast<std::size_t>(place.row - first_)];
+    /// Where a position is in the text.
+    [[nodiscard]] std::size_t offset(Position position) const {
+        const std::size_t begin = rows_[static_cast<std::size_t>(position.row - first_)];
         std::string before;
-        const Row row = terminal_.row(place.row);
-        const auto count = std::min<std::ptrdiff_t>(std::max(place.column, 0), std::ssize(row.cells));
+        const Row row = terminal_.row(position.row);
+        const auto count = std::min<std::ptrdiff_t>(std::max(position.column, 0), std::ssize(row.cells));
         std::ranges::for_each(row.cells.first(static_cast<std::size_t>(count)),
                               [&](const Cell& cell) { append(cell, before); });
         return begin + before.size();
     }
-    /// The place whose character holds the byte at `offset`, and the place behind that character.
-    [[nodiscard]] Range place(std::size_t offset) const {
+    /// The position whose character holds the byte at `offset`, and the one behind that character.
+    [[nodiscard]] Range character_at(std::size_t offset) const {
         const auto after = std::ranges::upper_bound(rows_, offset);
         const auto index = static_cast<std::size_t>(after - rows_.begin()) - 1;
         const RowId id = first_ + static_cast<RowId>(index);
@@ -123,7 +123,7 @@ class SearchLine {
 };
 
 Range found(const SearchLine& line, std::size_t offset, std::size_t size) {
-    return {line.place(offset).begin, line.place(offset + size - 1).end};
+    return {line.character_at(offset).begin, line.character_at(offset + size - 1).end};
 }
 
 std::optional<Range> find_forward(const Terminal& terminal, SearchLine& line, std::string_view needle,

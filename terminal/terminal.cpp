@@ -10,8 +10,8 @@ namespace terminal {
 
 namespace {
 
-/// Rows of the alternate screen are numbered from here on, so that a place on one screen is never taken for
-/// one on the other.
+/// Rows of the alternate screen are numbered from here on, so that a position on one screen is never taken
+/// for one on the other.
 constexpr RowId alternate_top = RowId{1} << 40;
 
 }  // namespace
@@ -22,13 +22,11 @@ Terminal::Terminal(const Options& options, Client& client)
       primary_(within_limits(options.size), 0, clock_),
       alternate_({min_columns, min_rows}, alternate_top, clock_),
       margins_(primary_.all()),
-      styles_(max_styles, Style{}),
-      links_(max_links, Link{}),
-      clusters_(max_clusters, std::string{}),
+      tabs_(size().columns),
+      colours_([&client](std::string_view name) { return client.named_colour(name); }),
+      tables_([this](UsedIds& used) { add_used(used); }),
       parser_(*this),
-      local_parser_(*this) {
-    reset_tabs(0);
-}
+      local_parser_(*this) {}
 
 void Terminal::write(std::string_view bytes) {
     parser_.feed(bytes);
@@ -89,7 +87,7 @@ Row Terminal::row(RowId id) const {
 
 void Terminal::append_text(const Cell& cell, std::string& out) const {
     if (cell.is_cluster()) {
-        out += clusters_[cell.character()];
+        out += tables_.cluster(cell.character());
     } else if (cell.character() != 0) {
         append_utf8(cell.character(), out);
     } else if (!cell.is_wide_tail()) {
@@ -99,7 +97,7 @@ void Terminal::append_text(const Cell& cell, std::string& out) const {
 
 void Terminal::set_standard_colours(Rgb foreground, Rgb background, Rgb cursor,
                                     std::span<const Rgb> palette) {
-    palette_.set_standard(foreground, background, cursor, palette);
+    colours_.palette().set_standard(foreground, background, cursor, palette);
     palette_changed();
 }
 
@@ -119,7 +117,7 @@ bool Terminal::is_wholly_consistent() const {
             return false;
         }
     }
-    return is_consistent() && tabs_.size() == static_cast<std::size_t>(size().columns) &&
+    return is_consistent() && tabs_.columns() == size().columns &&
            scrollback_.begin_row() <= scrollback_.end_row();
 }
 

@@ -2,16 +2,19 @@
 #pragma once
 
 #include "terminal/cell.h"
+#include "terminal/cell_tables.h"
 #include "terminal/character_set.h"
 #include "terminal/client.h"
+#include "terminal/colours.h"
 #include "terminal/geometry.h"
-#include "terminal/intern_table.h"
 #include "terminal/modes.h"
-#include "terminal/palette.h"
 #include "terminal/parser.h"
+#include "terminal/pen.h"
 #include "terminal/screen.h"
 #include "terminal/scrollback.h"
 #include "terminal/style.h"
+#include "terminal/tab_stops.h"
+#include "terminal/titles.h"
 
 #include <array>
 #include <cstddef>
@@ -57,20 +60,6 @@ struct Cursor {
     bool wrap_pending = false;  ///< the last column was written: the insertion point stands behind it
 };
 
-struct StyleHash {
-    std::size_t operator()(const Style& style) const;
-};
-
-/// An OSC 8 link: cells with the same one are highlighted together.
-struct Link {
-    std::string id;
-    std::string address;
-    bool operator==(const Link&) const = default;
-};
-struct LinkHash {
-    std::size_t operator()(const Link& link) const;
-};
-
 /// A video terminal after DEC's VT220 to VT420 and xterm: bytes go in, a screen with its scrollback is there
 /// to be shown. Keeps cursor, modes and tables, and acts on the screen and the scrollback as the parser
 /// reads. Plain value logic: knows no pty, no window and no clock. Owned by whoever shows it. Private
@@ -102,7 +91,7 @@ class Terminal final : private ParserHandler {
 
     /// Rows that can be shown are `first_row()` up to `end_row()`; the screen begins at `screen_top()`. While
     /// the alternate screen is shown, the scrollback is not reachable and `first_row() == screen_top()`; its
-    /// rows have numbers of their own, so that a place on one screen is none on the other.
+    /// rows have numbers of their own, so that a position on one screen is none on the other.
     [[nodiscard]] RowId first_row() const;
     [[nodiscard]] RowId screen_top() const { return screen_->top(); }
     [[nodiscard]] RowId end_row() const { return screen_->top() + size().rows; }
@@ -112,18 +101,18 @@ class Terminal final : private ParserHandler {
     [[nodiscard]] std::uint64_t stamp() const { return clock_; }
 
     /// Ids of styles, links and clusters are good until the next `write`: those out of use are given anew.
-    [[nodiscard]] const Style& style(StyleId id) const { return styles_[id]; }
+    [[nodiscard]] const Style& style(StyleId id) const { return tables_.style(id); }
     /// The text of a cell as UTF-8, appended: a blank for a cell never written, nothing for a wide tail.
     void append_text(const Cell& cell, std::string& out) const;
     /// Address of an OSC 8 link; empty for 0.
-    [[nodiscard]] std::string_view link(LinkId id) const { return links_[id].address; }
+    [[nodiscard]] std::string_view link(LinkId id) const { return tables_.link(id).address; }
 
     /// The palette (0 to 255) and the three colours by purpose as OSC 4, 10, 11, 12 and 104, 110 to 112 left
     /// them.
-    [[nodiscard]] Rgb palette(int index) const { return palette_.colour(index); }
-    [[nodiscard]] Rgb foreground() const { return palette_.colour(ColourRole::foreground); }
-    [[nodiscard]] Rgb background() const { return palette_.colour(ColourRole::background); }
-    [[nodiscard]] Rgb cursor_colour() const { return palette_.colour(ColourRole::cursor); }
+    [[nodiscard]] Rgb palette(int index) const { return colours_.palette().colour(index); }
+    [[nodiscard]] Rgb foreground() const { return colours_.palette().colour(ColourRole::foreground); }
+    [[nodiscard]] Rgb background() const { return colours_.palette().colour(ColourRole::background); }
+    [[nodiscard]] Rgb cursor_colour() const { return colours_.palette().colour(ColourRole::cursor); }
     /// The colours that a reset goes back to; `palette` are the first 16.
     void set_standard_colours(Rgb foreground, Rgb background, Rgb cursor, std::span<const Rgb> palette);
 
@@ -147,10 +136,8 @@ class Terminal final : private ParserHandler {
     };
     /// What DECSC saves and DECRC brings back.
     struct SavedCursor {
-        CursorState place;
-        Style pen;
-        bool guarded = false;
-        bool area_guarded = false;
+        CursorState cursor;
+        Pen::State pen;
         bool origin = false;
         bool saved = false;  // by a program
         CharacterSets sets;
@@ -180,10 +167,6 @@ class Terminal final : private ParserHandler {
     enum class Controls : std::uint8_t { of_7_bits, of_8_bits };
     enum class Encoding : std::uint8_t { utf8, latin1 };
     enum class Erasure : std::uint8_t { plain, selective };
-    struct Titles {
-        std::string icon;
-        std::string window;
-    };
 
     // ParserHandler
     void print_ascii(std::string_view text) override;
@@ -205,12 +188,8 @@ class Terminal final : private ParserHandler {
     void combine(char32_t character);
     void wrap();
     [[nodiscard]] int right_limit() const;
-    const Cell& pen();
-    const Cell& blank();
-    void change_pen() { pen_changed_ = blank_changed_ = true; }
-    void refresh_pen();
-    StyleId intern_style(const Style& style);
-    void collect_unused();
+    const Cell& blank() { return pen_.blank(tables_); }
+    void add_used(UsedIds& used) const;
     void rep(Function function);
 
     // functions/cursor.cpp: movement
@@ -226,7 +205,6 @@ class Terminal final : private ParserHandler {
     void back_tab(int count);
     void save_cursor();
     void restore_cursor();
-    void reset_tabs(int from);
     void cuu(Function function);
     void cud(Function function);
     void cuf(Function function);
@@ -398,40 +376,33 @@ class Terminal final : private ParserHandler {
     void deccir();
     void dectabsr();
 
-    // functions/window.cpp: the window's size, place and titles
+    // functions/window.cpp: the window's size, position and titles
     void xtwinops(Function function);
     void decscpp(Function function);
     void decsnls(Function function);
     void request_size(Size wanted);
     void request_pixels(Function function);
     void request_characters(Function function);
-    void request_window(WindowRequest::Kind kind, WindowGeometry::Place place = {});
+    void request_window(WindowRequest::Kind kind, WindowGeometry::Point corner = {});
     bool change_window(Function function);
     void report_window(Function function);
     void report_title(char kind, const std::string& title);
-    void push_titles();
-    void pop_titles(int which);
+    void title_changed(bool of_window);
     void change_title_modes(Function function, bool on);
     void xtsmtitle(Function function);
     void xtrmtitle(Function function);
-    void set_titles(int which, std::string_view text);
-    void change_titles(int which, const Titles& titles);
 
     // functions/osc.cpp: operating system commands
     void set_link(std::string_view data);
-    void osc_palette(std::string_view number, int base, std::string_view data);
-    void osc_role(int number, std::string_view data);
-    void osc_reset_palette(int base, std::string_view data);
+    void osc_colours(std::string_view number, std::string_view data);
     void osc_selection(std::string_view data);
-    [[nodiscard]] std::optional<Rgb> colour(std::string_view text);
-    void reply_colour(std::string_view prefix, Rgb colour);
     void palette_changed();
 
     // resize.cpp
     void resize_primary(Size wanted, std::span<Position> anchors);
     void flow_primary(Size wanted, int cursor_row);
     void resize_alternate(Size wanted);
-    [[nodiscard]] CursorState cursor_at(Position place) const;
+    [[nodiscard]] CursorState cursor_at(Position position) const;
     [[nodiscard]] std::vector<Mark> marks(std::span<const Position> positions) const;
     [[nodiscard]] Position position(Mark mark) const;
 
@@ -454,7 +425,7 @@ class Terminal final : private ParserHandler {
     CursorShape cursor_shape_ = CursorShape::block;
     std::array<SavedCursor, 2> saved_;
     Region margins_;
-    std::vector<bool> tabs_;
+    TabStops tabs_;
     Modes modes_;
     InnerModes inner_;
     std::vector<std::pair<int, bool>> saved_modes_;
@@ -467,25 +438,10 @@ class Terminal final : private ParserHandler {
     Encoding encoding_ = Encoding::utf8;
     Permissions permissions_;
     Titles titles_;
-    std::vector<Titles> title_stack_;
-    std::vector<std::pair<std::string, std::optional<Rgb>>> asked_colours_;  // what the client said
-    bool hex_titles_ = false;  // XTSMTITLE: set in hexadecimal digits
-    bool hex_title_reports_ = false;
-
-    Style style_;  // the pen's
-    bool guarded_ = false;
-    bool area_guarded_ = false;
+    Pen pen_;
     bool guards_areas_ = false;  // what SPA guards withstands ED, EL and ECH
-    std::vector<Style> saved_styles_;
-    bool pen_changed_ = false;
-    bool blank_changed_ = false;
-    Cell pen_;    // no character, the pen's attributes
-    Cell blank_;  // what erasing leaves: the pen's background
-
-    InternTable<Style, StyleHash> styles_;
-    InternTable<Link, LinkHash> links_;
-    InternTable<std::string> clusters_;
-    Palette palette_;
+    Colours colours_;
+    CellTables tables_;
     Parser parser_;
     Parser local_parser_;
     mutable std::vector<Cell> row_buffer_;

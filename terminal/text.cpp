@@ -83,38 +83,38 @@ int row_end(const Terminal& terminal, const Row& row) {
     return row.wrapped ? static_cast<int>(row.cells.size()) : terminal.size().columns;
 }
 
-Position extend_left(const Terminal& terminal, Position place, CharacterClass wanted) {
+Position extend_left(const Terminal& terminal, Position position, CharacterClass wanted) {
     for (;;) {
-        const Row row = terminal.row(place.row);
-        while (place.column > 0 && class_at(terminal, row.cells, place.column - 1) == wanted) {
-            --place.column;
+        const Row row = terminal.row(position.row);
+        while (position.column > 0 && class_at(terminal, row.cells, position.column - 1) == wanted) {
+            --position.column;
         }
-        if (place.column > 0 || place.row == terminal.first_row()) {
-            return place;
+        if (position.column > 0 || position.row == terminal.first_row()) {
+            return position;
         }
-        const Row before = terminal.row(place.row - 1);
+        const Row before = terminal.row(position.row - 1);
         const int end = static_cast<int>(before.cells.size());
         if (!before.wrapped || end == 0 || class_at(terminal, before.cells, end - 1) != wanted) {
-            return place;
+            return position;
         }
-        place = {place.row - 1, end};
+        position = {position.row - 1, end};
     }
 }
 
-Position extend_right(const Terminal& terminal, Position place, CharacterClass wanted) {
+Position extend_right(const Terminal& terminal, Position position, CharacterClass wanted) {
     for (;;) {
-        const Row row = terminal.row(place.row);
+        const Row row = terminal.row(position.row);
         const int end = row_end(terminal, row);
-        while (place.column < end && class_at(terminal, row.cells, place.column) == wanted) {
-            ++place.column;
+        while (position.column < end && class_at(terminal, row.cells, position.column) == wanted) {
+            ++position.column;
         }
-        if (place.column < end || !row.wrapped || place.row + 1 >= terminal.end_row()) {
-            return place;
+        if (position.column < end || !row.wrapped || position.row + 1 >= terminal.end_row()) {
+            return position;
         }
-        if (class_at(terminal, terminal.row(place.row + 1).cells, 0) != wanted) {
-            return place;
+        if (class_at(terminal, terminal.row(position.row + 1).cells, 0) != wanted) {
+            return position;
         }
-        place = {place.row + 1, 0};
+        position = {position.row + 1, 0};
     }
 }
 
@@ -148,18 +148,18 @@ Range logical_line(const Terminal& terminal, RowId row) {
     return {{line_begin(terminal, row), 0}, {last, terminal.size().columns}};
 }
 
-Range word_at(const Terminal& terminal, Position place) {
-    const Row row = terminal.row(place.row);
-    place.column = std::clamp(place.column, 0, terminal.size().columns - 1);
-    const CharacterClass wanted = class_at(terminal, row.cells, place.column);
+Range word_at(const Terminal& terminal, Position position) {
+    const Row row = terminal.row(position.row);
+    position.column = std::clamp(position.column, 0, terminal.size().columns - 1);
+    const CharacterClass wanted = class_at(terminal, row.cells, position.column);
     if (wanted != CharacterClass::other) {
-        return {extend_left(terminal, place, wanted), extend_right(terminal, place, wanted)};
+        return {extend_left(terminal, position, wanted), extend_right(terminal, position, wanted)};
     }
-    const auto index = static_cast<std::size_t>(place.column);
+    const auto index = static_cast<std::size_t>(position.column);
     if (row.cells[index].is_wide_tail()) {
-        return {{place.row, place.column - 1}, {place.row, place.column + 1}};
+        return {{position.row, position.column - 1}, {position.row, position.column + 1}};
     }
-    return {place, {place.row, place.column + (row.cells[index].is_wide() ? 2 : 1)}};
+    return {position, {position.row, position.column + (row.cells[index].is_wide() ? 2 : 1)}};
 }
 
 Range line_to_cursor(const Terminal& terminal) {

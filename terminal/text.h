@@ -20,9 +20,9 @@ std::string text_between(const Terminal& terminal, Range range);
 /// at the screen's right edge.
 Range logical_line(const Terminal& terminal, RowId row);
 
-/// The word around a place, across a wrap: letters, digits, and what paths and addresses are made of. Where
-/// no word is, the run of like characters (blanks, or one punctuation character).
-Range word_at(const Terminal& terminal, Position place);
+/// The word around a position, across a wrap: letters, digits, and what paths and addresses are made of.
+/// Where no word is, the run of like characters (blanks, or one punctuation character).
+Range word_at(const Terminal& terminal, Position position);
 
 /// From the start of the cursor's logical line (just behind the last line feed) to the insertion point.
 /// Blanks before the insertion point belong to it.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/text_codes.h"
 
+#include <charconv>
 #include <cstdint>
 
 namespace terminal {
@@ -16,6 +17,20 @@ std::size_t digit_value(char digit) {
 }
 
 }  // namespace
+
+std::string_view take_field(std::string_view& text) {
+    const std::size_t end = text.find(';');
+    const std::string_view field = text.substr(0, end);
+    text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
+    return field;
+}
+
+int parse_number(std::string_view text) {
+    int value = -1;
+    const char* const end = text.data() + text.size();
+    const auto result = std::from_chars(text.data(), end, value);
+    return result.ec == std::errc{} && result.ptr == end ? value : -1;
+}
 
 std::string hexadecimal(std::string_view bytes) {
     std::string digits;

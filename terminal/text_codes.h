@@ -6,6 +6,11 @@
 
 namespace terminal {
 
+/// Cuts the text up to the next semicolon off.
+std::string_view take_field(std::string_view& text);
+/// A number of digits only; -1 for anything else.
+int parse_number(std::string_view text);
+
 /// Two digits for each byte.
 std::string hexadecimal(std::string_view bytes);
 /// The bytes, up to the first thing that is no pair of digits.

@@ -8,12 +8,6 @@
 
 namespace terminal {
 
-namespace {
-
-constexpr int tab_width = 8;
-
-}  // namespace
-
 void Terminal::move_to(int row, int column) {
     cursor_ = {std::clamp(row, 0, size().rows - 1), std::clamp(column, 0, size().columns - 1), false};
 }
@@ -92,9 +86,7 @@ void Terminal::tab(int count) {
     }
     const int last = right_limit() - 1;
     for (; count > 0 && cursor_.column < last; --count) {
-        do {
-            ++cursor_.column;
-        } while (cursor_.column < last && !tabs_[static_cast<std::size_t>(cursor_.column)]);
+        cursor_.column = tabs_.next(cursor_.column, last);
     }
 }
 
@@ -102,38 +94,23 @@ void Terminal::back_tab(int count) {
     const int first = inner_.origin ? margins_.left : 0;
     cursor_.wrap_pending = false;
     for (; count > 0 && cursor_.column > first; --count) {
-        do {
-            --cursor_.column;
-        } while (cursor_.column > first && !tabs_[static_cast<std::size_t>(cursor_.column)]);
+        cursor_.column = tabs_.previous(cursor_.column, first);
     }
 }
 
-/// Puts the stops of a new terminal on the columns from `from` on.
-void Terminal::reset_tabs(int from) {
-    tabs_.resize(static_cast<std::size_t>(size().columns));
-    for (int column = from; column < size().columns; ++column) {
-        tabs_[static_cast<std::size_t>(column)] = column % tab_width == 0;
-    }
-}
-
-void Terminal::save_cursor() {
-    saved() = {cursor_, style_, guarded_, area_guarded_, inner_.origin, true, sets_};
-}
+void Terminal::save_cursor() { saved() = {cursor_, pen_.state(), inner_.origin, true, sets_}; }
 
 void Terminal::restore_cursor() {
     const SavedCursor& from = saved();
-    style_ = from.pen;
-    guarded_ = from.guarded;
-    area_guarded_ = from.area_guarded;
-    change_pen();
+    pen_.change() = from.pen;
     sets_ = from.sets;
     inner_.origin = from.origin;
-    move_to(from.place.row, from.place.column);
+    move_to(from.cursor.row, from.cursor.column);
     if (inner_.origin) {  // the margins may be others by now
         move_to(std::clamp(cursor_.row, margins_.top, margins_.bottom - 1),
                 std::clamp(cursor_.column, margins_.left, margins_.right - 1));
     }
-    cursor_.wrap_pending = from.place.wrap_pending && from.place.column == cursor_.column;
+    cursor_.wrap_pending = from.cursor.wrap_pending && from.cursor.column == cursor_.column;
 }
 
 void Terminal::cuu(Function function) { move_vertically(-function.parameters.count(0)); }
@@ -185,20 +162,20 @@ void Terminal::vpa(Function function) {
 void Terminal::tbc(Function function) {
     const int which = function.parameters.get(0);
     if (which == 0) {
-        tabs_[static_cast<std::size_t>(cursor_.column)] = false;
+        tabs_.clear(cursor_.column);
     } else if (which == 3) {
-        std::fill(tabs_.begin(), tabs_.end(), false);
+        tabs_.clear_all();
     }
 }
 
 /// The stops of a new terminal.
 void Terminal::decst8c(Function function) {
     if (function.parameters.get(0) == 5) {
-        reset_tabs(0);
+        tabs_.reset();
     }
 }
 
-void Terminal::hts(Function /*function*/) { tabs_[static_cast<std::size_t>(cursor_.column)] = true; }
+void Terminal::hts(Function /*function*/) { tabs_.set(cursor_.column); }
 
 void Terminal::ind(Function /*function*/) { line_feed(); }
 

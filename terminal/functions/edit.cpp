@@ -119,14 +119,14 @@ void Terminal::dl(Function function) {
 }
 
 std::optional<Terminal::Which> Terminal::which(Function function) {
-    constexpr std::array places = {Which::cursor_to_end, Which::begin_to_cursor, Which::all};
+    constexpr std::array parts = {Which::cursor_to_end, Which::begin_to_cursor, Which::all};
     const auto number = static_cast<std::size_t>(function.parameters.get(0));
-    return number < places.size() ? std::optional(places[number]) : std::nullopt;
+    return number < parts.size() ? std::optional(parts[number]) : std::nullopt;
 }
 
 void Terminal::ed(Function function) {
-    if (const auto place = which(function)) {
-        erase_on_screen(*place, Erasure::plain);
+    if (const auto part = which(function)) {
+        erase_on_screen(*part, Erasure::plain);
     } else if (function.parameters.get(0) == 3) {
         scrollback_.clear();
         count_change();
@@ -134,20 +134,20 @@ void Terminal::ed(Function function) {
 }
 
 void Terminal::decsed(Function function) {
-    if (const auto place = which(function)) {
-        erase_on_screen(*place, Erasure::selective);
+    if (const auto part = which(function)) {
+        erase_on_screen(*part, Erasure::selective);
     }
 }
 
 void Terminal::el(Function function) {
-    if (const auto place = which(function)) {
-        erase_in_row(*place, Erasure::plain);
+    if (const auto part = which(function)) {
+        erase_in_row(*part, Erasure::plain);
     }
 }
 
 void Terminal::decsel(Function function) {
-    if (const auto place = which(function)) {
-        erase_in_row(*place, Erasure::selective);
+    if (const auto part = which(function)) {
+        erase_in_row(*part, Erasure::selective);
     }
 }
 

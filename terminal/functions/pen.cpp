@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "terminal/sgr.h"
 #include "terminal/terminal.h"
 
 #include <array>
@@ -9,41 +8,18 @@
 
 namespace terminal {
 
-void Terminal::sgr(Function function) {
-    apply_sgr(function.parameters, style_);
-    change_pen();
-}
+void Terminal::sgr(Function function) { apply_sgr(function.parameters, pen_.change().style); }
 
-/// All attributes are saved, whichever are named. The stack is as deep as xterm's.
-void Terminal::xtpushsgr(Function /*function*/) {
-    if (saved_styles_.size() < max_saved_states) {
-        saved_styles_.push_back(style_);
-    }
-}
-
-void Terminal::xtpopsgr(Function /*function*/) {
-    if (!saved_styles_.empty()) {
-        style_ = saved_styles_.back();
-        saved_styles_.pop_back();
-        change_pen();
-    }
-}
+void Terminal::xtpushsgr(Function /*function*/) { pen_.push_style(); }
+void Terminal::xtpopsgr(Function /*function*/) { pen_.pop_style(); }
 
 void Terminal::decsca(Function function) {
-    guarded_ = function.parameters.get(0) == 1;
+    pen_.change().guarded = function.parameters.get(0) == 1;
     guards_areas_ = false;  // of the two ways to protect the one used last counts, as on xterm
-    change_pen();
 }
 
-void Terminal::spa(Function /*function*/) {
-    area_guarded_ = guards_areas_ = true;
-    change_pen();
-}
-
-void Terminal::epa(Function /*function*/) {
-    area_guarded_ = false;
-    change_pen();
-}
+void Terminal::spa(Function /*function*/) { pen_.change().area_guarded = guards_areas_ = true; }
+void Terminal::epa(Function /*function*/) { pen_.change().area_guarded = false; }
 
 /// 0 is the standard cursor; then by twos block, underline, bar, the odd ones blinking.
 void Terminal::decscusr(Function function) {
@@ -92,21 +68,10 @@ void Terminal::xtqmodkeys(Function function) {
     }
 }
 
-/// `ESC ( F` to `ESC + F` designate sets of 94 characters to G0 to G3, `ESC - F` to `ESC / F` those of 96 to
-/// G1 to G3. Sets that we do not have change nothing.
 void Terminal::scs(Function function) {
-    const char where = function.intermediates[0];
-    const SetSize set_size = where >= '-' ? SetSize::of_96 : SetSize::of_94;
-    const auto index = static_cast<std::size_t>(where - (set_size == SetSize::of_96 ? ',' : '('));
-    std::string code;
-    if (function.intermediate_count > 1) {
-        code += function.intermediates[1];
-    }
-    code += function.final;
-    const NationalSets national = inner_.national_sets ? NationalSets::shown : NationalSets::hidden;
-    if (const auto set = character_set(code, set_size, national)) {
-        sets_.designated[index] = *set;
-    }
+    const std::string code = {function.intermediates[1], function.final};
+    sets_.designate(function.intermediates[0], function.intermediate_count > 1 ? code : code.substr(1),
+                    inner_.national_sets ? NationalSets::shown : NationalSets::hidden);
 }
 
 void Terminal::ls2(Function /*function*/) { sets_.invoked = 2; }

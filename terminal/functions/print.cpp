@@ -22,79 +22,20 @@ std::size_t count_characters(std::string_view text) {
 
 }  // namespace
 
-std::size_t StyleHash::operator()(const Style& style) const {
-    const Style::Key key = style.key();
-    constexpr std::uint64_t odd = 0x9E3779B97F4A7C15;  // spreads what differs in few bits
-    const std::uint64_t mixed = key.colours ^ key.rest * odd;
-    return static_cast<std::size_t>((mixed ^ mixed >> 32) * odd >> 32);
-}
-
-std::size_t LinkHash::operator()(const Link& link) const {
-    const std::hash<std::string> hash;
-    return hash(link.address) * 31 + hash(link.id);
-}
-
 /// One past the last column for text: the right margin, unless the cursor is beyond it.
 int Terminal::right_limit() const {
     return cursor_.column < margins_.right ? margins_.right : size().columns;
 }
 
-const Cell& Terminal::pen() {
-    if (pen_changed_) {
-        refresh_pen();
-    }
-    return pen_;
-}
-
-const Cell& Terminal::blank() {
-    if (blank_changed_) {
-        blank_changed_ = false;
-        blank_.style = 0;
-        if (style_.background != Colour{}) {
-            Style erased;
-            erased.background = style_.background;
-            blank_.style = intern_style(erased);
-        }
-    }
-    return blank_;
-}
-
-void Terminal::refresh_pen() {
-    pen_changed_ = false;
-    pen_.glyph = (guarded_ ? Cell::guarded : 0) | (area_guarded_ ? Cell::area_guarded : 0);
-    pen_.style = intern_style(style_);
-}
-
-/// The number of a style; the plain one when there are too many styles.
-StyleId Terminal::intern_style(const Style& style) {
-    if (style == Style{}) {
-        return 0;
-    }
-    auto id = styles_.intern(style);
-    if (!id && styles_.wants_collection()) {
-        collect_unused();
-        id = styles_.intern(style);
-    }
-    return static_cast<StyleId>(id.value_or(0));
-}
-
-/// Frees the numbers of styles, links and clusters that no cell has any more.
-void Terminal::collect_unused() {
-    UsedIds used;
-    used.styles.resize(styles_.end_id());
-    used.links.resize(links_.end_id());
-    used.clusters.resize(clusters_.end_id());
+/// Says which styles, links and clusters are in use.
+void Terminal::add_used(UsedIds& used) const {
     for (const Screen* const screen : {&primary_, &alternate_}) {
         for (int row = 0; row < screen->size().rows; ++row) {
             std::ranges::for_each(screen->cells(row), [&used](const Cell& cell) { used.add(cell); });
         }
     }
     scrollback_.add_used(used);
-    used.add({0, pen_.style, pen_.link});
-    used.add(blank_);
-    styles_.retain(used.styles);
-    links_.retain(used.links);
-    clusters_.retain(used.clusters);
+    pen_.add_used(used);
 }
 
 void Terminal::print_ascii(std::string_view text) {
@@ -109,7 +50,7 @@ void Terminal::print_ascii(std::string_view text) {
 }
 
 void Terminal::print_plain(std::string_view text) {
-    const Cell& attributes = pen();
+    const Cell& attributes = pen_.cell(tables_);
     while (!text.empty()) {
         if (cursor_.wrap_pending) {
             wrap();
@@ -170,7 +111,7 @@ std::size_t Terminal::print_run(std::span<const char32_t> text) {
     const int limit = right_limit();
     const std::size_t room = std::min(static_cast<std::size_t>(limit - cursor_.column), run_.size() - 1);
     const char32_t first_taken = sets_.plain() ? 0 : first_extended;
-    const Cell attributes = pen();
+    const Cell attributes = pen_.cell(tables_);
     const Cell tail{attributes.glyph | Cell::wide_tail, attributes.style, attributes.link};
     std::size_t length = 0;
     std::size_t count = 0;
@@ -213,7 +154,7 @@ void Terminal::put(char32_t character) {
 }
 
 void Terminal::put_visible(char32_t character, int width) {
-    const Cell& attributes = pen();
+    const Cell& attributes = pen_.cell(tables_);
     if (cursor_.wrap_pending) {
         wrap();
     }
@@ -254,11 +195,7 @@ void Terminal::combine(char32_t character) {
         return;
     }
     append_utf8(character, text);
-    auto id = clusters_.intern(text);
-    if (!id && clusters_.wants_collection()) {
-        collect_unused();
-        id = clusters_.intern(text);
-    }
+    const auto id = tables_.intern_cluster(text);
     if (id) {
         cell.glyph = (cell.glyph & (Cell::wide | Cell::guarded | Cell::area_guarded)) | Cell::cluster | *id;
         screen_->replace(cursor_.row, column, cell);

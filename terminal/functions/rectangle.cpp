@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "terminal/sgr.h"
 #include "terminal/terminal.h"
 #include "terminal/utf8.h"
 
@@ -43,14 +42,14 @@ void reverse_attributes(const Parameters& parameters, std::size_t first, Style& 
 /// make no rectangle.
 Region Terminal::rectangle(Function function, std::size_t first) const {
     const Region within = inner_.origin ? margins_ : screen_->all();
-    const auto place = [&function](std::size_t index, int begin, int end, int missing) {
+    const auto edge = [&function](std::size_t index, int begin, int end, int missing) {
         const int value = function.parameters.get(index);
         return value == 0 ? missing : std::min(begin + value, end);
     };
-    const Region region{place(first, within.top, within.bottom, within.top + 1) - 1,
-                        place(first + 2, within.top, within.bottom, within.bottom),
-                        place(first + 1, within.left, within.right, within.left + 1) - 1,
-                        place(first + 3, within.left, within.right, within.right)};
+    const Region region{edge(first, within.top, within.bottom, within.top + 1) - 1,
+                        edge(first + 2, within.top, within.bottom, within.bottom),
+                        edge(first + 1, within.left, within.right, within.left + 1) - 1,
+                        edge(first + 3, within.left, within.right, within.right)};
     return region.height() > 0 && region.width() > 0 ? region : Region{};
 }
 
@@ -68,7 +67,7 @@ void Terminal::decfra(Function function) {
     const bool printable =
         (character >= 0x20 && character <= 0x7E) || (character >= 0xA0 && character <= 0xFF);
     if (printable) {
-        Cell cell = pen();
+        Cell cell = pen_.cell(tables_);
         cell.glyph |= static_cast<std::uint32_t>(character);
         screen_->fill(rectangle(function, 1), cell);
     }
@@ -100,9 +99,9 @@ void Terminal::change_styles(Function function, void (*change)(const Parameters&
         for (int column = from_edge ? 0 : region.left; column < end; ++column) {
             Cell cell = screen_->cell(row, column);
             if (!known || known->first != cell.style) {
-                Style style = styles_[cell.style];
+                Style style = tables_.style(cell.style);
                 change(function.parameters, 4, style);
-                known = {cell.style, intern_style(style)};
+                known = {cell.style, tables_.intern(style)};
             }
             cell.style = known->second;
             screen_->replace(row, column, cell);
@@ -136,7 +135,7 @@ void Terminal::decrqcra(Function function) {
 int Terminal::checksum(const Cell& cell) const {
     int sum = cell.character() == 0 ? ' ' : static_cast<int>(cell.character());
     if (cell.is_cluster()) {
-        const std::string& text = clusters_[cell.character()];
+        const std::string& text = tables_.cluster(cell.character());
         const char* from = text.data();
         sum = static_cast<int>(take_utf8(from));
         while ((checksum_flags_ & checksum_of_whole_characters) != 0 && from < text.data() + text.size()) {
@@ -149,7 +148,7 @@ int Terminal::checksum(const Cell& cell) const {
     if ((checksum_flags_ & checksum_without_attributes) != 0) {
         return sum;
     }
-    const Style& style = styles_[cell.style];
+    const Style& style = tables_.style(cell.style);
     const auto add = [&sum](bool set, int weight) { sum += set ? weight : 0; };
     add(style.invisible, 0x08);
     add(style.underline != Underline::none, 0x10);

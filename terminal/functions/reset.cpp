@@ -15,10 +15,9 @@ void Terminal::soft_reset() {
     modes_.application_cursor_keys = modes_.application_keypad = modes_.keyboard_locked = false;
     modes_.modify_other_keys = 0;
     reset_margins();
-    style_ = Style{};
-    pen_.link = 0;
-    guarded_ = area_guarded_ = guards_areas_ = whole_rectangles_ = false;
-    change_pen();
+    pen_.change() = {};
+    pen_.set_link(0);
+    guards_areas_ = whole_rectangles_ = false;
     sets_ = CharacterSets{};
     saved() = SavedCursor{};
     cursor_.wrap_pending = false;
@@ -37,11 +36,11 @@ void Terminal::reset() {
     inner_ = InnerModes{};
     saved_ = {};
     saved_modes_.clear();
-    saved_styles_.clear();
+    pen_.reset_saved();
     cursor_shape_ = CursorShape::block;
     last_character_ = 0;
     checksum_flags_ = 0;
-    hex_titles_ = hex_title_reports_ = false;
+    titles_.reset_modes();
     level_ = top_level;
     encoding_ = Encoding::utf8;
     choose_controls(Controls::of_7_bits);
@@ -50,8 +49,8 @@ void Terminal::reset() {
     scrollback_.close();
     screen_->fill(screen_->all(), Cell{});
     move_to(0, 0);
-    reset_tabs(0);
-    palette_.reset_all();
+    tabs_.reset();
+    colours_.palette().reset_all();
     palette_changed();
 }
 

@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "terminal/sgr.h"
 #include "terminal/terminal.h"
 #include "terminal/text_codes.h"
 
 #include <algorithm>
 #include <array>
 #include <cassert>
-#include <charconv>
 
 // Device control strings: reports of settings, of the terminal's capabilities and of what it presents.
 
@@ -66,14 +64,14 @@ std::string Terminal::setting(std::string_view request) const {
     const int controls = controls_ == Controls::of_8_bits ? 0 : 1;
     const std::string rows = std::to_string(size().rows);
     const std::pair<std::string_view, std::string> settings[] = {
-        {"m", sgr_text(style_)},
+        {"m", sgr_text(pen_.style())},
         {"r", pair(margins_.top + 1, margins_.bottom)},
         {"s", pair(margins_.left + 1, margins_.right)},
         {"t", rows},                             // DECSLPP
         {"*|", rows},                            // DECSNLS
         {"$|", std::to_string(size().columns)},  // DECSCPP
         {" q", std::to_string(inner_.cursor_blinking ? steady - 1 : steady)},
-        {"\"q", guarded_ ? "1" : "0"},
+        {"\"q", pen_.state().guarded ? "1" : "0"},
         {"\"p", level_ == 1 ? "61" : pair(60 + level_, controls)},
         {"*x", whole_rectangles_ ? "2" : "1"},
     };
@@ -116,8 +114,9 @@ void Terminal::deccir() {
     const int row = inner_.origin ? cursor_.row - margins_.top : cursor_.row;
     const int column = inner_.origin ? cursor_.column - margins_.left : cursor_.column;
     std::string text = std::to_string(row + 1) + ';' + std::to_string(column + 1) + ";1;";
-    text += bits({style_.bold, style_.underline != Underline::none, style_.blink, style_.reverse});
-    text += std::string(";") + bits({guarded_}) + ';';
+    text += bits({pen_.style().bold, pen_.style().underline != Underline::none, pen_.style().blink,
+                  pen_.style().reverse});
+    text += std::string(";") + bits({pen_.state().guarded}) + ';';
     text += bits({inner_.origin, sets_.single_shift == 2, sets_.single_shift == 3, cursor_.wrap_pending});
     text += ';' + std::to_string(sets_.invoked) + ';' + std::to_string(sets_.right) + ';';
     std::string names;
@@ -132,30 +131,12 @@ void Terminal::deccir() {
     reply("\x1bP1$u" + text + ';' + names + "\x1b\\");
 }
 
-void Terminal::dectabsr() {
-    std::string text;
-    for (std::size_t column = 0; column < tabs_.size(); ++column) {
-        if (tabs_[column]) {
-            text += (text.empty() ? "" : "/") + std::to_string(column + 1);
-        }
-    }
-    reply("\x1bP2$u" + text + "\x1b\\");
-}
+void Terminal::dectabsr() { reply("\x1bP2$u" + tabs_.text() + "\x1b\\"); }
 
 /// DECRSPS: takes the report of the tab stops back.
 void Terminal::decrsps(Function function, std::string_view data) {
-    if (function.parameters.get(0) != 2 || data.find_first_not_of("0123456789/") != std::string_view::npos) {
-        return;
-    }
-    tabs_.assign(tabs_.size(), false);
-    while (!data.empty()) {
-        const std::string_view number = data.substr(0, data.find('/'));
-        std::size_t column = 0;
-        std::from_chars(number.data(), number.data() + number.size(), column);
-        if (column >= 1 && column <= tabs_.size()) {
-            tabs_[column - 1] = true;
-        }
-        data.remove_prefix(std::min(number.size() + 1, data.size()));
+    if (function.parameters.get(0) == 2) {
+        tabs_.take(data);
     }
 }
 

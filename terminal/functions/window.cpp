@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "terminal/terminal.h"
-#include "terminal/text_codes.h"
-#include "terminal/utf8.h"
 
 #include <algorithm>
 #include <array>
 
-// xterm's window operations: the size and the place of the window, and its titles. Numbers are told to all;
-// changing the window and reading titles is the user's to permit.
+// xterm's window operations: the size and the position of the window, and its titles. Numbers are told to
+// all; changing the window and reading titles is the user's to permit.
 
 namespace terminal {
 
@@ -21,13 +19,9 @@ std::string report(int kind, WindowGeometry::Extent extent) {
     return report(kind, extent.height, extent.width);
 }
 
-std::string report(WindowGeometry::Place place) {
-    return report(3, std::max(place.x, 0), std::max(place.y, 0));
+std::string report(WindowGeometry::Point corner) {
+    return report(3, std::max(corner.x, 0), std::max(corner.y, 0));
 }
-
-/// Which titles an operation names: 0 both, 1 the icon's, 2 the window's.
-bool concerns_icon(int which) { return which == 0 || which == 1; }
-bool concerns_window(int which) { return which == 0 || which == 2; }
 
 }  // namespace
 
@@ -41,9 +35,9 @@ void Terminal::request_size(Size wanted) {
     }
 }
 
-void Terminal::request_window(WindowRequest::Kind kind, WindowGeometry::Place place) {
+void Terminal::request_window(WindowRequest::Kind kind, WindowGeometry::Point corner) {
     if (permissions_.window_operations) {
-        client_.window_requested({kind, place});
+        client_.window_requested({kind, corner});
     }
 }
 
@@ -125,7 +119,7 @@ void Terminal::report_window(Function function) {
         case 11:
             return reply(window.iconified ? "\x1b[2t" : "\x1b[1t");
         case 13:
-            return exists ? reply(report(other ? window.text_place : window.window_place)) : void();
+            return exists ? reply(report(other ? window.text_corner : window.window_corner)) : void();
         case 14:
             return exists ? reply(other ? report(4, window.window)
                                         : report(4, size().rows * window.cell.height,
@@ -151,13 +145,13 @@ void Terminal::xtwinops(Function function) {
     const int operation = function.parameters.get(0);
     switch (operation) {
         case 20:
-            return report_title('L', titles_.icon);
+            return report_title('L', titles_.icon());
         case 21:
-            return report_title('l', titles_.window);
+            return report_title('l', titles_.window());
         case 22:
-            return push_titles();
+            return titles_.push();
         case 23:
-            return pop_titles(function.parameters.get(1));
+            return title_changed(titles_.pop(function.parameters.get(1)));
         default:
             break;
     }
@@ -182,57 +176,22 @@ void Terminal::decsnls(Function function) {
     }
 }
 
-// Titles.
-
 /// Titles are text that a program chose: without the user's permission they are never sent.
 void Terminal::report_title(char kind, const std::string& title) {
     if (permissions_.window_operations) {
-        reply(std::string("\x1b]") + kind + (hex_title_reports_ ? hexadecimal(title) : title) + "\x1b\\");
+        reply(std::string("\x1b]") + kind + titles_.reported(title) + "\x1b\\");
     }
 }
 
-/// OSC 0, 1 and 2.
-void Terminal::set_titles(int which, std::string_view text) {
-    std::string decoded;
-    if (hex_titles_) {
-        decoded = from_hexadecimal(text);
-        text = decoded;
-    }
-    const std::string title(cut_utf8(plain_utf8(text), max_title));
-    change_titles(which, {title, title});
-}
-
-void Terminal::change_titles(int which, const Titles& titles) {
-    if (concerns_icon(which)) {
-        titles_.icon = titles.icon;
-    }
-    if (concerns_window(which)) {
-        titles_.window = titles.window;
-        client_.title_changed(titles_.window);
+void Terminal::title_changed(bool of_window) {
+    if (of_window) {
+        client_.title_changed(titles_.window());
     }
 }
 
-/// Both titles are saved, as on xterm, whichever is named.
-void Terminal::push_titles() {
-    if (title_stack_.size() < max_saved_states) {
-        title_stack_.push_back(titles_);
-    }
-}
-
-void Terminal::pop_titles(int which) {
-    if (!title_stack_.empty()) {
-        const Titles titles = std::move(title_stack_.back());
-        title_stack_.pop_back();
-        change_titles(which, titles);
-    }
-}
-
-/// 0: titles are set, 1: reported in hexadecimal digits. (2 and 3, UTF-8, always hold.)
 void Terminal::change_title_modes(Function function, bool on) {
     for (std::size_t i = 0; i < std::max<std::size_t>(function.parameters.size(), 1); ++i) {
-        const int mode = function.parameters.get(i);
-        hex_titles_ = mode == 0 ? on : hex_titles_;
-        hex_title_reports_ = mode == 1 ? on : hex_title_reports_;
+        titles_.change_mode(function.parameters.get(i), on);
     }
 }
 

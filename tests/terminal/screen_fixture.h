@@ -18,7 +18,7 @@ struct Recorder : Client {
     void size_changed() override { heard += "size|"; }
     void window_requested(const WindowRequest& request) override {
         heard += "window " + std::to_string(static_cast<int>(request.kind)) + ' ' +
-                 std::to_string(request.place.x) + ',' + std::to_string(request.place.y) + '|';
+                 std::to_string(request.corner.x) + ',' + std::to_string(request.corner.y) + '|';
     }
     [[nodiscard]] WindowGeometry window() const override {
         return {{8, 16}, {80, 64}, {160, 128}, {800, 640}, {3, 4}, {5, 6}};

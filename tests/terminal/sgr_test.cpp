@@ -1,6 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "terminal/sgr.h"
-
 #include "tests/terminal/screen_fixture.h"
 
 #include <gtest/gtest.h>

@@ -8,11 +8,13 @@
 namespace terminal {
 namespace {
 
-/// A place as row and column from the first row on.
-Position place(const Screened& at, RowId row, int column) { return {at.terminal.first_row() + row, column}; }
+/// A position as row and column from the first row on.
+Position position(const Screened& at, RowId row, int column) {
+    return {at.terminal.first_row() + row, column};
+}
 
 Range range(const Screened& at, Position begin, Position end) {
-    return {place(at, begin.row, begin.column), place(at, end.row, end.column)};
+    return {position(at, begin.row, begin.column), position(at, end.row, end.column)};
 }
 
 TEST(Text, BetweenTwoPlaces) {
@@ -73,17 +75,17 @@ TEST(Text, WordAtAPlace) {
         {"one of two", {2, 8}, ";"},
     };
     for (const Case& row : cases) {
-        const Range word = word_at(at.terminal, place(at, row.at.row, row.at.column));
+        const Range word = word_at(at.terminal, position(at, row.at.row, row.at.column));
         EXPECT_EQ(text_between(at.terminal, word), row.word) << row.name;
     }
-    EXPECT_EQ(word_at(at.terminal, place(at, 2, 12)), range(at, {2, 10}, {2, 20}));
+    EXPECT_EQ(word_at(at.terminal, position(at, 2, 12)), range(at, {2, 10}, {2, 20}));
 }
 
 TEST(Text, WordReachesAcrossAWrap) {
     Screened at;
     at.terminal.write("ab 0123456789abcd ef");
-    EXPECT_EQ(word_at(at.terminal, place(at, 0, 5)), range(at, {0, 3}, {1, 7}));
-    EXPECT_EQ(word_at(at.terminal, place(at, 1, 1)), range(at, {0, 3}, {1, 7}));
+    EXPECT_EQ(word_at(at.terminal, position(at, 0, 5)), range(at, {0, 3}, {1, 7}));
+    EXPECT_EQ(word_at(at.terminal, position(at, 1, 1)), range(at, {0, 3}, {1, 7}));
 }
 
 TEST(Text, LineToCursor) {
@@ -125,7 +127,7 @@ TEST(Find, GoesThroughScreenAndScrollback) {
     ASSERT_GT(at.terminal.screen_top(), at.terminal.first_row());
     const auto next = [&at](std::string_view needle, Position from, SearchDirection direction,
                             LetterCase letter_case) {
-        return find(at.terminal, needle, place(at, from.row, from.column), direction, letter_case);
+        return find(at.terminal, needle, position(at, from.row, from.column), direction, letter_case);
     };
     constexpr auto forward = SearchDirection::forward;
     constexpr auto backward = SearchDirection::backward;

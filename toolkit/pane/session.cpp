@@ -104,7 +104,7 @@ terminal::WindowGeometry TerminalSession::window() const {
         if (request.kind == Kind::iconify || request.kind == Kind::restore) {
             geometry.iconified = request.kind == Kind::iconify;
         } else if (request.kind == Kind::move) {
-            geometry.window_place = request.place;
+            geometry.window_corner = request.corner;
         }
     }
     return geometry;

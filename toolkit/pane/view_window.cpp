@@ -12,7 +12,7 @@ namespace {
 constexpr int settle_milliseconds = 300;
 
 terminal::WindowGeometry::Extent extent(QSize size) { return {size.width(), size.height()}; }
-terminal::WindowGeometry::Place place(QPoint point) { return {point.x(), point.y()}; }
+terminal::WindowGeometry::Point corner(QPoint point) { return {point.x(), point.y()}; }
 
 }  // namespace
 
@@ -23,8 +23,8 @@ terminal::WindowGeometry TerminalView::window_geometry() const {
             .text = {size.columns * cell.width(), size.rows * cell.height()},
             .window = extent(window()->size()),
             .screen = extent(screen()->size()),
-            .window_place = place(window()->pos()),
-            .text_place = place(mapToGlobal(QPoint(Viewport::margin, Viewport::margin))),
+            .window_corner = corner(window()->pos()),
+            .text_corner = corner(mapToGlobal(QPoint(Viewport::margin, Viewport::margin))),
             .iconified = window()->isMinimized()};
 }
 
@@ -66,7 +66,7 @@ void TerminalView::perform(const terminal::WindowRequest& request) {
         case Kind::iconify:
             return state(Qt::WindowMinimized, request.kind == Kind::iconify);
         case Kind::move:
-            return top.move(request.place.x, request.place.y);
+            return top.move(request.corner.x, request.corner.y);
         case Kind::raise:
             return top.raise();
         case Kind::lower:

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "terminal/sgr.h"
+#include "terminal/style.h"
+
+#include "terminal/parameters.h"
 
 #include <algorithm>
 #include <array>
