@@ -15,6 +15,8 @@ class FramePacer {
 
     /// There is something new to paint.
     void request();
+    /// Whether something new has not been painted yet.
+    [[nodiscard]] bool pending() const { return timer_.isActive(); }
     /// What is new is not to be seen yet.
     void put_off();
     /// Round the painting of a frame. Only such as paint something count: a key typed must not put its echo

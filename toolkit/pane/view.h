@@ -41,6 +41,7 @@ class TerminalView final : public QWidget {
 
     /// The terminal has changed: it is painted with the next frame.
     void content_changed() { frames_.request(); }
+    [[nodiscard]] bool awaits_frame() const { return frames_.pending(); }
     /// Flashes shortly, in the margin round the text.
     void flash() { blinking_.flash(); }
 

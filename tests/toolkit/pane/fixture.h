@@ -42,7 +42,11 @@ class TerminalFixture : public testing::Test {
     /// Puts text on the screen and has it painted.
     void show_text(std::string_view text) {
         ttysw_output(pane, text);
-        QTest::qWait(0);
+        paint();
+    }
+
+    void paint() {
+        EXPECT_TRUE(wait([this] { return !view().awaits_frame(); }));
         view().repaint();
     }
 

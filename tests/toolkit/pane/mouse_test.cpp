@@ -98,7 +98,7 @@ TEST_F(TerminalMouseTest, DragAfterTwoClicksExtendsByWords) {
 TEST_F(TerminalMouseTest, DragBelowTheEdgeScrolls) {
     start("seq 1 300; exec cat");
     ASSERT_TRUE(wait_for_text("300"));
-    QTest::qWait(0);
+    paint();
     press(Qt::Key_Home, Qt::ShiftModifier);
     const QPoint below(cell(1, 0).x(), view().height() + 60);
     QTest::mousePress(&view(), Qt::LeftButton, {}, edge(0, 0));
@@ -117,7 +117,6 @@ TEST_F(TerminalMouseTest, SelectionFollowsItsTextAndGoesWhenThatChanges) {
     drag(edge(0, 0), edge(6, 0));
     ASSERT_EQ(selected(), "change");
     show_text("\033[Hchange\033[2;1Helsewhere");
-    QTest::qWait(50);
     EXPECT_EQ(selected(), "change") << "written anew as it was";
     show_text("\033[1;3HX");
     EXPECT_TRUE(wait([this] { return view().selection().empty(); }));
@@ -196,7 +195,7 @@ TEST_F(TerminalMouseTest, ProgramThatTracksTheMouseGetsItUnlessShiftIsHeld) {
 TEST_F(TerminalMouseTest, WheelScrollsOrSendsArrowsOnTheAlternateScreen) {
     start("seq 1 300; stty raw -echo; echo ready; exec cat -v");
     ASSERT_TRUE(wait_for_text("ready"));
-    QTest::qWait(0);
+    paint();
     turn_wheel(2);
     EXPECT_EQ(view().position_at({0, 0}).row,
               view().terminal().screen_top() - 2L * QApplication::wheelScrollLines());

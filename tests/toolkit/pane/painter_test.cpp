@@ -31,7 +31,6 @@ class TerminalPainterTest : public TerminalFixture {
     void look_at(std::string_view text) {
         show_text("\033[2J\033[H\033[?25l");
         show_text(text);
-        QTest::qWait(50);
         image = view().grab().toImage();
     }
     [[nodiscard]] QRgb pixel(QPoint place) const {
@@ -171,10 +170,10 @@ TEST_F(TerminalPainterTest, OnlyRowsThatBlinkArePaintedAnewAndOnlyWhileTheyAreSe
     EXPECT_TRUE(colour_is(ink));
     EXPECT_TRUE(painted.region.boundingRect().height() <= area(0, 2).height());
     show_text("\033[2J");
-    QTest::qWait(1500);
-    painted.region = {};
-    QTest::qWait(700);
-    EXPECT_TRUE(painted.region.isEmpty());
+    EXPECT_TRUE(wait([&] {
+        painted.region = {};
+        return !QTest::qWaitFor([&] { return !painted.region.isEmpty(); }, 1300);
+    })) << "two turns without painting";
 }
 
 TEST_F(TerminalPainterTest, BellFlashesInTheMarginUnlessSwitchedOff) {
@@ -186,9 +185,8 @@ TEST_F(TerminalPainterTest, BellFlashesInTheMarginUnlessSwitchedOff) {
     };
     pane.set_visual_bell(VisualBell::off);
     EXPECT_FALSE(frame_flashes());
-    QTest::qWait(510);  // bells that follow at once are passed over
     pane.set_visual_bell(VisualBell::on);
-    EXPECT_TRUE(frame_flashes());
+    EXPECT_TRUE(wait(frame_flashes)) << "when it has rung again: bells that follow at once are passed over";
     EXPECT_TRUE(wait([this] {
         image = view().grab().toImage();
         return pixel({1, 1}) == background;
@@ -239,10 +237,10 @@ TEST_F(TerminalPainterTest, CursorIsFilledOnlyWithTheFocus) {
     EXPECT_EQ(pixel(area(0, 0).center()), colour);
     pane.widget()->setFocusProxy(nullptr);
     view().clearFocus();
-    ASSERT_TRUE(wait([this] { return !view().hasFocus(); }));
-    QTest::qWait(50);
-    image = view().grab().toImage();
-    EXPECT_EQ(pixel(area(0, 0).center()), background);
+    ASSERT_TRUE(wait([this] {
+        image = view().grab().toImage();
+        return pixel(area(0, 0).center()) == background;
+    }));
     EXPECT_EQ(pixel(area(0, 0).topLeft()), colour);
     pane.widget()->setFocusProxy(&view());
 }
@@ -253,7 +251,7 @@ TEST_F(TerminalPainterTest, OpenUpdateIsNotPaintedForAWhile) {
         "stty -echo; echo up; read a; printf '\\033[?2026hpart'; read b; printf 'whole\\033[?2026l'; exec "
         "cat");
     ASSERT_TRUE(wait_for_text("up"));
-    QTest::qWait(50);
+    paint();
     PaintedArea painted;
     view().installEventFilter(&painted);
     QElapsedTimer since_before;

@@ -155,7 +155,7 @@ TEST_F(TerminalPaneTest, FloodLeavesKeysAndPaintingAlive) {
 TEST_F(TerminalPaneTest, ViewStaysWhereTheUserScrolledItUntilAKeyIsTyped) {
     start("seq 1 200; read a; seq 1000 1100; exec cat");
     ASSERT_TRUE(wait_for_text("200"));
-    QTest::qWait(0);
+    paint();
     press(Qt::Key_PageUp, Qt::ShiftModifier);
     const terminal::RowId top = view().position_at({0, 0}).row;
     EXPECT_LT(top, view().terminal().screen_top());
