@@ -3,8 +3,20 @@
 
 #include <algorithm>
 #include <cctype>
+#include <cstdint>
 
 namespace {
+
+/// The UTF-8 form of a code point.
+std::string encoded(std::uint32_t code) {
+    const auto further = static_cast<unsigned>(code < 0x80 ? 0 : code < 0x800 ? 1 : code < 0x10000 ? 2 : 3);
+    const std::uint32_t marks[] = {0, 0xC0, 0xE0, 0xF0};
+    std::string text(1, static_cast<char>(marks[further] | code >> (6 * further)));
+    for (unsigned left = further; left-- > 0;) {
+        text += static_cast<char>(0x80U | (code >> (6 * left) & 0x3FU));
+    }
+    return text;
+}
 
 /// Takes what stands up to the next `end`, and it too. Nothing when there is none.
 std::optional<std::string_view> take_up_to(char end, std::string_view& rest) {
@@ -88,6 +100,37 @@ std::optional<std::string> read_word(std::string_view text) {
         }
     }
     return word;
+}
+
+bool is_typed_ascii(std::string_view text) {
+    return std::ranges::all_of(text, [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+}
+
+bool is_typed_utf8(std::string_view text) {
+    for (std::size_t at = 0; at < text.size();) {
+        const auto lead = static_cast<unsigned char>(text[at]);
+        const auto further = static_cast<std::size_t>(lead < 0xC0   ? 0
+                                                      : lead < 0xE0 ? 1
+                                                      : lead < 0xF0 ? 2
+                                                                    : 3);
+        if (lead < 0x80) {
+            ++at;
+            continue;
+        }
+        const std::string_view sequence = text.substr(at, further + 1);
+        std::uint32_t code = further == 0 ? 0 : lead & (0x3FU >> further);
+        for (const char c : sequence.substr(1)) {
+            code = code << 6U | (static_cast<unsigned char>(c) & 0x3FU);
+        }
+        const bool special = code < 0xA0 || (code >= 0xD800 && code < 0xF900) ||
+                             (code >= 0xFDD0 && code < 0xFDF0) || (code & 0xFFFEU) == 0xFFFE ||
+                             code >= 0xF0000;
+        if (further == 0 || special || encoded(code) != sequence) {
+            return false;
+        }
+        at += sequence.size();
+    }
+    return true;
 }
 
 Quotes quotes_behind(std::string_view line) {

@@ -12,6 +12,11 @@
 /// anything in it.
 std::optional<std::string> read_word(std::string_view text);
 
+/// Whether line editors put every byte of a text into the line: ASCII only, or UTF-8 of characters without a
+/// meaning of their own. The text decoded and encoded again must be itself.
+bool is_typed_ascii(std::string_view text);
+bool is_typed_utf8(std::string_view text);
+
 /// How the beginning of a command line ends.
 struct Quotes {
     char open = 0;         ///< the quote that is open, 0 for none

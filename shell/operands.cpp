@@ -2,6 +2,7 @@
 #include "shell/operands.h"
 
 #include "shell/expand_path.h"
+#include "shell/line_head.h"
 
 #include <algorithm>
 #include <utility>
@@ -16,35 +17,19 @@ OperandSource& tree_name_source() {
     return source;
 }
 
-/// The place behind the beginning of a command line, read character by character.
-struct Place {
-    char quote = 0;        ///< that is open, 0 for none
-    bool ansi = false;     ///< it is that of $'...', where a backslash escapes
-    bool escaped = false;  ///< a backslash takes the next character
-    bool dollar = false;   ///< so does a "$"
-    bool obscure = false;  ///< quotes may nest or escape in ways that are not followed here
-
-    void read(char c, ShellFamily shell) {
-        if (escaped) {
-            escaped = dollar = false;
-            return;
-        }
-        escaped = c == '\\' && (quote != '\'' || ansi);
-        if (escaped) {
-            obscure = obscure || (quote != 0 && shell == ShellFamily::csh);  // depends on "backslash_quote"
-        } else if (c == quote) {
-            quote = 0;
-        } else if (quote == 0 && (c == '\'' || c == '"')) {
-            quote = c;
-            ansi = c == '\'' && dollar && shell != ShellFamily::other;
-        } else if (quote != '\'') {
-            obscure = obscure || c == '`' || (c == '(' && dollar && quote == '"');
-        }
-        dollar = c == '$' && !dollar && quote != '\'';
+/// A text for where a quote has just been opened: as it is where the quote holds it; else the quote is closed
+/// before it and opened again behind.
+std::optional<std::string> quoted_operand(char quote, std::string_view text, const Shell& shell) {
+    if (double_quoted_word(text, shell) == fmt::format("\"{}\"", text) && text.find(quote) == text.npos) {
+        return std::string(text);
     }
-    /// Whether the quotes say all about what the shell does with a text here.
-    [[nodiscard]] bool is_plain() const { return !escaped && !dollar && !obscure; }
-};
+    const std::optional<std::string> word = shell_text(text, shell);
+    const std::string single = fmt::format("'{}'", inside_single_quotes(text));
+    if (quote == '\'' && word == single) {
+        return inside_single_quotes(text);
+    }
+    return word ? std::optional(fmt::format("{0}{1}{0}", quote, *word)) : std::nullopt;
+}
 
 }  // namespace
 
@@ -54,20 +39,19 @@ std::string selected_tree_name() { return tree_name_source() ? tree_name_source(
 
 std::optional<std::string> operand_behind(std::string_view before, std::string_view name,
                                           const Shell& shell) {
-    Place place;
-    for (const char c : before) {
-        place.read(c, shell.family);
+    const LineHead head(before, shell.family);
+    const Allowed allowed = head.allowed();
+    if (name.empty() || allowed == Allowed::nothing) {
+        return std::nullopt;
     }
-    std::optional<std::string> word = shell_word(name, shell);
-    if (!place.is_plain()) {
-        return word == name ? word : std::nullopt;
+    const std::string text = head.begins_word() ? as_operand(name) : std::string(name);
+    if (allowed == Allowed::ordinary) {
+        // An expression assigns with "=" and goes on behind ",".
+        const bool inert = is_ordinary(text, shell) && text.find_first_of("=,") == text.npos &&
+                           (head.begins_word() || text == as_operand(text));
+        return inert ? std::optional(text) : std::nullopt;
     }
-    if (place.quote == 0) {
-        return word;
-    }
-    const bool closes_quote = name.find(place.quote) != std::string_view::npos;
-    const bool inert = double_quoted_word(name, shell) == fmt::format("\"{}\"", name);
-    return inert && !closes_quote ? std::optional<std::string>(name) : std::nullopt;
+    return head.open_quote() == 0 ? shell_text(text, shell) : quoted_operand(head.open_quote(), text, shell);
 }
 
 std::string with_home_directory(std::string_view name) {

@@ -16,8 +16,10 @@ void set_tree_name_source(OperandSource source);
 std::string selected_tree_name();
 
 /// A file name as it may stand in a command line behind `before`: as one word of the shell or, where its user
-/// has opened quotes, without any. Nothing when the shell would act on it there, or might: behind a "$" or a
-/// backslash, and where commands are substituted within quotes, only an ordinary name is given.
+/// has just opened a quote, as a part of his. Only an ordinary name where it is, or may be, read a second
+/// time
+/// (`eval`, `sh -c`, further on in a quote, in arithmetic, in substitutions); nothing where the shell would
+/// take it for something else, as behind a "$".
 std::optional<std::string> operand_behind(std::string_view before, std::string_view name, const Shell& shell);
 
 /// A selected file name with its home directory in full where it begins with "~" or "~user": quoted, the sign

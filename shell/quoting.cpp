@@ -16,9 +16,12 @@ bool is_letter_or_digit(char c) {
 
 bool is_control(char c) { return static_cast<unsigned char>(c) < 0x20 || c == 0x7F; }
 
-/// Whether the shell takes every byte beyond ASCII for part of a character that it leaves alone.
+/// Whether the shell takes every byte beyond ASCII for part of a character that it leaves alone. ksh93 reads
+/// its line by 80 bytes: what follows a character that is cut there moves to the front of the line.
 bool is_plain(std::string_view text, const Shell& shell) {
-    return is_ascii(text) || (shell.utf8 && shell.family != ShellFamily::unknown && is_plain_utf8(text));
+    const bool reads_utf8 =
+        shell.utf8 && shell.family != ShellFamily::ksh && shell.family != ShellFamily::unknown;
+    return is_ascii(text) || (reads_utf8 && is_plain_utf8(text));
 }
 
 /// Whether single quotes keep the shell and its line editor from acting on a plain text.
@@ -47,10 +50,6 @@ std::string octal_word(std::string_view text, bool plain) {
 
 bool begins_like_an_option(std::string_view name) { return name.starts_with('-') || name.starts_with('+'); }
 
-std::string as_operand(std::string_view name) {
-    return fmt::format("{}{}", begins_like_an_option(name) ? "./" : "", name);
-}
-
 /// A reader of scripts takes bytes as they are.
 constexpr Shell script_reader{.family = ShellFamily::other, .utf8 = true};
 
@@ -64,6 +63,10 @@ bool is_ordinary(std::string_view text, const Shell& shell) {
     };
     return !text.empty() && !text.starts_with('=') && std::ranges::all_of(text, ordinary) &&
            is_plain(text, shell);
+}
+
+std::string as_operand(std::string_view name) {
+    return fmt::format("{}{}", begins_like_an_option(name) ? "./" : "", name);
 }
 
 std::optional<std::string> shell_text(std::string_view text, const Shell& shell) {

@@ -15,8 +15,7 @@
 /// this shell cannot be given.
 std::optional<std::string> shell_text(std::string_view text, const Shell& shell);
 
-/// The same for the name of a file: one that begins like an option, with "-" or "+", gets "./" in front.
-/// Nothing for an empty one.
+/// The same for the name of a file: see `as_operand`. Nothing for an empty one.
 std::optional<std::string> shell_word(std::string_view name, const Shell& shell);
 
 /// A file name in double quotes, for commands that are given so; as `shell_word` where they would not keep
@@ -32,8 +31,12 @@ std::optional<std::string> escaped_word(std::string_view name, const Shell& shel
 /// shell for sh.
 std::string script_text(std::string_view text, ShellFamily shell);
 
-/// The same for the name of a file: "./" as above, and a backslash before blanks where that is enough.
+/// The same for the name of a file: "./" as above where it is needed, and a backslash before blanks where
+/// that is enough.
 std::string script_word(std::string_view name, ShellFamily shell);
+
+/// A file name as an operand: one that begins like an option, with "-" or "+", gets "./" in front.
+std::string as_operand(std::string_view name);
 
 /// Whether a text stands for itself in every place of a command line, unquoted.
 bool is_ordinary(std::string_view text, const Shell& shell);

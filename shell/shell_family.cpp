@@ -6,21 +6,21 @@
 #include <algorithm>
 #include <array>
 #include <string>
+#include <utility>
 
 #include <langinfo.h>
 #include <locale.h>
 
 ShellFamily shell_family(std::string_view path) {
     const std::string name = getfilename(path);
-    const auto named = [&](std::string_view part) { return name.find(part) != std::string::npos; };
-    if (named("csh")) {
-        return ShellFamily::csh;
-    }
-    if (named("bash") || named("ksh")) {
-        return ShellFamily::bash;
-    }
-    if (named("zsh")) {
-        return ShellFamily::zsh;
+    constexpr std::pair<std::string_view, ShellFamily> parts[] = {{"csh", ShellFamily::csh},
+                                                                  {"bash", ShellFamily::bash},
+                                                                  {"ksh", ShellFamily::ksh},
+                                                                  {"zsh", ShellFamily::zsh}};
+    for (const auto& [part, family] : parts) {
+        if (name.find(part) != std::string::npos) {
+            return family;
+        }
     }
     constexpr std::array plain{"sh", "dash", "ash", "busybox"};
     return std::ranges::find(plain, name) != plain.end() ? ShellFamily::other : ShellFamily::unknown;

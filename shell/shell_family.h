@@ -4,9 +4,9 @@
 #include <cstdint>
 #include <string_view>
 
-/// How a shell reads a command line: csh and tcsh; bash and the Korn shells; zsh; sh without more than POSIX
+/// How a shell reads a command line: csh and tcsh; bash; the Korn shells; zsh; sh without more than POSIX
 /// asks for; any other, of which nothing is known.
-enum class ShellFamily : std::uint8_t { csh, bash, zsh, other, unknown };
+enum class ShellFamily : std::uint8_t { csh, bash, ksh, zsh, other, unknown };
 
 /// The family by the base name of a shell's path: "csh", "bash", "ksh" and "zsh" anywhere in it, the names of
 /// plain shells only as the whole name.

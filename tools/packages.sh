@@ -23,7 +23,7 @@ TOUR_PACKAGES=("${DISPLAY_PACKAGES[@]}" imagemagick git vim-tiny)
 TEST_PACKAGES=(
     "${RUN_PACKAGES[@]}" "${DISPLAY_PACKAGES[@]}"
     libgtest-dev libbenchmark-dev
-    bash tcsh ksh zsh
+    bash tcsh ksh zsh dash busybox fish
     procps xclip
 )
 

@@ -2,125 +2,22 @@
 #include "shell/quoting.h"
 
 #include "shell/operands.h"
-#include "terminal/pty.h"
+#include "tests/support/hostile_names.h"
 #include "tests/support/scratch_directory.h"
-#include "tests/support/wait_until.h"
 
-#include <array>
 #include <cstdlib>
-#include <filesystem>
 
 #include <gtest/gtest.h>
 
 namespace {
 
-namespace fs = std::filesystem;
-
-const std::string names[] = {"plain",       "/a-b_c.d+e,f:g@h%i=j",
-                             "two words",   " leading",
-                             "trailing ",   "a'b",
-                             "a\"b",        "a`id`b",
-                             "$(id)",       "${HOME}",
-                             "a;id",        "a&b",
-                             "a|b",         "a<b>c",
-                             "a{b,c}d",     "a[b]c",
-                             "*",           "~",
-                             "#x",          "!x",
-                             "a!b",         "^a^b",
-                             "\\",          "a\\b",
-                             "a\\",         "-x",
-                             "=ls",         "a\nb",
-                             "a\\\nb",      "a\tb",
-                             "a\rb",        "\x1b[A",
-                             "a\x15id",     "ab\x03",
-                             "ab\x04",      "ab\x16",
-                             "ab\x7f",      "\x01",
-                             "caf\xC3\xA9", "\xE4\xBD\xA0",
-                             "bad\xFF\xFE", "31m\xC2\x9B",
-                             "cut\xC3",     "''",
-                             "a' ; id '",   "$'x'",
-                             "%1",          "a 'c\"d\\!f\ng"};
-
-/// What a shell must be given so that it reads the name: a leading "-" gets its "./".
-std::string as_operand(const std::string& name) { return name.starts_with('-') ? "./" + name : name; }
-
-struct LiveShellRow {
-    const char* name;
-    const char* path;
-    std::vector<std::string> arguments;
-    int refused;  ///< how many of the names it cannot be given
-};
-
-class LiveShell : public testing::TestWithParam<LiveShellRow> {
-  protected:
-    /// Starts the shell with a script `show` in its directory that writes its arguments, each ended by NUL.
-    void SetUp() override {
-        directory_.write_script("show", "#!/bin/sh\nprintf '%s\\000' \"$@\" > out.part\nmv out.part out\n");
-        std::string error;
-        pty_ =
-            terminal::Pty::start({.path = GetParam().path,
-                                  .arguments = GetParam().arguments,
-                                  .environment = {"PATH=/usr/bin:/bin", "HOME=" + directory_.path().string(),
-                                                  "LC_ALL=C.UTF-8", "TERM=xterm-256color", "USER=u"},
-                                  .directory = directory_.path()},
-                                 {.columns = 200, .rows = 24}, error);
-        ASSERT_NE(pty_, nullptr) << error;
-    }
-
-    /// What `show` was given for a typed word.
-    std::string arguments_for(const std::string& word) {
-        const fs::path out = directory_ / "out";
-        fs::remove(out);
-        pty_->write("./show " + word + "\n");
-        (void)wait_until([&] {
-            std::array<char, 4096> buffer{};
-            while (pty_->read(buffer).state == terminal::Pty::ReadState::data) {
-            }
-            pty_->flush();
-            return fs::exists(out);
-        });
-        return read_file(out);
-    }
-
-  private:
-    ScratchDirectory directory_;
-    std::unique_ptr<terminal::Pty> pty_;
-};
-
-TEST_P(LiveShell, SeesExactlyTheNameThatWasTyped) {
-    if (!fs::exists(GetParam().path)) {
-        GTEST_SKIP() << GetParam().path << " is not installed";
-    }
-    for (const auto quoting : {shell_word, double_quoted_word}) {
-        int refused = 0;
-        for (const std::string& name : names) {
-            const auto word = quoting(name, Shell{shell_family(GetParam().path), true});
-            if (!word) {
-                ++refused;
-                continue;
-            }
-            EXPECT_FALSE(has_control_characters(*word)) << *word;
-            EXPECT_EQ(arguments_for(*word), as_operand(name) + '\0') << *word;
-        }
-        EXPECT_EQ(refused, GetParam().refused);
-    }
-}
-
-INSTANTIATE_TEST_SUITE_P(All, LiveShell,
-                         testing::Values(LiveShellRow{"bash", "/bin/bash", {"bash", "--norc", "-i"}, 0},
-                                         LiveShellRow{"ksh", "/bin/ksh93", {"ksh93", "-i"}, 0},
-                                         LiveShellRow{"tcsh", "/bin/tcsh", {"tcsh", "-f"}, 3},
-                                         LiveShellRow{"zsh", "/bin/zsh", {"zsh", "-f", "-i"}, 0},
-                                         LiveShellRow{"sh", "/bin/sh", {"sh", "-i"}, 15}),
-                         [](const auto& test) { return test.param.name; });
-
 TEST(SystemWord, GivesTheSystemsShellExactlyTheName) {
     const ScratchDirectory directory;
     const std::string out = directory / "out";
-    for (const std::string& name : names) {
-        const std::string line = "printf '%s\\000' " + script_word(name, ShellFamily::other) + " >" + out;
+    for (const HostileName& row : hostile_names) {
+        const std::string line = "printf '%s\\000' " + script_word(row.name, ShellFamily::other) + " >" + out;
         ASSERT_EQ(std::system(line.c_str()), 0) << line;
-        EXPECT_EQ(read_file(out), as_operand(name) + '\0') << line;
+        EXPECT_EQ(read_file(out), as_operand(row.name) + '\0') << line;
     }
 }
 
@@ -158,29 +55,78 @@ TEST(HostName, IsMadeOfNameCharactersOnly) {
     }
 }
 
-// Where the shell acted on the name, it would run "id".
-TEST(Operand, IsNotPutWhereTheShellMightActOnIt) {
+TEST(Operand, IsGivenWhereTheShellTakesItForAName) {
+    using Word = std::optional<std::string>;
     const std::string inert = "a;id";
+    const Word nothing;
+    constexpr Shell bash{ShellFamily::bash, true};
+    constexpr Shell csh{ShellFamily::csh, true};
+    constexpr Shell zsh{ShellFamily::zsh, true};
+    constexpr Shell other{ShellFamily::other, true};
     const struct {
         std::string before;
         std::string name;
         Shell shell;
-        std::optional<std::string> operand;
+        Word operand;
     } cases[] = {
-        {"vi ", inert, Shell{ShellFamily::bash, true}, "'a;id'"},
-        {"vi \"$x", inert, Shell{ShellFamily::bash, true}, inert},
-        {"vi '$(`\\' ", inert, Shell{ShellFamily::bash, true}, "'a;id'"},
-        {"vi \\", inert, Shell{ShellFamily::bash, true}, std::nullopt},
-        {"vi \\\\", inert, Shell{ShellFamily::bash, true}, "'a;id'"},
-        {"vi $", "a\\';id;'", Shell{ShellFamily::bash, true}, std::nullopt},
-        {"vi $$", inert, Shell{ShellFamily::bash, true}, "'a;id'"},
-        {"vi \"$", "(id)", Shell{ShellFamily::bash, true}, std::nullopt},
-        {"vi \"$(cat ", inert, Shell{ShellFamily::bash, true}, std::nullopt},
-        {"vi \"$(cat ", "ordinary", Shell{ShellFamily::bash, true}, "ordinary"},
-        {"vi `cat ", "a`;id;`", Shell{ShellFamily::bash, true}, std::nullopt},
-        {"vi $'it\\'s ", inert, Shell{ShellFamily::bash, true}, inert},
-        {"vi $'it\\'s ", inert, Shell{ShellFamily::other, true}, "'a;id'"},
-        {"vi \"a\\\"", inert, Shell{ShellFamily::csh, true}, std::nullopt},
+        {"vi ", inert, bash, "'a;id'"},
+        {"vi \"", inert, bash, inert},
+        {"vi \"dir/", inert, bash, inert},
+        {"vi '$(`\\' ", inert, bash, "'a;id'"},
+        {"vi \"${HOME}\"/", inert, bash, "'a;id'"},
+        {"vi $$", inert, bash, "'a;id'"},
+        {"vi \\\\", inert, bash, "'a;id'"},
+        {"vi $'it\\'s' ", inert, bash, "'a;id'"},
+        {"vi $'it\\'s' ", "ordinary", other, "ordinary"},
+        {"(cd x && vi ", inert, bash, "'a;id'"},
+        {"[ -f ", inert, bash, "'a;id'"},
+        {"make 2>&1 | tee ", inert, bash, "'a;id'"},
+        {"sh -c x; vi ", inert, bash, "'a;id'"},
+        {"sh ", inert, bash, "'a;id'"},
+        {"gcc -c ", inert, bash, "'a;id'"},
+        {"make ", inert, bash, "'a;id'"},
+        {"cd src/sh; gcc -c ", inert, bash, "'a;id'"},
+        // the quote closed and opened again
+        {"vi \"", "$(id)", bash, "\"'$(id)'\""},
+        {"vi '", "it's", bash, "it'\\''s"},
+        {"vi '", "a\nb", bash, "'$'a\\012b''"},
+        {"vi '", "-x y", bash, "./-x y"},
+        {"vi --file='", "-x y", bash, "-x y"},
+        {"vi dir/", "-x y", bash, "'-x y'"},
+        // the first characters taken for something else
+        {"vi \\", "ordinary", bash, nothing},
+        {"vi $", "HOME", bash, nothing},
+        {"vi $x", "ordinary", bash, nothing},
+        {"vi \"$x", inert, bash, nothing},
+        {"vi $x:", "ordinary", csh, nothing},
+        {"vi ~", "root", bash, nothing},
+        // within more than a quote
+        {"vi \"$", "(id)", bash, nothing},
+        {"vi \"$(cat ", inert, bash, nothing},
+        {"vi \"$(cat ", "ordinary", bash, "ordinary"},
+        {"vi `cat ", "a`;id;`", bash, nothing},
+        {"vi \"${x:-\"", inert, bash, nothing},
+        {"vi $'", inert, bash, nothing},
+        {"vi \"a\\\"", inert, csh, nothing},
+        {"vi 'a\\' ", inert, csh, nothing},
+        {"vi ''", inert, zsh, nothing},
+        {"cat <<< ", inert, bash, nothing},
+        // read a second time
+        {"foo 'ls ", inert, bash, nothing},
+        {"foo 'ls ", "-x", bash, nothing},
+        {"sh -c \"", inert, bash, nothing},
+        {"find . -exec /bin/bash -ec '", inert, bash, nothing},
+        {"ssh host cat ", inert, bash, nothing},
+        {"scp host:", inert, bash, nothing},
+        {"make X=", inert, bash, nothing},
+        {"eval vi ", inert, bash, nothing},
+        {"eval vi ", "ordinary", bash, "ordinary"},
+        {"echo \"$((", "a=b", bash, nothing},
+        {"echo $((", "a[$(id)]", bash, nothing},
+        {"x[", "$(id)", bash, nothing},
+        {"ls >& dir/", "$(id)", bash, nothing},
+        {"ls >& dir/", inert, zsh, "'a;id'"},
+        {"vi ", inert, {ShellFamily::unknown, true}, nothing},
     };
     for (const auto& row : cases) {
         EXPECT_EQ(operand_behind(row.before, row.name, row.shell), row.operand) << row.before;
