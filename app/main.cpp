@@ -7,6 +7,7 @@
 
 int main(int argc, char** argv) {
     start_up(std::vector<std::string>(argv, argv + argc));
+    on_lost_display(clean_up_without_display);
     xv_main_loop(main_window());
     clean_up();
     destroy_windows();

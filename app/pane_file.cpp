@@ -17,10 +17,6 @@ namespace {
 /// What a text pane still shows and edits without a wait.
 constexpr std::size_t longest_text = std::size_t{16} * 1024 * 1024;
 
-bool agreed(Frame& frame, const std::string& question) {
-    return notice_prompt(frame, question, {"Yes", "Cancel"}) == 0;
-}
-
 }  // namespace
 
 std::string PaneFile::path(std::string_view directory, std::string_view name, std::string_view usual_name) {

@@ -13,6 +13,8 @@
 #include "ui/notebook.h"
 #include "ui/send_email.h"
 
+#include <cstdio>
+
 #include <fmt/printf.h>
 #include <unistd.h>
 
@@ -31,20 +33,33 @@ void remove_left_files() {
 }  // namespace
 
 void clean_up() {
-    end_status_display();
-    save_history_at_quit();
     if (!chosen_by_user) {
+        const std::string trouble = clean_up_without_display();
+        if (!trouble.empty()) {
+            std::fprintf(stderr, "%s\n", trouble.c_str());
+        }
         return;
     }
+    end_status_display();
     for (TextPane* pane : {&message_board().text, &notebook().text, &send_email().text}) {
         clear_window(*pane);
     }
     remove_left_files();
 }
 
+std::string clean_up_without_display() {
+    end_status_display();
+    return save_history_at_quit();
+}
+
 void Quit_button() {
-    if (notice_prompt(main_window(), "Do you really want to quit ?", {"Yes", "Cancel"}) == 0) {
-        chosen_by_user = true;
-        notify_stop();
+    if (!agreed(main_window(), "Do you really want to quit ?")) {
+        return;
     }
+    const std::string trouble = save_history_at_quit();
+    if (!trouble.empty() && !agreed(main_window(), trouble + ". Quit without it ?")) {
+        return;
+    }
+    chosen_by_user = true;
+    notify_stop();
 }

@@ -37,6 +37,7 @@
 #include "ui/text_editor_setup.h"
 #include "ui/windows.h"
 
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 
@@ -167,6 +168,7 @@ void log_in_to(const std::string& host) {
 }  // namespace
 
 void start_up(std::vector<std::string> arguments) {
+    std::signal(SIGPIPE, SIG_IGN);  // nobody may be reading the standard error
     read_process_values();
     connect_to_display(arguments);
     make_windows();

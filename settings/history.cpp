@@ -37,6 +37,12 @@ int write_history(const ScrollingList& list, const std::string& path, Durability
                      {.exact_mode = owner_only, .durability = durability});
 }
 
+/// Saves all rows; why that failed, or an empty text.
+std::string save_failure(const ScrollingList& list, const std::string& path) {
+    const int error = write_history(list, path, Durability::synced);
+    return error == 0 ? std::string() : fmt::format("{} not written: {}", path, std::strerror(error));
+}
+
 struct Direction {
     int step;
     std::string_view at_end;
@@ -93,11 +99,11 @@ int load_history(ScrollingList& list, const std::string& path) {
 }
 
 int save_history(const ScrollingList& list, const std::string& path) {
-    if (const int error = write_history(list, path, Durability::synced); error != 0) {
-        report(fmt::format("{} not written: {}\n", path, std::strerror(error)));
-        return 0;
+    const std::string failure = save_failure(list, path);
+    if (!failure.empty()) {
+        report(failure + "\n");
     }
-    return 1;
+    return failure.empty() ? 1 : 0;
 }
 
 void clear_history(ScrollingList& list) { list.delete_rows(); }
@@ -153,10 +159,9 @@ void make_history_menu_at_startup() {
     }
 }
 
-void save_history_at_quit() {
-    if (command_history_setup().save_to_history_file.value() == when_quitting) {
-        (void)save_history(history(), history_path());
-    }
+std::string save_history_at_quit() {
+    const bool wanted = command_history_setup().save_to_history_file.value() == when_quitting;
+    return wanted ? save_failure(history(), history_path()) : std::string();
 }
 
 void history_previous(HistoryWalker walker) {

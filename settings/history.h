@@ -36,8 +36,9 @@ void record_command(const std::string& command);
 void load_history_at_startup();
 /// Makes the menu of the main window's history button, unless "Number of entries" is below 1.
 void make_history_menu_at_startup();
-/// Saves the history when "Save To History File" says so. To be called when the tool ends.
-void save_history_at_quit();
+/// Saves the history when "Save To History File" says so. To be called when the tool ends. Returns why it
+/// could not be saved, or an empty text.
+[[nodiscard]] std::string save_history_at_quit();
 
 /// Who walks the history: a key of the terminal pane or a button of the main window.
 enum class HistoryWalker : std::uint8_t { key, button };

@@ -14,13 +14,16 @@
 
 #include <array>
 #include <csignal>
+#include <cstdio>
 #include <cstdlib>
 #include <memory>
+#include <utility>
 
 #include <X11/Xlib.h>
 #include <X11/Xutil.h>
 #include <fcntl.h>
 #include <unistd.h>
+#include <xcb/xcb.h>
 
 namespace {
 
@@ -70,6 +73,45 @@ std::unique_ptr<QtArguments> qt_arguments;
 std::unique_ptr<QApplication> application;
 std::string main_geometry;
 std::array<int, 2> signal_pipe{-1, -1};
+LastAct last_act = nullptr;
+QtMessageHandler usual_messages = nullptr;
+
+bool display_is_lost() {
+    auto* const x11 =
+        application ? application->nativeInterface<QNativeInterface::QX11Application>() : nullptr;
+    return x11 != nullptr && xcb_connection_has_error(x11->connection()) != 0;
+}
+
+/// Nothing of Qt is destroyed: its destructors would talk to the display.
+[[noreturn]] void end_without_display() {
+    const std::string trouble = last_act == nullptr ? std::string() : std::exchange(last_act, nullptr)();
+    const char* const reason =
+        display_is_lost() ? "Lost the connection to the display" : "Ended by the toolkit";
+    std::fprintf(stderr, "%s%s%s\n", reason, trouble.empty() ? "" : ": ", trouble.c_str());
+    _exit(1);
+}
+
+/// The first of the functions that run at exit. While the toolkit lives, it is Qt that calls exit: its
+/// connection has broken.
+void check_end() {
+    if (application) {
+        end_without_display();
+    }
+}
+
+/// What Qt has to say of a lost display is said in our own line.
+void pass_message(QtMsgType type, const QMessageLogContext& context, const QString& text) {
+    if (!display_is_lost()) {
+        usual_messages(type, context, text);
+    }
+}
+
+/// A display that goes ends the process from within, by way of Qt's exit or of Xlib's error handler.
+void end_in_order_without_display() {
+    usual_messages = qInstallMessageHandler(pass_message);
+    XSetIOErrorHandler([](Display*) -> int { end_without_display(); });
+    std::atexit(check_end);
+}
 
 void note_signal(int /*number*/) {
     const char byte = 0;
@@ -127,7 +169,6 @@ std::string xv_init(std::vector<std::string>& arguments) {
         return display_failure(options.display);
     }
     load_resource_database(XResourceManagerString(display), options.resources);
-    XCloseDisplay(display);
 
     std::vector<std::string> texts{arguments.empty() ? "orvik" : arguments.front(), "-platform", "xcb"};
     if (!options.display.empty()) {
@@ -135,11 +176,13 @@ std::string xv_init(std::vector<std::string>& arguments) {
     }
     qt_arguments = std::make_unique<QtArguments>(std::move(texts));
     application = std::make_unique<QApplication>(qt_arguments->count, qt_arguments->pointers.data());
+    XCloseDisplay(display);  // not sooner: a server without clients begins anew, and refuses Qt meanwhile
     application->setApplicationName(QStringLiteral("orvik"));
     application->setApplicationDisplayName(QString());
     application->setQuitOnLastWindowClosed(false);
     main_geometry = options.geometry;
     apply_theme();
+    end_in_order_without_display();
     end_on_signals();
     return {};
 }
@@ -159,6 +202,8 @@ void xv_main_loop(Frame& main_window) {
 void notify_stop() { QApplication::exit(); }
 
 void xv_destroy() { application.reset(); }
+
+void on_lost_display(LastAct act) { last_act = act; }
 
 void set_pointer_limits(int multiclick_microseconds, int drag_pixels) {
     QApplication::setDoubleClickInterval(multiclick_microseconds / 1000);

@@ -23,6 +23,12 @@ void notify_stop();
 /// Ends the toolkit; all windows are gone by then.
 void xv_destroy();
 
+/// What is done when the connection to the display has broken. The windows can still be read, but show
+/// nothing more. Returns what went wrong, in a few words, or an empty text.
+using LastAct = std::string (*)();
+/// Sets it. Such an end is told in one line on the standard error, and its exit status is 1.
+void on_lost_display(LastAct act);
+
 /// Longest time between the clicks of a double click, in microseconds, and how far in pixels the pointer may
 /// move before a press becomes a drag.
 void set_pointer_limits(int multiclick_microseconds, int drag_pixels);

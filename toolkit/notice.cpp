@@ -10,7 +10,8 @@
 #include <algorithm>
 #include <vector>
 
-int notice_prompt(Frame& owner, std::string_view message, std::initializer_list<std::string_view> buttons) {
+int notice_prompt(Frame& owner, std::string_view message, std::initializer_list<std::string_view> buttons,
+                  DefaultButton default_button) {
     QMessageBox box(owner.widget());
     box.setTextFormat(Qt::PlainText);
     box.setText(to_qstring(message));
@@ -21,9 +22,13 @@ int notice_prompt(Frame& owner, std::string_view message, std::initializer_list<
         made.push_back(box.addButton(without_mnemonic(label), QMessageBox::ActionRole));
         made.back()->setAccessibleName(to_qstring(label));
     }
-    box.setDefaultButton(made.front());
+    box.setDefaultButton(default_button == DefaultButton::first ? made.front() : made.back());
     box.setEscapeButton(made.back());
     box.exec();
     const auto chosen = std::find(made.begin(), made.end(), box.clickedButton());
     return static_cast<int>(chosen - made.begin());
+}
+
+bool agreed(Frame& owner, std::string_view question) {
+    return notice_prompt(owner, question, {"Yes", "Cancel"}, DefaultButton::last) == 0;
 }

@@ -52,11 +52,11 @@ struct XDisplay::Connection {
         return result;
     }
 
-    void key(KeyCode code, bool down) const {
-        XTestFakeKeyEvent(display, code, down ? True : False, CurrentTime);
+    void key(KeyCode code, bool down, unsigned long wait = 0) const {
+        XTestFakeKeyEvent(display, code, down ? True : False, wait);
     }
 
-    void press(KeySym symbol, KeySym held) const {
+    void press(KeySym symbol, KeySym held, unsigned long wait = 0) const {
         const KeyCode code = XKeysymToKeycode(display, symbol);
         if (held == NoSymbol && XkbKeycodeToKeysym(display, code, 0, 0) != symbol) {
             held = XK_Shift_L;
@@ -65,7 +65,7 @@ struct XDisplay::Connection {
         if (held_code != 0) {
             key(held_code, true);
         }
-        key(code, true);
+        key(code, true, wait);
         key(code, false);
         if (held_code != 0) {
             key(held_code, false);
@@ -101,9 +101,9 @@ XDisplay::XDisplay() : connection_(std::make_unique<Connection>()) {
 
 XDisplay::~XDisplay() { XCloseDisplay(connection_->display); }
 
-void XDisplay::type(std::string_view text) {
+void XDisplay::type(std::string_view text, unsigned long wait) {
     for (const char character : text) {
-        connection_->press(key_symbol(character), NoSymbol);
+        connection_->press(key_symbol(character), NoSymbol, wait);
     }
 }
 
@@ -178,5 +178,10 @@ void XDisplay::close(WindowId window) {
     event.xclient.data.l[1] = 2;  // the request comes from a pager: the user's own wish (EWMH)
     XSendEvent(connection_->display, connection_->root(), False,
                SubstructureRedirectMask | SubstructureNotifyMask, &event);
+    XFlush(connection_->display);
+}
+
+void XDisplay::kill_client(WindowId window) {
+    XKillClient(connection_->display, window);
     XFlush(connection_->display);
 }

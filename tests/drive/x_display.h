@@ -21,8 +21,9 @@ class XDisplay {
     XDisplay(const XDisplay&) = delete;
     XDisplay& operator=(const XDisplay&) = delete;
 
-    /// Types text of ASCII characters; a line feed is the Return key, a tab the Tab key.
-    void type(std::string_view text);
+    /// Types text of ASCII characters; a line feed is the Return key, a tab the Tab key. The server waits
+    /// before each key, in milliseconds.
+    void type(std::string_view text, unsigned long wait = 0);
     /// Presses and releases one key by its X name ("Return", "Escape", "c"), with others held: "Control_L".
     void press_key(std::string_view key, std::string_view held = {});
     /// Clicks in the middle of a place; button 1 is the left one, 2 the middle one.
@@ -39,6 +40,8 @@ class XDisplay {
     void resize(WindowId window, int width, int height);
     /// Asks the window manager to close the window, as its close button does.
     void close(WindowId window);
+    /// Breaks the connection of the program that has made the window.
+    void kill_client(WindowId window);
 
   private:
     struct Connection;

@@ -54,4 +54,12 @@ TEST_F(StartupFailure, RemovedDirectory) {
     EXPECT_EQ(failed_output(), std::string("Can't read current directory: ") + std::strerror(ENOENT) + "\n");
 }
 
+// Nobody may be reading the standard error any more.
+TEST_F(StartupFailure, HasItsStatusWithAClosedPipe) {
+    setup_.without = {"LOGNAME"};
+    setup_.options = {"-c", "exec 2> >(exit); wait $!; " ORVIK_PROGRAM};
+    setup_.program = "/bin/bash";
+    EXPECT_EQ(failed_output(), "");
+}
+
 }  // namespace

@@ -21,15 +21,4 @@ TEST_F(StatusFile, DiffersBetweenInstancesAndGoesWithItsOwn) {
     EXPECT_FALSE(fs::exists(status_path(1)));
 }
 
-TEST_F(StatusFile, GoesWithTheClosedWindow) {
-    start();
-    ASSERT_TRUE(fs::exists(status_path()));
-    display().close(x_window());
-    const Accessible program = program_->application();
-    ASSERT_TRUE(wait_until([&] { return program.find({"push button", "Yes"}).showing(); }));
-    EXPECT_TRUE(program.find({"push button", "Yes"}).press());
-    EXPECT_EQ(program_->process().wait_for_end(patience), 0);
-    EXPECT_FALSE(fs::exists(status_path()));
-}
-
 }  // namespace

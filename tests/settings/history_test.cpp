@@ -59,7 +59,7 @@ TEST_F(HistoryTest, IsSavedWhenAndWhereItsSetupSays) {
         command_history_setup().history_file_stored.set_value(where);
         record_command("make");
         EXPECT_EQ(read_file(path), after_command ? header + "make\n" : "") << when << where;
-        save_history_at_quit();
+        EXPECT_EQ(save_history_at_quit(), "");
         EXPECT_EQ(read_file(path), after_quit ? header + "make\n" : "") << when << where;
         std::filesystem::remove(path);
     }

@@ -209,15 +209,16 @@ TEST_F(FrameTest, ATimerFiresOnceUnlessReplacedOrCancelled) {
 }
 
 TEST_F(FrameTest, NoticeGivesTheIndexOfItsAnswer) {
-    const auto answer_with = [](Qt::Key key) {
+    const auto answer_with = [](Qt::Key key, DefaultButton button) {
         QTimer::singleShot(0, [key] {
             ASSERT_TRUE(QTest::qWaitFor([] { return QApplication::activeModalWidget() != nullptr; }));
             QTest::keyClick(QApplication::activeModalWidget(), key);
         });
-        return notice_prompt(Frame::base(), "<b>Really</b> ?", {"Yes", "No", "Cancel"});
+        return notice_prompt(Frame::base(), "<b>Really</b> ?", {"Yes", "No", "Cancel"}, button);
     };
-    EXPECT_EQ(answer_with(Qt::Key_Return), 0);
-    EXPECT_EQ(answer_with(Qt::Key_Escape), 2);
+    EXPECT_EQ(answer_with(Qt::Key_Return, DefaultButton::first), 0);
+    EXPECT_EQ(answer_with(Qt::Key_Return, DefaultButton::last), 2);
+    EXPECT_EQ(answer_with(Qt::Key_Escape, DefaultButton::first), 2);
 }
 
 }  // namespace
