@@ -70,6 +70,8 @@ bool TextPane::modified() const { return widget_->document()->isModified(); }
 
 void TextPane::set_unmodified() { widget_->document()->setModified(false); }
 
+void TextPane::set_line_limit(int lines) { widget_->setMaximumBlockCount(lines + 1); }
+
 void TextPane::set_font(const Font& font) {
     widget_->setFont(font.qt());
     set_display_size(columns_, lines_);

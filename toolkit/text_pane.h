@@ -23,6 +23,8 @@ class TextPane {
     /// Whether the text has been changed since it was last set, reset or called unmodified.
     [[nodiscard]] bool modified() const;
     void set_unmodified();
+    /// Keeps the last so many lines, and one that is not ended. What is edited cannot be undone then.
+    void set_line_limit(int lines);
     void set_font(const Font& font);
     /// Asks for room for so many characters and lines.
     void set_display_size(int columns, int lines);

@@ -15,7 +15,10 @@ struct MessageBoard : CommandFrame {
         save.set_default();
         file_name.set_text("messageboard.txt");
         text.set_display_size(72, 16);
+        text.set_line_limit(most_lines);
     }
+
+    static constexpr int most_lines = 10'000;
 
     Row buttons{panel};
     Button save{buttons, "Save", MessageBoardSave};

@@ -26,6 +26,16 @@ TEST(Messages, AreAppendedWhereverTheInsertionPointIs) {
     EXPECT_EQ(window.text.text(), "");
 }
 
+TEST(Messages, TheOldestLinesAreDropped) {
+    const Frame base{"Base"};
+    Window window;
+    window.text.set_line_limit(3);
+    for (const char* line : {"one\n", "two\nthree\n", "four\n"}) {
+        display_message(window.text, line);
+    }
+    EXPECT_EQ(window.text.text(), "two\nthree\nfour\n");
+}
+
 TEST(Messages, ErrorNumbersHaveTheirTexts) {
     const Frame base{"Base"};
     Window window;
