@@ -30,3 +30,12 @@ CurrentCommand find_command(std::string_view line, const PromptSettings& setting
     return found != std::string_view::npos ? behind(line, found + settings.delimiter.size())
                                            : CurrentCommand{.problem = CommandProblem::delimiter_not_found};
 }
+
+bool shows_command(std::string_view line, const PromptSettings& settings, std::string_view command) {
+    const std::string_view mark = settings.look_for_delimiter ? settings.delimiter : settings.prompt;
+    if (mark.empty() || !line.ends_with(command)) {
+        return false;
+    }
+    line.remove_suffix(command.size());
+    return !line.empty() && line.substr(0, line.size() - 1).ends_with(mark);
+}

@@ -31,3 +31,7 @@ struct CurrentCommand {
 
 /// What follows the prompt, and the one character behind it, on a line.
 CurrentCommand find_command(std::string_view line, const PromptSettings& settings);
+
+/// Whether a line ends with the prompt's mark, the one character behind it, and this command. What stands
+/// before the mark may be anything: a shell prompts behind what was typed ahead of its prompt.
+bool shows_command(std::string_view line, const PromptSettings& settings, std::string_view command);

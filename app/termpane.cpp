@@ -3,11 +3,11 @@
 #include "app/termpane.h"
 
 #include "app/command_line.h"
+#include "app/filing.h"
 #include "app/selection_commands.h"
 #include "settings/history.h"
 #include "settings/user_buttons.h"
 #include "shell/status.h"
-#include "ui/command_history_setup.h"
 #include "ui/default_settings.h"
 #include "ui/function_keys.h"
 #include "ui/main_window.h"
@@ -83,20 +83,6 @@ bool fits(const KeyEvent& event, Key key, char letter) {
 bool is_return(const KeyEvent& event) {
     return (event.key == Key::enter || event.key == Key::keypad_enter) &&
            event.modifiers == terminal::Modifiers{};
-}
-
-/// The command on the line goes into the history and into "Last Command:". The shell gets the key afterwards:
-/// its answer would change the line.
-void file_typed_command() {
-    constexpr int history_on = 0;
-    if (command_history_setup().history_list.value() != history_on || main_window().termpane.child() < 0) {
-        return;
-    }
-    if (const std::optional<std::string> command = typed_command(CommandAsker::return_key)) {
-        record_command(*command);
-        main_window().set_left_footer("");
-        default_settings().last_command.set_text(*command);
-    }
 }
 
 /// The terminal pane's own procedure for the keys of line editing; whether the key is done with.

@@ -2,7 +2,6 @@
 // Commands cut out of the terminal's line.
 #include "app/typed_command.h"
 
-#include "app/current_command.h"
 #include "shell/shell.h"
 #include "ui/command_window.h"
 #include "ui/default_settings.h"
@@ -40,25 +39,31 @@ Frame& window_of(CommandAsker asker) {
     return asker == CommandAsker::copy_button ? static_cast<Frame&>(command_window()) : main_window();
 }
 
-std::optional<std::string> command_on(const TerminalPane::CurrentLine& line, CommandAsker asker) {
+template <typename Function>
+auto with_prompt_settings(Function function) {
     const DefaultSettings& settings = default_settings();
     const std::string prompt = settings.prompt.text();
     const std::string delimiter = settings.prompt_ending_delimiter.text();
-    CurrentCommand found = find_command(line.before + line.behind,
-                                        {.look_for_delimiter = settings.look_for_ending_delimiter.value(),
-                                         .prompt = prompt,
-                                         .delimiter = delimiter});
-    if (found.problem != CommandProblem::none) {
-        window_of(asker).set_left_footer(text_of(found.problem, asker));
-        return std::nullopt;
-    }
-    return std::move(found.text);
+    return function(PromptSettings{.look_for_delimiter = settings.look_for_ending_delimiter.value(),
+                                   .prompt = prompt,
+                                   .delimiter = delimiter});
 }
 
 }  // namespace
 
-std::optional<std::string> typed_command(CommandAsker asker) {
-    return command_on(main_window().termpane.current_line(), asker);
+CurrentCommand command_on(const TerminalPane::CurrentLine& line) {
+    return with_prompt_settings(
+        [&](const PromptSettings& settings) { return find_command(line.before + line.behind, settings); });
+}
+
+bool shows_command(const TerminalPane::CurrentLine& line, std::string_view command) {
+    return with_prompt_settings([&](const PromptSettings& settings) {
+        return shows_command(line.before + line.behind, settings, command);
+    });
+}
+
+void tell_problem(CommandProblem problem, CommandAsker asker) {
+    window_of(asker).set_left_footer(text_of(problem, asker));
 }
 
 std::optional<std::string> take_typed_command(CommandAsker asker) {
@@ -67,12 +72,14 @@ std::optional<std::string> take_typed_command(CommandAsker asker) {
         return std::nullopt;
     }
     const TerminalPane::CurrentLine line = main_window().termpane.current_line();
-    std::optional<std::string> command = command_on(line, asker);
-    if (command) {
-        if (!line.behind.empty() || !line.settled) {
-            type_control('E');  // line editors erase only what is before the insertion point
-        }
-        type_control('U');
+    CurrentCommand command = command_on(line);
+    if (command.problem != CommandProblem::none) {
+        tell_problem(command.problem, asker);
+        return std::nullopt;
     }
-    return command;
+    if (!line.behind.empty() || !line.settled) {
+        type_control('E');  // line editors erase only what is before the insertion point
+    }
+    type_control('U');
+    return std::move(command.text);
 }

@@ -1,15 +1,24 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/current_command.h"
+#include "toolkit/pane/pane.h"
+
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 
 /// Whose messages tell that no command was found in the terminal's line.
 enum class CommandAsker : std::uint8_t { return_key, move_button, copy_button };
 
-/// The command on the terminal's current line, as far as "Default Settings" tell where it begins. Nothing,
-/// and the left footer of the asker's window says why, when there is none.
-std::optional<std::string> typed_command(CommandAsker asker);
-/// The same, taken out of the shell's line: that is empty then.
+/// The command on a line of the terminal, as far as "Default Settings" tell where it begins.
+CurrentCommand command_on(const TerminalPane::CurrentLine& line);
+/// Whether a line of the terminal shows this command behind the prompt.
+bool shows_command(const TerminalPane::CurrentLine& line, std::string_view command);
+/// Says in the left footer of the asker's window why there is no command.
+void tell_problem(CommandProblem problem, CommandAsker asker);
+
+/// The command on the terminal's current line, taken out of the shell's line: that is empty then. Nothing,
+/// and the footer says why, when there is none.
 std::optional<std::string> take_typed_command(CommandAsker asker);

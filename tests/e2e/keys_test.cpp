@@ -12,8 +12,11 @@ constexpr int long_command_window_line = 79;
 
 class Keys : public OrvikTest {
   protected:
-    /// Starts bash with settings of the setup file beside those that filing commands needs.
-    void start_bash(std::map<int, std::string> settings = {}) {
+    /// Starts a shell with settings of the setup file beside those that filing commands needs.
+    void start_bash(const std::map<int, std::string>& settings = {}) {
+        start_with_settings("/bin/bash", settings);
+    }
+    void start_with_settings(const std::string& shell, std::map<int, std::string> settings) {
         settings.merge(std::map<int, std::string>{{editing_line, "1"},
                                                   {35, "3"},
                                                   {37, "20"},
@@ -23,7 +26,7 @@ class Keys : public OrvikTest {
                                                   {55, "1"},
                                                   {56, ">"}});
         home_.write("Orvik.setup", setup_text(settings));
-        start_with_shell("/bin/bash");
+        start_with_shell(shell);
         expect_prompt("ready> ");
     }
     /// Waits until the terminal's text ends so. What is typed ahead of a prompt is drawn in its place.
@@ -83,6 +86,32 @@ TEST_F(Keys, ReturnFilesTheWholeEditedLine) {
     expect_last_command(wraps);
 }
 
+TEST_F(Keys, CommandsTypedFasterThanTheirEchoAreFiled) {
+    for (const char* shell : {"/bin/bash", "/bin/tcsh"}) {
+        SCOPED_TRACE(shell);
+        std::filesystem::remove(home_ / ".orvik-history");
+        start_with_settings(shell, {{37, "1000"}});
+        std::string rows;
+        for (int i = 100; i < 200; ++i) {
+            rows += "echo " + std::to_string(i) + '\n';
+        }
+        constexpr unsigned long milliseconds_a_key = 3;
+        display().type(rows, milliseconds_a_key);
+        expect_history(rows);
+        TearDown();
+        program_.reset();
+    }
+}
+
+/// What a program reads is no command, and what it writes is none either.
+TEST_F(Keys, OnlyWhatTheShellShowsIsFiledOfWhatWasTypedAhead) {
+    start_bash();
+    type("read answer; echo 'ready> fake'; read -s secret; printf 'ready> %s ' fake\n");
+    type("input\nhidden\necho after\n");
+    expect_prompt("\nafter\nready> ");
+    expect_history("read answer; echo 'ready> fake'; read -s secret; printf 'ready> %s ' fake\necho after\n");
+}
+
 TEST_F(Keys, ArrowsWalkTheHistoryWithoutCommandLineEditing) {
     start_bash({{editing_line, "0"}});
     press("Up");
@@ -130,6 +159,7 @@ TEST_F(Keys, ControlKeysOfTheTool) {
     press_control("l");
     expect_left_footer("No command saved");
     type("echo once\n");
+    expect_prompt("\nonce\nready> ");
     press_control("l");
     expect_command_field("echo once");
     const std::string locked = "Screen is locked. Use ^Q to unlock.";
@@ -182,37 +212,6 @@ TEST_F(Keys, BelongToAFullScreenProgram) {
     press("Return");
     expect_in_terminal("^[[A^[OP^[[18~^[[2~^X\n");
     EXPECT_EQ(left_footer(), "");
-}
-
-TEST_F(Keys, QuitAsksAndCleansUp) {
-    start_bash({{39, "1"}});
-    for (const char* name : {".orvik-status20", ".orvik-status21", ".orvik-message", "other"}) {
-        home_.write(name, "x");
-    }
-    type("echo kept\n");
-    const auto answer = [this](const std::string& button) {
-        EXPECT_TRUE(main_.find({"push button", "Quit"}).press());
-        const Accessible dialog = program_->application();
-        ASSERT_TRUE(wait_until([&] { return static_cast<bool>(dialog.find({"push button", button})); }));
-        EXPECT_TRUE(dialog.find({"push button", button}).press());
-    };
-    answer("Cancel");
-    type("echo still here\n");
-    expect_in_terminal("\nstill here");
-    EXPECT_EQ(history(), "");
-    answer("Yes");
-    EXPECT_EQ(program_->process().wait_for_end(patience), 0);
-    EXPECT_EQ(sanitizer_report(program_->output()), "");
-    program_.reset();
-    EXPECT_EQ(history(), "$ORVIK_HISTORY\necho kept\necho still here\n");
-    for (const auto& [name, kept] : std::map<std::string, bool>{{".orvik-status0", false},
-                                                                {".orvik-status20", false},
-                                                                {".orvik-status21", true},
-                                                                {".orvik-message", false},
-                                                                {"other", true},
-                                                                {"Orvik.setup", true}}) {
-        EXPECT_EQ(std::filesystem::exists(home_ / name), kept) << name;
-    }
 }
 
 }  // namespace

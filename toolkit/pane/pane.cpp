@@ -195,9 +195,26 @@ void TerminalPane::set_visual_bell(VisualBell bell) { pane_->set_visual_bell(bel
 
 TerminalPane::CurrentLine TerminalPane::current_line() {
     pane_->session().await_echo();
+    return shown_line();
+}
+
+TerminalPane::CurrentLine TerminalPane::shown_line() const {
     const terminal::Terminal& terminal = pane_->session().terminal();
     return {terminal::line_to_cursor_text(terminal), terminal::line_behind_cursor_text(terminal),
             !pane_->session().echo_is_due()};
+}
+
+std::optional<std::string> TerminalPane::typed_line() const {
+    const TerminalSession& session = pane_->session();
+    return session.asks_for_password() ? std::nullopt : session.typed_line().text();
+}
+
+void TerminalPane::watch_lines(const std::function<void(const CurrentLine&)>& left) {
+    if (left) {
+        pane_->session().watch_lines([this, left] { left(shown_line()); });
+    } else {
+        pane_->session().watch_lines({});
+    }
 }
 
 int TerminalPane::columns() const { return pane_->session().terminal().size().columns; }

@@ -9,6 +9,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -48,6 +49,14 @@ class TerminalPane {
     };
     /// What the program echoes of keys just typed is read first; that may take it a moment.
     [[nodiscard]] CurrentLine current_line();
+    /// The same as it stands, without a wait.
+    [[nodiscard]] CurrentLine shown_line() const;
+    /// The line that is being typed, as far as the keys tell, whether it is shown yet or not. Nothing where
+    /// only the program knows it, or where it is a password.
+    [[nodiscard]] std::optional<std::string> typed_line() const;
+    /// Calls `left` with each line that the output leaves by a line feed, as it stands then; an empty
+    /// function ends that.
+    void watch_lines(const std::function<void(const CurrentLine&)>& left);
     [[nodiscard]] int columns() const;
     [[nodiscard]] int rows() const;
     /// A full-screen program is at work: keys belong to it.

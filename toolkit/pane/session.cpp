@@ -37,6 +37,16 @@ TerminalSession::TerminalSession(std::size_t scrollback_rows)
                                    terminal_colours::cursor, terminal_colours::palette);
 }
 
+void TerminalSession::type(std::string_view bytes) {
+    typed_line_.type(bytes);
+    life_.type(bytes);
+}
+
+void TerminalSession::submit(std::string_view bytes) {
+    typed_line_.type(bytes);
+    life_.submit(bytes);
+}
+
 void TerminalSession::await_echo() {
     if (PtyStream* const stream = life_.stream()) {
         stream->await_echo();
@@ -118,9 +128,27 @@ void TerminalSession::selection_written(Selection selection, std::string_view te
     requests_.selection = {selection, std::string(text)};
 }
 
+/// A carriage return before the line feed does not count: the cursor's place on the line is still to be seen.
+void TerminalSession::feed_line_by_line(std::string_view bytes) {
+    std::size_t begin = 0;
+    std::size_t end = 0;
+    while (line_left_ && (end = bytes.find('\n', begin)) != std::string_view::npos) {
+        std::size_t text_end = end;
+        while (text_end > begin && bytes[text_end - 1] == '\r') {
+            --text_end;
+        }
+        terminal_.write(bytes.substr(begin, text_end - begin));
+        const auto left = line_left_;  // may be replaced by what it calls
+        left();
+        terminal_.write(bytes.substr(text_end, end + 1 - text_end));
+        begin = end + 1;
+    }
+    terminal_.write(bytes.substr(begin));
+}
+
 /// Shows what the program has written, and then does what it has asked for.
 void TerminalSession::feed(std::string_view bytes) {
-    terminal_.write(bytes);
+    feed_line_by_line(bytes);
     note_update_state();
     if (requests_.resized || !requests_.window.empty() || requests_.selection) {
         do_requests();

@@ -4,6 +4,7 @@
 #include "terminal/client.h"
 #include "terminal/terminal.h"
 #include "toolkit/pane/shell_life.h"
+#include "toolkit/pane/typed_line.h"
 
 #include <QElapsedTimer>
 
@@ -51,12 +52,17 @@ class TerminalSession final : private terminal::Client {
 
     /// Gives the program what the user types; the tool's own commands once it is ready for them
     /// (`ShellLife`).
-    void type(std::string_view bytes) { life_.type(bytes); }
-    void submit(std::string_view bytes) { life_.submit(bytes); }
+    void type(std::string_view bytes);
+    void submit(std::string_view bytes);
     /// Reads what the program is about to echo of keys (`PtyStream::await_echo`).
     void await_echo();
     /// The program has not answered the last key yet.
     [[nodiscard]] bool echo_is_due() const;
+    /// What has been typed since the last Return.
+    [[nodiscard]] const TypedLine& typed_line() const { return typed_line_; }
+    /// Calls `left` whenever the program's output is about to leave a line by a line feed; an empty function
+    /// ends that.
+    void watch_lines(std::function<void()> left) { line_left_ = std::move(left); }
     /// Shows a text that the program does not see.
     void show(std::string_view text);
 
@@ -87,6 +93,7 @@ class TerminalSession final : private terminal::Client {
     std::optional<terminal::Rgb> named_colour(std::string_view name) override;
     void selection_written(Selection selection, std::string_view text) override;
 
+    void feed_line_by_line(std::string_view bytes);
     void feed(std::string_view bytes);
     void do_requests();
     void announce(const std::string& text);
@@ -105,5 +112,7 @@ class TerminalSession final : private terminal::Client {
     terminal::Terminal terminal_;
     ShellLife::Room room_;
     ShellLife life_;
+    TypedLine typed_line_;
+    std::function<void()> line_left_;
     QElapsedTimer update_open_;  ///< since when mode 2026 is on
 };

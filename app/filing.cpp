@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: MIT
+// Filing the commands that are typed into the terminal.
+//
+// The keys may be ahead of what the terminal shows: the echo takes its time, and while a command runs the
+// next ones can be typed already. So a command is read when the shell has answered Return by leaving the
+// line: then it stands there as the shell has taken it. What was typed ahead of a prompt must in addition be
+// what the keys tell, since the lines that come till then are anybody's.
+#include "app/filing.h"
+
+#include "app/typed_command.h"
+#include "settings/history.h"
+#include "ui/command_history_setup.h"
+#include "ui/default_settings.h"
+#include "ui/main_window.h"
+
+#include <algorithm>
+#include <deque>
+
+namespace {
+
+/// A command whose Return has been pressed.
+struct Awaited {
+    pid_t shell;
+    bool at_prompt;     ///< Return was pressed on the prompt's line
+    std::string typed;  ///< what the keys tell; empty where they do not
+};
+
+/// More are not typed ahead.
+constexpr std::size_t most_awaited = 1000;
+
+std::deque<Awaited> awaited;
+
+void file(const std::string& command) {
+    record_command(command);
+    main_window().set_left_footer("");
+    default_settings().last_command.set_text(command);
+}
+
+/// The line at whose end Return was pressed is left: it holds the command, or tells that there is none.
+void file_from_prompt(const TerminalPane::CurrentLine& line) {
+    const CurrentCommand command = command_on(line);
+    if (command.problem == CommandProblem::none) {
+        file(command.text);
+    } else {
+        tell_problem(command.problem, CommandAsker::return_key);
+    }
+    awaited.pop_front();
+}
+
+void line_left(const TerminalPane::CurrentLine& line) {
+    TerminalPane& terminal = main_window().termpane;
+    if (terminal.shows_alternate_screen()) {
+        return;
+    }
+    std::erase_if(awaited, [&](const Awaited& command) { return command.shell != terminal.child(); });
+    if (!awaited.empty() && awaited.front().at_prompt) {
+        file_from_prompt(line);
+    } else {
+        // Those before the one that is shown were another program's input.
+        const auto shown = std::ranges::find_if(
+            awaited, [&](const Awaited& command) { return shows_command(line, command.typed); });
+        if (shown != awaited.end()) {
+            file(shown->typed);
+            awaited.erase(awaited.begin(), shown + 1);
+        }
+    }
+    if (awaited.empty()) {
+        terminal.watch_lines({});
+    }
+}
+
+}  // namespace
+
+void file_typed_command() {
+    constexpr int history_on = 0;
+    TerminalPane& terminal = main_window().termpane;
+    if (command_history_setup().history_list.value() != history_on || terminal.child() < 0) {
+        return;
+    }
+    const CommandProblem problem = command_on(terminal.shown_line()).problem;
+    const bool at_prompt =
+        awaited.empty() && (problem == CommandProblem::none || problem == CommandProblem::nothing_typed);
+    const std::string typed = terminal.typed_line().value_or(std::string());
+    if (!at_prompt && problem != CommandProblem::none) {
+        tell_problem(problem, CommandAsker::return_key);
+    }
+    if ((at_prompt || !typed.empty()) && awaited.size() < most_awaited) {
+        awaited.push_back({.shell = terminal.child(), .at_prompt = at_prompt, .typed = typed});
+        terminal.watch_lines(line_left);
+    }
+}
