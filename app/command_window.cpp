@@ -20,11 +20,7 @@ namespace {
 
 void send(std::string_view line) { (void)send_line(command_window(), line); }
 
-std::optional<std::string> selection() {
-    constexpr std::string_view none = "No selection made or selection too long";
-    command_window().set_left_footer("");
-    return selected_line(command_window(), none, none);
-}
+constexpr std::string_view no_selection = "No selection made or selection too long";
 
 }  // namespace
 
@@ -35,7 +31,8 @@ void show_command_window() {
 }
 
 void CommandWindowPush() {
-    const std::optional<std::string> selected = selection();
+    command_window().set_left_footer("");
+    const std::optional<std::string> selected = selected_name(command_window(), no_selection, no_selection);
     if (!selected) {
         return;
     }
@@ -77,7 +74,8 @@ void CommandWindowLast() {
 }
 
 void CommandWindowGet() {
-    if (const std::optional<std::string> text = selection()) {
+    command_window().set_left_footer("");
+    if (const std::optional<std::string> text = selected_line(command_window(), no_selection, no_selection)) {
         command_window().command.set_text(*text);
     }
 }

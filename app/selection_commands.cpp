@@ -37,8 +37,9 @@ void send_directory_change(std::string_view directory) {
 using Quoting = std::optional<std::string> (*)(std::string_view name, const Shell& shell);
 
 /// The selection as a file name for the user's shell; nothing, and the footer says why, where there is none.
-std::optional<std::string> selected_name(std::string_view none, Quoting quoting) {
-    const std::optional<std::string> selected = selection(none);
+std::optional<std::string> selected_word(std::string_view none, Quoting quoting) {
+    main_window().set_left_footer("");
+    const std::optional<std::string> selected = selected_name(main_window(), none);
     if (!selected) {
         return std::nullopt;
     }
@@ -71,7 +72,7 @@ void run_selection_in_background() {
 }
 
 void edit_selected_file() {
-    const std::optional<std::string> name = selected_name(no_selection_for_key, escaped_word);
+    const std::optional<std::string> name = selected_word(no_selection_for_key, escaped_word);
     if (!name) {
         return;
     }
@@ -88,7 +89,7 @@ void go_directory_up() {
 }
 
 void go_to_selected_directory() {
-    if (const std::optional<std::string> name = selected_name(no_selection_for_key, shell_word)) {
+    if (const std::optional<std::string> name = selected_word(no_selection_for_key, shell_word)) {
         send_directory_change(*name);
     }
 }
@@ -107,19 +108,19 @@ void recall_by_selection() {
 void Directory_up_button() { go_directory_up(); }
 
 void Directory_down_button() {
-    if (const std::optional<std::string> name = selected_name(no_selection_for_button, double_quoted_word)) {
+    if (const std::optional<std::string> name = selected_word(no_selection_for_button, double_quoted_word)) {
         send_directory_change(*name);
     }
 }
 
 void Execute_FG_button() {
-    if (const std::optional<std::string> name = selected_name(no_selection_for_button, double_quoted_word)) {
+    if (const std::optional<std::string> name = selected_word(no_selection_for_button, double_quoted_word)) {
         send(*name);
     }
 }
 
 void Execute_BG_button() {
-    if (const std::optional<std::string> name = selected_name(no_selection_for_button, double_quoted_word)) {
+    if (const std::optional<std::string> name = selected_word(no_selection_for_button, double_quoted_word)) {
         send(fmt::format("{} &", *name));
     }
 }

@@ -126,7 +126,7 @@ void BaseWindowBookmark() {
         return;
     }
     constexpr std::string_view none = "No selection made or selection too long";
-    const std::optional<std::string> selected = selected_line(main_window(), none);
+    const std::optional<std::string> selected = selected_name(main_window(), none);
     if (!selected) {
         return;
     }

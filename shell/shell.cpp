@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 
 #include <fmt/format.h>
 #include <unistd.h>
@@ -53,13 +54,33 @@ std::string not_too_long(const std::string& selection) {
     return selection.size() <= longest_selection ? selection : std::string();
 }
 
-SelectionLine first_line(const std::string& selection) {
+/// What becomes of the tabs in a selection: with a blank for each it would be the name of another file.
+enum class Tabs : std::uint8_t { become_blanks, are_refused };
+
+SelectionLine first_line(const std::string& selection, Tabs tabs) {
     SelectionLine line{.text = remove_nl(selection)};
-    std::replace(line.text.begin(), line.text.end(), '\t', ' ');
+    if (tabs == Tabs::become_blanks) {
+        std::replace(line.text.begin(), line.text.end(), '\t', ' ');
+    }
     if (has_control_characters(line.text)) {
         line.refusal = "Selection holds control characters";
     }
     return line;
+}
+
+std::optional<std::string> ask_for_line(Frame& frame, Tabs tabs, std::string_view none,
+                                        std::string_view too_long) {
+    const std::string selection = selection_ask().value_or(std::string());
+    if (selection.size() > longest_answered_selection) {
+        frame.set_left_footer(too_long);
+        return std::nullopt;
+    }
+    SelectionLine line = first_line(not_too_long(selection), tabs);
+    if (line.text.empty() || !line.refusal.empty()) {
+        frame.set_left_footer(line.text.empty() ? none : line.refusal);
+        return std::nullopt;
+    }
+    return std::move(line.text);
 }
 
 }  // namespace
@@ -94,20 +115,14 @@ void type_control(char letter) {
 }
 
 std::optional<std::string> selected_line(Frame& frame, std::string_view none, std::string_view too_long) {
-    const std::string selection = selection_ask().value_or(std::string());
-    if (selection.size() > longest_answered_selection) {
-        frame.set_left_footer(too_long);
-        return std::nullopt;
-    }
-    SelectionLine line = first_line(not_too_long(selection));
-    if (line.text.empty() || !line.refusal.empty()) {
-        frame.set_left_footer(line.text.empty() ? none : line.refusal);
-        return std::nullopt;
-    }
-    return std::move(line.text);
+    return ask_for_line(frame, Tabs::become_blanks, none, too_long);
 }
 
-SelectionLine selection_line() { return first_line(get_seln()); }
+std::optional<std::string> selected_name(Frame& frame, std::string_view none, std::string_view too_long) {
+    return ask_for_line(frame, Tabs::are_refused, none, too_long);
+}
+
+SelectionLine selection_line() { return first_line(get_seln(), Tabs::become_blanks); }
 
 bool type_or_report(const std::string& text) {
     const std::string refusal = type_line(text);

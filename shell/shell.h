@@ -31,6 +31,10 @@ void type_control(char letter);
 std::optional<std::string> selected_line(Frame& frame, std::string_view none,
                                          std::string_view too_long = "Selection too long");
 
+/// The same for what takes the selection as the name of one file: a tab refuses it too.
+std::optional<std::string> selected_name(Frame& frame, std::string_view none,
+                                         std::string_view too_long = "Selection too long");
+
 /// The first line of what `get_seln` gives, tabs as blanks, and why it is not fit to be typed; that is empty
 /// when it is.
 struct SelectionLine {

@@ -38,6 +38,7 @@ TEST_F(CommandWindowTest, ButtonsActOnTheLineAndTheSelection) {
         {"push, a name to quote", "Push", "", "/a b;c", "", "pushd '/a b;c'\n", "", ""},
         {"push, home", "Push", "", "~/x", "", "pushd " + home.path().string() + "/x\n", "", ""},
         {"push, empty first line", "Push", "c", "\n/tmp", "", "", none, "c"},
+        {"push, a tab", "Push", "", "a\tb", "", "", "Selection holds control characters", ""},
         {"push, too long", "Push", "", std::string(1001, 'x'), "", "", none, ""},
         {"pop", "Pop", "c", "s", "", "popd\n", "", "c"},
         {"remove", "Remove", "a b", "s", "", "rm a b\n", "", "a b"},

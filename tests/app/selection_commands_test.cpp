@@ -12,6 +12,7 @@ class SelectionCommands : public RecordedWindows {};
 
 const std::string for_keys = "No selection made";
 const std::string for_buttons = "No selection made or selection too long";
+const std::string with_controls = "Selection holds control characters";
 const std::string list = "ls -aF\n";
 
 struct Case {
@@ -28,7 +29,9 @@ const Case cases[] = {
     {"directory down, a name to quote", Directory_down_button, "$(id)", "cd '$(id)'\n" + list},
     {"directory down, an option", Directory_down_button, "-x", "cd ./-x\n" + list},
     {"directory down, nothing", Directory_down_button, "", "", for_buttons},
+    {"directory down, a tab", Directory_down_button, "a\tb", "", with_controls},
     {"execute", Execute_FG_button, "a b", "\"a b\"\n"},
+    {"execute, a tab", Execute_FG_button, "a\tb", "", with_controls},
     {"execute, 1000 characters", Execute_FG_button, std::string(1000, 'x'), "", for_buttons},
     {"execute, too long", Execute_FG_button, std::string(1001, 'x'), "", "Selection too long"},
     {"execute in background", Execute_BG_button, "prog", "\"prog\" &\n"},
@@ -36,14 +39,16 @@ const Case cases[] = {
     {"copy, nothing", OrvikWindowCopyButton, "\n", "", for_buttons},
     {"F1", run_selection, "ls | wc\nrm", "ls | wc\n"},
     {"F1, nothing", run_selection, "", "", for_keys},
-    {"F1, carriage return", run_selection, "ls\rrm", "", "Selection holds control characters"},
+    {"F1, carriage return", run_selection, "ls\rrm", "", with_controls},
     {"F2", run_selection_in_background, "make", "make &\n"},
     {"F3", edit_selected_file, "a b", "gedit a\\ b &\n"},
     {"F3, a name to quote", edit_selected_file, "a`b", "gedit 'a`b' &\n"},
+    {"F3, a tab", edit_selected_file, "a\tb", "", with_controls},
     {"F4", go_directory_up, "x", "cd ..\n" + list},
     {"F5", go_to_selected_directory, "/usr", "cd /usr\n" + list},
     {"F5, a name to quote", go_to_selected_directory, "a;b", "cd 'a;b'\n" + list},
     {"F5, home", go_to_selected_directory, "~/src", "cd /home/me/src\n" + list},
+    {"F5, a tab", go_to_selected_directory, "a\tb", "", with_controls},
     {"F6", type_selection, "half", "half"},
     {"Insert", insert_selection, "half\nother", "half"},
     {"^O", recall_by_selection, "make", "!make\n"},
