@@ -253,7 +253,7 @@ void LineHead::read_name(char c) {
             name_ = letter || is_one_of(c, "#?^+=~") ? Name::name : Name::none;
             break;
         case Name::name:
-            name_ = letter || modifier ? Name::name : Name::none;
+            name_ = c == '$' ? Name::dollar : letter || modifier ? Name::name : Name::none;
             break;
     }
 }

@@ -34,12 +34,12 @@ bool quotes_hold(std::string_view text, ShellFamily family) {
 
 std::string single_quoted(std::string_view text) { return fmt::format("'{}'", inside_single_quotes(text)); }
 
-/// Text beyond ASCII stays as it is where it is plain; else its bytes are written in octal too.
-std::string octal_word(std::string_view text, bool plain) {
+/// Bytes beyond ASCII stay as they are, or are written in octal too.
+std::string octal_word(std::string_view text, bool keep_high) {
     std::string word = "$'";
     for (const char c : text) {
         const bool high = static_cast<unsigned char>(c) >= 0x80;
-        if (is_letter_or_digit(c) || c == '/' || c == '.' || c == '_' || (high && plain)) {
+        if (is_letter_or_digit(c) || c == '/' || c == '.' || c == '_' || (high && keep_high)) {
             word += c;
         } else {
             word += fmt::format("\\{:03o}", static_cast<unsigned char>(c));
@@ -49,6 +49,22 @@ std::string octal_word(std::string_view text, bool plain) {
 }
 
 bool begins_like_an_option(std::string_view name) { return name.starts_with('-') || name.starts_with('+'); }
+
+/// csh looks for history marks within single quotes, and for the end of the line. With "backslash_quote" it
+/// lets a backslash escape a quote there too; only tcsh has that, and it knows octal.
+std::string csh_script_text(std::string_view text) {
+    if (text.find('\\') != std::string_view::npos) {
+        return octal_word(text, true);
+    }
+    std::string word;
+    for (const char c : single_quoted(text)) {
+        if (c == '!' || c == '\n') {
+            word += '\\';
+        }
+        word += c;
+    }
+    return word;
+}
 
 /// A reader of scripts takes bytes as they are.
 constexpr Shell script_reader{.family = ShellFamily::other, .utf8 = true};
@@ -111,18 +127,7 @@ std::string script_text(std::string_view text, ShellFamily shell) {
     if (is_ordinary(text, script_reader)) {
         return std::string(text);
     }
-    std::string quoted = single_quoted(text);
-    if (shell != ShellFamily::csh) {
-        return quoted;
-    }
-    std::string word;
-    for (const char c : quoted) {
-        if (c == '!' || c == '\n') {
-            word += '\\';
-        }
-        word += c;
-    }
-    return word;
+    return shell == ShellFamily::csh ? csh_script_text(text) : single_quoted(text);
 }
 
 std::string script_word(std::string_view name, ShellFamily shell) {

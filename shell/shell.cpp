@@ -19,6 +19,8 @@ namespace {
 
 /// The line discipline keeps 4,095 bytes of a line and silently drops the rest (termios(3), canonical mode).
 constexpr std::size_t longest_canonical_line = 4095;
+/// ksh93's vi editor keeps 1,019 bytes and silently drops the rest; whether it is on cannot be seen.
+constexpr std::size_t longest_ksh_line = 1000;
 constexpr std::size_t longest_selection = 999;
 constexpr std::size_t longest_answered_selection = 1000;  ///< a longer one is called too long
 
@@ -44,7 +46,8 @@ std::string type_refusal(std::string_view text) {
     if (has_control_characters(text)) {
         return "Command holds control characters";
     }
-    if (text.size() + 1 > longest_canonical_line && main_window().termpane.reads_lines()) {
+    const bool cut_by_ksh = user_shell.family == ShellFamily::ksh && text.size() > longest_ksh_line;
+    if (cut_by_ksh || (text.size() + 1 > longest_canonical_line && main_window().termpane.reads_lines())) {
         return "Command is too long for the shell";
     }
     return {};

@@ -2,6 +2,8 @@
 #include "app/selection_commands.h"
 
 #include "app/notify.h"
+#include "shell/process.h"
+#include "shell/shell.h"
 #include "tests/support/recorded_windows.h"
 #include "ui/notebook.h"
 #include "ui/text_editor_setup.h"
@@ -74,6 +76,16 @@ TEST_F(SelectionCommands, TypeTheFirstLineOrSayWhyNot) {
     edit_selected_file();
     EXPECT_EQ(main_window().left_footer(), "User editor not specified");
     EXPECT_EQ(typed(), "");
+}
+
+TEST_F(SelectionCommands, TypeNoLineThatKshMightCut) {
+    const std::string longest(1000, 'x');
+    EXPECT_EQ(type_line(longest + "x"), "");
+    user_shell.family = ShellFamily::ksh;
+    EXPECT_EQ(type_line(longest), "");
+    EXPECT_EQ(type_line(longest + "x"), "Command is too long for the shell");
+    user_shell.family = ShellFamily::bash;
+    EXPECT_EQ(typed(), longest + "x\n" + longest + "\n");
 }
 
 TEST_F(SelectionCommands, TheNotebookTakesTheSelection) {

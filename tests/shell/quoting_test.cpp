@@ -11,13 +11,36 @@
 
 namespace {
 
-TEST(SystemWord, GivesTheSystemsShellExactlyTheName) {
+/// A reader of scripts: what it is started with, and what stands before the command.
+struct ScriptReader {
+    ShellFamily family;
+    const char* command;
+    const char* head;
+};
+
+TEST(ScriptWord, GivesAnyShellExactlyTheName) {
+    const ScriptReader readers[] = {
+        {ShellFamily::other, "LC_ALL=C.UTF-8 /bin/sh", ""},
+        {ShellFamily::bash, "LC_ALL=C bash", ""},
+        {ShellFamily::ksh, "LC_ALL=C.UTF-8 ksh93", ""},
+        {ShellFamily::zsh, "LC_ALL=C zsh -f", ""},
+        {ShellFamily::csh, "LC_ALL=C.UTF-8 tcsh -f", "#\n"},
+        {ShellFamily::csh, "LC_ALL=C tcsh -f", "#\n"},
+        {ShellFamily::csh, "LC_ALL=C.UTF-8 tcsh -f", "#\nset backslash_quote\n"},
+    };
     const ScratchDirectory directory;
-    const std::string out = directory / "out";
-    for (const HostileName& row : hostile_names) {
-        const std::string line = "printf '%s\\000' " + script_word(row.name, ShellFamily::other) + " >" + out;
-        ASSERT_EQ(std::system(line.c_str()), 0) << line;
-        EXPECT_EQ(read_file(out), as_operand(row.name) + '\0') << line;
+    for (const ScriptReader& reader : readers) {
+        std::string script = reader.head;
+        std::string expected;
+        for (const HostileName& row : hostile_names) {
+            script += "printf '%s\\000' " + script_word(row.name, reader.family) + " >>out\n";
+            expected += as_operand(row.name) + '\0';
+        }
+        directory.write("script", script);
+        const std::string line =
+            "cd " + directory.path().string() + " && rm -f out && " + reader.command + " script";
+        EXPECT_EQ(std::system(line.c_str()), 0) << line;
+        EXPECT_EQ(read_file(directory / "out"), expected) << line;
     }
 }
 
@@ -29,6 +52,8 @@ TEST(Word, HasTheSimplestFormThatWillDo) {
         {script_word("/home/my files/a b", ShellFamily::other), "/home/my\\ files/a\\ b"},
         {script_word("-x y", ShellFamily::other), "./-x\\ y"},
         {script_word("a b;c's", ShellFamily::other), "'a b;c'\\''s'"},
+        {script_word("a!b c", ShellFamily::csh), "'a\\!b c'"},
+        {script_word("a\\!b", ShellFamily::csh), "$'a\\134\\041b'"},
         {script_text("-fixed-*", ShellFamily::other), "'-fixed-*'"},
         {script_text("-fixed-r--13", ShellFamily::other), "-fixed-r--13"},
         {shell_word("a.b-c_d+e,f:g@h%i=j/caf\xC3\xA9", Shell{ShellFamily::other, true}),
@@ -97,6 +122,7 @@ TEST(Operand, IsGivenWhereTheShellTakesItForAName) {
         {"vi \\", "ordinary", bash, nothing},
         {"vi $", "HOME", bash, nothing},
         {"vi $x", "ordinary", bash, nothing},
+        {"vi $x$", inert, bash, nothing},
         {"vi \"$x", inert, bash, nothing},
         {"vi $x:", "ordinary", csh, nothing},
         {"vi ~", "root", bash, nothing},

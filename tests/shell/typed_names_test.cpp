@@ -149,6 +149,8 @@ TEST_P(TypedNames, AreSeenExactly) {
         }
         expect_shown(*live_, {.what = what, .head = "./show", .before = "", .behind = ""}, typed);
     }
+    const std::string as_long_as_ksh_takes(993, 'x');
+    EXPECT_EQ(live_->shown_by("./show " + as_long_as_ksh_takes), as_long_as_ksh_takes + '\0');
     EXPECT_FALSE(live_->has_run_a_name());
 }
 
