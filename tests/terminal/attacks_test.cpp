@@ -15,14 +15,6 @@ struct Case {
     std::string replies;
 };
 
-std::string repeated(std::string_view text, std::size_t count) {
-    std::string out;
-    for (std::size_t i = 0; i < count; ++i) {
-        out += text;
-    }
-    return out;
-}
-
 const Case cases[] = {
     {"TitleTyped", "\033]0;\r\nid\r\n\a\033[21t\033[20t\033[22t\033]2;x\a\033[23t\033[21t", ""},
     {"TitleTypedInHexadecimal", "\033[>0;1t\033]2;0d69640d\a\033[21t", ""},

@@ -11,14 +11,6 @@
 namespace terminal {
 namespace {
 
-std::string repeated(std::string_view text, std::size_t count) {
-    std::string out;
-    for (std::size_t i = 0; i < count; ++i) {
-        out += text;
-    }
-    return out;
-}
-
 /// A colour of its own for each number.
 Colour colour(std::size_t number) {
     const auto byte = [number](unsigned shift) { return static_cast<std::uint8_t>(number >> shift & 0xFF); };

@@ -10,6 +10,14 @@
 
 namespace terminal {
 
+inline std::string repeated(std::string_view text, std::size_t count) {
+    std::string out;
+    for (std::size_t i = 0; i < count; ++i) {
+        out += text;
+    }
+    return out;
+}
+
 /// Keeps what the engine tells.
 struct Recorder : Client {
     void reply(std::string_view bytes) override { replies += bytes; }
