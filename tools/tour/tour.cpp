@@ -58,6 +58,8 @@ const std::map<int, std::string> settings{
     {50, "14"},  // host, process and user in the footer
     {55, "1"},
     {56, "$"},  // the prompt's last character
+    {58, "notebook.txt"},
+    {60, "messageboard.txt"},
     {62, "6"},
     {63, "gvim"},
 };
@@ -194,7 +196,7 @@ void play(Tour& tour, const fs::path& home) {
     }
     tour.choose("My Tools", "Biggest files");
     tour.show_menu("Edit", "Current", "edit-menu");
-    tour.show_menu("BM", "Directories", "bookmark-menu");
+    tour.show_menu("BM", "Scripts", "bookmark-menu");
     tour.choose("Command", "files");
     tour.show_by_button("command list", "Command List Manager", "command-list");
     tour.press_escape();
