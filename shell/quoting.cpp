@@ -50,6 +50,11 @@ std::string octal_word(std::string_view text, bool keep_high) {
 
 bool begins_like_an_option(std::string_view name) { return name.starts_with('-') || name.starts_with('+'); }
 
+/// Without its blanks, bytes that are no text may become some.
+bool is_ordinary_but_for_blanks(std::string_view text, const Shell& shell) {
+    return is_plain(text, shell) && is_ordinary(remove_spaces(text), shell);
+}
+
 /// csh looks for history marks within single quotes, and for the end of the line. With "backslash_quote" it
 /// lets a backslash escape a quote there too; only tcsh has that, and it knows octal.
 std::string csh_script_text(std::string_view text) {
@@ -118,9 +123,9 @@ std::optional<std::string> double_quoted_word(std::string_view name, const Shell
 }
 
 std::optional<std::string> escaped_word(std::string_view name, const Shell& shell) {
-    const bool only_blanks = !begins_like_an_option(name) && is_ordinary(remove_spaces(name), shell) &&
-                             (shell.family != ShellFamily::unknown || is_ordinary(name, shell));
-    return only_blanks ? ConvertSpaces(name) : shell_word(name, shell);
+    const bool escapable = !begins_like_an_option(name) && is_ordinary_but_for_blanks(name, shell) &&
+                           (shell.family != ShellFamily::unknown || is_ordinary(name, shell));
+    return escapable ? ConvertSpaces(name) : shell_word(name, shell);
 }
 
 std::string script_text(std::string_view text, ShellFamily shell) {
@@ -132,7 +137,7 @@ std::string script_text(std::string_view text, ShellFamily shell) {
 
 std::string script_word(std::string_view name, ShellFamily shell) {
     const std::string path = as_operand(name);
-    return is_ordinary(remove_spaces(path), script_reader) ? ConvertSpaces(path) : script_text(path, shell);
+    return is_ordinary_but_for_blanks(path, script_reader) ? ConvertSpaces(path) : script_text(path, shell);
 }
 
 std::string inside_single_quotes(std::string_view text) {

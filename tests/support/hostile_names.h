@@ -107,6 +107,7 @@ inline const HostileName hostile_names[] = {
     {"C1 control character", "31m\xC2\x9B", HostileName::broken},
     {"bytes", "bad\xFF\xFE;touch pwned;", HostileName::broken},
     {"cut character", "cut\xC3", HostileName::broken},
+    {"character that a blank parts", "a\xC3 \xA9", HostileName::broken},
     {"overlong apostrophe", "\xE0\x80\xA7;touch pwned;\xC0\xA7", HostileName::broken},
     {"overlong slash", "\xF0\x80\x80\xAF x", HostileName::broken},
     {"surrogate", "\xED\xA0\x80 x", HostileName::broken},
