@@ -38,7 +38,7 @@ enum class NationalSets : std::uint8_t { hidden, shown };
 std::optional<CharacterSet> character_set(std::string_view code, SetSize size, NationalSets national);
 /// The code that names a set.
 std::string_view designation(CharacterSet set);
-/// What the character 2/0 to 7/14 stands for in a set.
+/// What the character 2/0 to 7/14 stands for in a set; in one of 94 it is 2/1 to 7/14.
 char32_t translate(CharacterSet set, char character);
 
 /// The sets G0 to G3 (ISO 2022). The right half of the code table is theirs only while UTF-8 is switched off.
@@ -62,10 +62,13 @@ struct CharacterSets {
         single_shift = 0;
         return translate(designated[index], character);
     }
-    /// The same for one of the right half. Where ASCII is, which has no right half, ISO 8859-1 stands.
+    /// The same for one of the right half. Where ASCII is, which has no right half, ISO 8859-1 stands, and so
+    /// it does at 10/0 and 15/15, which a set of 94 characters leaves free.
     [[nodiscard]] char32_t take_right(char32_t character) const {
         const CharacterSet set = designated[right];
-        return set == CharacterSet::ascii ? character : translate(set, static_cast<char>(character & 0x7F));
+        const bool left_free = character == 0xA0 || character == 0xFF;
+        return set == CharacterSet::ascii || left_free ? character
+                                                       : translate(set, static_cast<char>(character & 0x7F));
     }
     bool operator==(const CharacterSets&) const = default;
 };

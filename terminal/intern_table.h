@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <algorithm>
 #include <bit>
 #include <cstddef>
 #include <cstdint>
@@ -63,7 +64,8 @@ class InternTable {
         }
         rebuild(slots_.size(), taken);
         refused_ = 0;
-        patience_ = free_.size() >= capacity_ / 8 ? 1 : capacity_ / 8;
+        const bool paid = free_.size() >= capacity_ / 8;
+        patience_ = paid ? 1 : std::clamp(patience_ * 2, capacity_ / 8, capacity_ / 2);
     }
 
   private:

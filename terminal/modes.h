@@ -14,7 +14,6 @@ struct Modes {
     bool application_cursor_keys = false;    ///< DECCKM
     bool application_keypad = false;         ///< DECNKM, DECKPAM
     bool backarrow_sends_backspace = false;  ///< DECBKM
-    bool keyboard_locked = false;            ///< KAM: keys are not sent
     bool local_echo = false;                 ///< SRM reset: keys are shown as well as sent
     bool auto_repeat = true;                 ///< DECARM: a key held down is sent again and again
     bool vt52 = false;                       ///< DECANM reset: keys send what a VT52's do
@@ -28,6 +27,7 @@ struct Modes {
     int modify_other_keys = 0;               ///< XTMODKEYS 4: 0 to 2
     MouseTracking mouse_tracking = MouseTracking::off;
     MouseEncoding mouse_encoding = MouseEncoding::classic;
+    bool operator==(const Modes&) const = default;
 };
 
 }  // namespace terminal

@@ -38,16 +38,18 @@ std::size_t printable_run(std::string_view bytes) {
 
 }  // namespace
 
-void Parser::feed(std::string_view bytes) {
-    while (!bytes.empty()) {
+std::size_t Parser::feed(std::string_view bytes) {
+    const std::size_t size = bytes.size();
+    stopped_ = false;
+    while (!bytes.empty() && !stopped_) {
         if (decoder_.idle()) {
             if (state_ == ParserState::ground) {
                 read_text(bytes);
             } else if (state_ >= ParserState::dcs_passthrough) {
                 read_string(bytes);
             }
-            if (bytes.empty()) {
-                return;
+            if (bytes.empty() || stopped_) {
+                break;
             }
         }
         const auto byte = static_cast<std::uint8_t>(bytes.front());
@@ -58,12 +60,19 @@ void Parser::feed(std::string_view bytes) {
             step(byte);
         }
     }
+    return size - bytes.size();
+}
+
+void Parser::reset() {
+    state_ = ParserState::ground;
+    decoder_.reset();
+    string_kind_ = StringKind::none;
 }
 
 /// Hands over plain text in runs, up to the first byte that needs the state machine.
 void Parser::read_text(std::string_view& bytes) {
     std::array<char32_t, 256> characters;
-    while (!bytes.empty()) {
+    while (!bytes.empty() && !stopped_) {
         if (static_cast<std::uint8_t>(bytes.front()) < 0x80) {
             const std::size_t length = printable_run(bytes);
             if (length == 0) {

@@ -53,7 +53,12 @@ class ParserHandler {
 class Parser {
   public:
     explicit Parser(ParserHandler& handler) : handler_(handler) {}
-    void feed(std::string_view bytes);
+    /// Reads `bytes`, up to where the handler stops it; returns how many were read.
+    std::size_t feed(std::string_view bytes);
+    /// For the handler: nothing is read behind the function that it is being told of.
+    void stop() { stopped_ = true; }
+    /// Forgets what has been begun.
+    void reset();
 
     /// How bytes from 8/0 on are read. In UTF-8 bytes that stand alone are ill-formed; a program that asked
     /// for 8-bit controls may send them so. In ISO 8859-1 each is a character or a control.
@@ -92,6 +97,7 @@ class Parser {
     std::string string_;
     StringKind string_kind_ = StringKind::none;  // the string begun and not yet ended by ST
     bool string_overflow_ = false;
+    bool stopped_ = false;
 };
 
 }  // namespace terminal

@@ -97,7 +97,8 @@ constexpr Rule rules[] = {
     {State::dcs_entry, Class::digit, Class::semicolon, Action::parameter, State::dcs_parameter},
     {State::dcs_entry, Class::private_marker, Class::private_marker, Action::collect, State::dcs_parameter},
     {State::dcs_entry, final_first, final_last, Action::begin_dcs, State::dcs_passthrough},
-    {State::dcs_entry, Class::rubout, Class::other, Action::none, State::dcs_ignore},
+    {State::dcs_entry, Class::rubout, Class::rubout, Action::none, State::dcs_entry},
+    {State::dcs_entry, Class::other, Class::other, Action::none, State::dcs_ignore},
 
     {State::dcs_parameter, Class::control, Class::bell, Action::none, State::dcs_parameter},
     {State::dcs_parameter, Class::intermediate, Class::intermediate, Action::collect,
@@ -105,14 +106,16 @@ constexpr Rule rules[] = {
     {State::dcs_parameter, Class::digit, Class::semicolon, Action::parameter, State::dcs_parameter},
     {State::dcs_parameter, Class::private_marker, Class::private_marker, Action::none, State::dcs_ignore},
     {State::dcs_parameter, final_first, final_last, Action::begin_dcs, State::dcs_passthrough},
-    {State::dcs_parameter, Class::rubout, Class::other, Action::none, State::dcs_ignore},
+    {State::dcs_parameter, Class::rubout, Class::rubout, Action::none, State::dcs_parameter},
+    {State::dcs_parameter, Class::other, Class::other, Action::none, State::dcs_ignore},
 
     {State::dcs_intermediate, Class::control, Class::bell, Action::none, State::dcs_intermediate},
     {State::dcs_intermediate, Class::intermediate, Class::intermediate, Action::collect,
      State::dcs_intermediate},
     {State::dcs_intermediate, Class::digit, Class::private_marker, Action::none, State::dcs_ignore},
     {State::dcs_intermediate, final_first, final_last, Action::begin_dcs, State::dcs_passthrough},
-    {State::dcs_intermediate, Class::rubout, Class::other, Action::none, State::dcs_ignore},
+    {State::dcs_intermediate, Class::rubout, Class::rubout, Action::none, State::dcs_intermediate},
+    {State::dcs_intermediate, Class::other, Class::other, Action::none, State::dcs_ignore},
 
     {State::vt52_escape, Class::control, Class::bell, Action::execute, State::vt52_escape},
     {State::vt52_escape, Class::intermediate, final_last, Action::dispatch_vt52, State::ground},

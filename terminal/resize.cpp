@@ -14,9 +14,15 @@ namespace terminal {
 class Terminal::Flow {
   public:
     /// Takes the first `rows` rows of a screen. A line that only blanks of the others belong to ends with
-    /// them.
-    Flow(const Screen& screen, int rows) {
+    /// them. `cursor` is among them.
+    Flow(const Screen& screen, int rows, const CursorState& cursor) {
         for (int row = 0; row < rows; ++row) {
+            if (row == cursor.row) {
+                const bool goes_on = !lines_.empty() && lines_.back().open;
+                cursor_line_ = lines_.size() - (goes_on ? 1 : 0);
+                cursor_offset_ =
+                    static_cast<std::size_t>(cursor.column) + (goes_on ? lines_.back().cells.size() : 0);
+            }
             const bool cut = row + 1 == rows && rows < screen.size().rows;
             append(screen.cells(row), screen.wrapped(row) && !cut);
         }
@@ -28,18 +34,22 @@ class Terminal::Flow {
     void prepend(std::vector<Cell> cells, bool joined) {
         if (lines_.empty() || !joined) {
             lines_.insert(lines_.begin(), Line{std::move(cells), false});
+            ++cursor_line_;
             return;
         }
+        cursor_offset_ += cursor_line_ == 0 ? cells.size() : 0;
         cells.insert(cells.end(), lines_.front().cells.begin(), lines_.front().cells.end());
         lines_.front().cells = std::move(cells);
     }
 
     void lay_out(int columns) {
         rows_.clear();
-        for (const Line& line : lines_) {
-            lay_out(line, static_cast<std::size_t>(columns));
+        for (std::size_t i = 0; i < lines_.size(); ++i) {
+            lay_out(lines_[i], static_cast<std::size_t>(columns), i == cursor_line_);
         }
     }
+    /// The row that the cursor is in now.
+    [[nodiscard]] std::size_t cursor_row() const { return cursor_row_; }
 
     struct Row {
         std::span<const Cell> cells;
@@ -65,9 +75,12 @@ class Terminal::Flow {
         line.open = wrapped;
     }
 
-    void lay_out(const Line& line, std::size_t columns) {
+    void lay_out(const Line& line, std::size_t columns, bool has_cursor) {
         std::span<const Cell> rest = line.cells;
         do {
+            if (has_cursor && line.cells.size() - rest.size() <= cursor_offset_) {
+                cursor_row_ = rows_.size();
+            }
             std::size_t length = std::min(rest.size(), columns);
             if (length < rest.size() && rest[length].is_wide_tail()) {
                 --length;
@@ -80,6 +93,9 @@ class Terminal::Flow {
 
     std::vector<Line> lines_;
     std::vector<Row> rows_;
+    std::size_t cursor_line_ = 0;
+    std::size_t cursor_offset_ = 0;  // in its line
+    std::size_t cursor_row_ = 0;
 };
 
 std::vector<Mark> Terminal::marks(std::span<const Position> positions) const {
@@ -148,7 +164,7 @@ void Terminal::resize_primary(Size wanted, std::span<Position> anchors) {
     }
     const std::vector<Mark> all_marks = marks(positions);
 
-    flow_primary(wanted, cursor.row);
+    flow_primary(wanted, cursor);
 
     for (std::size_t i = 0; i < anchors.size(); ++i) {
         if (anchors[i].row < alternate_.top() || !is_alternate()) {
@@ -159,15 +175,17 @@ void Terminal::resize_primary(Size wanted, std::span<Position> anchors) {
     saved_cursor = cursor_at(position(all_marks[anchors.size() + 1]));
 }
 
-/// Rows below the text and the cursor are given up first when the screen gets lower. When it gets higher,
-/// rows come back from the scrollback.
-void Terminal::flow_primary(Size wanted, int cursor_row) {
+/// Rows below the text and the cursor are given up first when the screen gets lower, then rows go to the
+/// scrollback, and what does not fit below the cursor's row then is given up too, as other terminals do: a
+/// program that moved up paints what is below anew. When the screen gets higher, rows come back from the
+/// scrollback.
+void Terminal::flow_primary(Size wanted, const CursorState& cursor) {
     const Size before = primary_.size();
     int used = before.rows;
-    while (used > cursor_row + 1 && primary_.is_blank(used - 1)) {
+    while (used > cursor.row + 1 && primary_.is_blank(used - 1)) {
         --used;
     }
-    Flow flow(primary_, used);
+    Flow flow(primary_, used, cursor);
     if (scrollback_.open()) {
         if (auto piece = scrollback_.pop()) {
             flow.prepend(std::move(*piece), true);
@@ -191,13 +209,16 @@ void Terminal::flow_primary(Size wanted, int cursor_row) {
         flow.lay_out(wanted.columns);
     }
     const std::size_t shown = std::min(flow.row_count(), static_cast<std::size_t>(wish));
-    const std::size_t first = flow.row_count() - shown;
+    const std::size_t first = std::min(flow.row_count() - shown, flow.cursor_row());
+    const bool cut = first + shown < flow.row_count();
     for (std::size_t i = 0; i < first; ++i) {
         scrollback_.push(flow.row(i).cells, flow.row(i).wrapped, ++clock_);
     }
     primary_.reset(wanted, scrollback_.end_row());
     for (std::size_t i = 0; i < shown; ++i) {
-        primary_.set_row(static_cast<int>(i), flow.row(first + i).cells, flow.row(first + i).wrapped);
+        const bool ends = cut && i + 1 == shown;
+        primary_.set_row(static_cast<int>(i), flow.row(first + i).cells,
+                         flow.row(first + i).wrapped && !ends);
     }
 }
 

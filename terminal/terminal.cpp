@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cassert>
+#include <limits>
 
 namespace terminal {
 
@@ -29,8 +30,14 @@ Terminal::Terminal(const Options& options, Client& client)
       local_parser_(*this) {}
 
 void Terminal::write(std::string_view bytes) {
-    parser_.feed(bytes);
+    (void)write_within(bytes, std::numeric_limits<std::int64_t>::max());
+}
+
+std::size_t Terminal::write_within(std::string_view bytes, std::int64_t work) {
+    work_left_ = work;
+    const std::size_t taken = parser_.feed(bytes);
     finish();
+    return taken;
 }
 
 void Terminal::write_local(std::string_view text) {
@@ -52,12 +59,16 @@ void Terminal::finish() {
         shown_cursor_ = cursor_;
         count_change();
     }
+    if (!replies_.empty()) {
+        client_.reply(replies_);
+        replies_.clear();
+    }
     assert(is_wholly_consistent());
 }
 
 void Terminal::clear_all() {
     scrollback_.clear();
-    screen_->fill(screen_->all(), Cell{});
+    fill(screen_->all(), Cell{});
     move_to(0, 0);
     count_change();
     finish();

@@ -73,6 +73,9 @@ class Terminal final : private ParserHandler {
 
     /// Output of the program in the terminal. Sequences may be split anywhere between calls.
     void write(std::string_view bytes);
+    /// As much of it as `work` pays for, in cells written, erased or moved, but at least one function;
+    /// returns how many bytes were taken. A few bytes can ask for a whole screen to be filled.
+    [[nodiscard]] std::size_t write_within(std::string_view bytes, std::int64_t work);
     /// Text of our own for the display: like `write`, but a sequence the program has begun is not disturbed,
     /// and line feeds return the carriage.
     void write_local(std::string_view text);
@@ -82,8 +85,11 @@ class Terminal final : private ParserHandler {
     void permit(const Permissions& permissions) { permissions_ = permissions; }
     /// Empties screen and scrollback, as `clear` with the scrollback does; the cursor goes home.
     void clear_all();
-    /// Back to the state of a new terminal (RIS); the scrollback stays.
+    /// Back to the state of a new terminal (RIS), whatever a program has begun; the scrollback stays.
     void reset();
+    /// Takes back what a program that has ended may have left: the alternate screen, a sequence begun, modes,
+    /// attributes, margins, colours. Text and cursor stay.
+    void end_of_program();
 
     [[nodiscard]] Size size() const { return primary_.size(); }
     [[nodiscard]] const Modes& modes() const { return modes_; }
@@ -154,7 +160,6 @@ class Terminal final : private ParserHandler {
         bool national_sets = false;     // DECNRCM
         bool allow_columns = false;     // xterm 40
         bool columns_132 = false;       // DECCOLM
-        bool keep_on_columns = false;   // DECNCSM
         bool allow_alternate = true;    // xterm 1046
         // Kept, without effect here: DECSCLM, DECPFF, DECPEX.
         bool smooth_scroll = false;
@@ -182,6 +187,7 @@ class Terminal final : private ParserHandler {
     void print_latin1(std::span<const char32_t> text);
     void print_plain(std::string_view text);
     std::size_t print_run(std::span<const char32_t> text);
+    void make_room(int columns, int limit);
     void advance_cursor(int columns, int limit);
     void put(char32_t character);
     void put_visible(char32_t character, int width);
@@ -189,7 +195,7 @@ class Terminal final : private ParserHandler {
     void wrap();
     [[nodiscard]] int right_limit() const;
     const Cell& blank() { return pen_.blank(tables_); }
-    void add_used(UsedIds& used) const;
+    void add_used(UsedIds& used);
     void rep(Function function);
 
     // functions/cursor.cpp: movement
@@ -235,6 +241,8 @@ class Terminal final : private ParserHandler {
     void erase_row(int row, int from, int to, Erasure erasure);
     void erase_in_row(Which which, Erasure erasure);
     void erase_on_screen(Which which, Erasure erasure);
+    void part_from_scrollback();
+    void fill(const Region& region, Cell cell);
     void scroll_text_up(int count);
     void scroll_text_down(int count);
     [[nodiscard]] Region below_cursor() const;
@@ -343,6 +351,8 @@ class Terminal final : private ParserHandler {
     void use_latin1(Function function);
     void use_utf8(Function function);
     void soft_reset();
+    void reset_settings();
+    void full_reset();
     void reset_margins();
     void choose_controls(Controls controls);
     void choose_encoding(Encoding encoding);
@@ -380,6 +390,7 @@ class Terminal final : private ParserHandler {
     void xtwinops(Function function);
     void decscpp(Function function);
     void decsnls(Function function);
+    [[nodiscard]] std::optional<Size> display_size() const;
     void request_size(Size wanted);
     void request_pixels(Function function);
     void request_characters(Function function);
@@ -400,7 +411,7 @@ class Terminal final : private ParserHandler {
 
     // resize.cpp
     void resize_primary(Size wanted, std::span<Position> anchors);
-    void flow_primary(Size wanted, int cursor_row);
+    void flow_primary(Size wanted, const CursorState& cursor);
     void resize_alternate(Size wanted);
     [[nodiscard]] CursorState cursor_at(Position position) const;
     [[nodiscard]] std::vector<Mark> marks(std::span<const Position> positions) const;
@@ -408,11 +419,20 @@ class Terminal final : private ParserHandler {
 
     void finish();
     void count_change() { ++clock_; }
+    /// To be called by whatever does more than its few bytes let expect.
+    void spend(std::int64_t cells) {
+        work_left_ -= cells;
+        if (work_left_ < 0) {
+            parser_.stop();
+        }
+    }
     [[nodiscard]] bool is_consistent() const;
     [[nodiscard]] bool is_wholly_consistent() const;
     SavedCursor& saved() { return saved_[is_alternate() ? 1 : 0]; }
 
     Client& client_;
+    std::string replies_;  // of the output being read
+    std::int64_t work_left_ = 0;
     std::uint64_t clock_ = 0;  // the stamp given last
     std::uint64_t epoch_ = 0;  // stamp of the last change that concerned all rows
     Scrollback scrollback_;
@@ -431,6 +451,7 @@ class Terminal final : private ParserHandler {
     std::vector<std::pair<int, bool>> saved_modes_;
     CharacterSets sets_;
     char32_t last_character_ = 0;              // for REP; 0 behind a control function
+    bool fills_row_ = false;                   // it stands in the last column for text
     bool whole_rectangles_ = false;            // DECSACE
     int checksum_flags_ = 0;                   // XTCHECKSUM
     int level_ = top_level;                    // of conformance (DECSCL)

@@ -68,6 +68,7 @@ void Terminal::back(int count) {
     }
     count = std::min(count, size().columns * size().rows) - (cursor_.wrap_pending ? 1 : 0);
     cursor_.wrap_pending = false;
+    spend(count);
     for (; count > 0; --count) {
         if (cursor_.column == margins_.left || cursor_.column == 0) {
             const int above = cursor_.row == margins_.top ? margins_.bottom - 1

@@ -18,6 +18,25 @@ void Terminal::erase_row(int row, int from, int to, Erasure erasure) {
     } else {
         screen_->erase(row, from, to, blank());
     }
+    spend(to - from);
+    if (row == 0 && from == 0 && to == size().columns) {
+        part_from_scrollback();
+    }
+}
+
+/// What is in the first row now is not the end of a line that has left the screen.
+void Terminal::part_from_scrollback() {
+    if (!is_alternate()) {
+        scrollback_.close();
+    }
+}
+
+void Terminal::fill(const Region& region, Cell cell) {
+    screen_->fill(region, cell);
+    spend(region.height() * region.width());
+    if (region.top == 0 && region.height() > 0 && region.width() == size().columns) {
+        part_from_scrollback();
+    }
 }
 
 /// With a wrap pending the cursor stands behind the last column: erasing from there to the end of the row
@@ -47,6 +66,7 @@ void Terminal::erase_on_screen(Which which, Erasure erasure) {
 void Terminal::scroll_text_up(int count) {
     const bool whole_rows = margins_.width() == size().columns;
     const bool whole_screen = whole_rows && margins_.height() == size().rows;
+    spend(std::min(count, margins_.height()) * margins_.width());
     if (margins_.top > 0 || !whole_rows || (is_alternate() && !whole_screen)) {
         screen_->scroll_up(margins_, count, blank());
         return;
@@ -61,9 +81,10 @@ void Terminal::scroll_text_up(int count) {
 }
 
 void Terminal::scroll_text_down(int count) {
-    if (margins_.top == 0 && !is_alternate()) {
-        scrollback_.close();
+    if (margins_.top == 0) {
+        part_from_scrollback();
     }
+    spend(margins_.height() * margins_.width());
     screen_->scroll_down(margins_, count, blank());
 }
 
@@ -100,10 +121,15 @@ void Terminal::ech(Function function) {
 
 void Terminal::il(Function function) {
     const Region region = below_cursor();
-    if (region.height() > 0) {
-        screen_->scroll_down(region, function.parameters.count(0), blank());
-        carriage_return();
+    if (region.height() == 0) {
+        return;
     }
+    if (region.top == 0) {
+        part_from_scrollback();
+    }
+    spend(region.height() * region.width());
+    screen_->scroll_down(region, function.parameters.count(0), blank());
+    carriage_return();
 }
 
 void Terminal::dl(Function function) {
@@ -111,9 +137,10 @@ void Terminal::dl(Function function) {
     if (region.height() == 0) {
         return;
     }
-    if (region.top == 0 && !is_alternate()) {
-        scrollback_.close();
+    if (region.top == 0) {
+        part_from_scrollback();
     }
+    spend(region.height() * region.width());
     screen_->scroll_up(region, function.parameters.count(0), blank());
     carriage_return();
 }
@@ -186,12 +213,14 @@ void Terminal::decdc(Function function) {
 
 /// In all rows within the margins, from `column` to the right margin.
 void Terminal::insert_columns(int column, int count) {
+    spend(margins_.height() * margins_.width());
     for (int row = margins_.top; row < margins_.bottom; ++row) {
         screen_->insert_cells(row, column, margins_.right, count, blank());
     }
 }
 
 void Terminal::delete_columns(int column, int count) {
+    spend(margins_.height() * margins_.width());
     for (int row = margins_.top; row < margins_.bottom; ++row) {
         screen_->delete_cells(row, column, margins_.right, count, blank());
     }
@@ -200,7 +229,7 @@ void Terminal::delete_columns(int column, int count) {
 void Terminal::decaln(Function /*function*/) {
     reset_margins();
     inner_.origin = false;
-    screen_->fill(screen_->all(), {U'E', 0, 0});
+    fill(screen_->all(), {U'E', 0, 0});
     move_to(0, 0);
 }
 

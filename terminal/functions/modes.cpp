@@ -73,7 +73,6 @@ bool Terminal::has_mouse_encoding() const {
 
 std::span<const Terminal::Mode> Terminal::Mode::ansi() {
     static constexpr Mode modes[] = {
-        of<&Modes::keyboard_locked>(2),
         of<&InnerModes::insert>(4),
         {12, &Terminal::set_send_receive, &Terminal::has_send_receive},
         of<&Modes::newline>(20),
@@ -104,7 +103,6 @@ std::span<const Terminal::Mode> Terminal::Mode::dec() {
         of<&Modes::application_keypad>(66),
         of<&Modes::backarrow_sends_backspace>(67),
         {69, &Terminal::set_side_margins, &Terminal::mode<&InnerModes::side_margins>},
-        of<&InnerModes::keep_on_columns>(95),
         of_tracking<MouseTracking::press_release>(1000),
         of_tracking<MouseTracking::drag>(1002),
         of_tracking<MouseTracking::motion>(1003),
@@ -139,26 +137,28 @@ struct FixedMode {
     int state;
 };
 
-/// Modes of ECMA-48 that a terminal like this cannot set: GATM, CRM, SRTM, VEM, HEM, PUM, FEAM, FETM, MATM,
+/// Modes of ECMA-48 that a terminal like this cannot set: GATM, KAM (a file that is shown must not lock the
+/// keyboard), CRM, SRTM, VEM, HEM, PUM, FEAM, FETM, MATM,
 /// TTM, SATM, TSM, EBM.
 constexpr FixedMode fixed_ansi[] = {
-    {1, mode_always_reset},  {3, mode_always_reset},  {5, mode_always_reset},  {7, mode_always_reset},
-    {10, mode_always_reset}, {11, mode_always_reset}, {13, mode_always_reset}, {14, mode_always_reset},
-    {15, mode_always_reset}, {16, mode_always_reset}, {17, mode_always_reset}, {18, mode_always_reset},
-    {19, mode_always_reset},
+    {1, mode_always_reset},  {2, mode_always_reset},  {3, mode_always_reset},  {5, mode_always_reset},
+    {7, mode_always_reset},  {10, mode_always_reset}, {11, mode_always_reset}, {13, mode_always_reset},
+    {14, mode_always_reset}, {15, mode_always_reset}, {16, mode_always_reset}, {17, mode_always_reset},
+    {18, mode_always_reset}, {19, mode_always_reset},
 };
-/// DECHCCM, DECVCCM and DECPCCM (a screen shows its whole page), DECKBUM, DECXRLM, DECKPM; and xterm's: the
-/// margin's bell, logging, highlight tracking, scrolling at output and at keys, alt and meta by the eighth
-/// bit or by an escape, Delete as DEL, selections and bells that do more, and other function keys.
+/// DECARM (it can be set, but as on xterm is not told), DECHCCM, DECVCCM and DECPCCM (a screen shows its
+/// whole page), DECKBUM, DECXRLM, DECKPM; and xterm's: the margin's bell, logging, highlight tracking,
+/// scrolling at output and at keys, alt and meta by the eighth bit or by an escape, Delete as DEL, selections
+/// and bells that do more, and other function keys.
 constexpr FixedMode fixed_dec[] = {
-    {44, mode_always_reset},   {46, mode_always_reset},   {60, mode_always_reset},
-    {61, mode_always_reset},   {64, mode_always_reset},   {68, mode_always_reset},
-    {73, mode_always_reset},   {81, mode_always_reset},   {1001, mode_always_reset},
-    {1010, mode_always_reset}, {1011, mode_always_set},   {1034, mode_always_reset},
-    {1036, mode_always_set},   {1037, mode_always_reset}, {1039, mode_always_set},
-    {1041, mode_always_reset}, {1042, mode_always_reset}, {1043, mode_always_reset},
-    {1050, mode_always_reset}, {1051, mode_always_reset}, {1052, mode_always_reset},
-    {1053, mode_always_reset}, {1060, mode_always_reset},
+    {8, mode_always_reset},    {44, mode_always_reset},   {46, mode_always_reset},
+    {60, mode_always_reset},   {61, mode_always_reset},   {64, mode_always_reset},
+    {68, mode_always_reset},   {73, mode_always_reset},   {81, mode_always_reset},
+    {1001, mode_always_reset}, {1010, mode_always_reset}, {1011, mode_always_set},
+    {1034, mode_always_reset}, {1036, mode_always_set},   {1037, mode_always_reset},
+    {1039, mode_always_set},   {1041, mode_always_reset}, {1042, mode_always_reset},
+    {1043, mode_always_reset}, {1050, mode_always_reset}, {1051, mode_always_reset},
+    {1052, mode_always_reset}, {1053, mode_always_reset}, {1060, mode_always_reset},
 };
 
 }  // namespace
@@ -235,8 +235,8 @@ void Terminal::set_ansi(bool on) {
     }
 }
 
-/// DECCOLM, where xterm's mode 40 and the user let it: besides the width it empties the screen, unless
-/// DECNCSM forbids that, and resets the margins.
+/// DECCOLM, where xterm's mode 40 and the user let it: besides the width it empties the screen and resets the
+/// margins. (DECNCSM, which would keep the text, is a VT510's.)
 void Terminal::set_columns(bool on) {
     if (!inner_.allow_columns || !permissions_.window_operations) {
         return;
@@ -247,9 +247,7 @@ void Terminal::set_columns(bool on) {
     request_size({on ? wide : narrow, size().rows});
     inner_.side_margins = false;
     reset_margins();
-    if (!inner_.keep_on_columns) {
-        screen_->fill(screen_->all(), blank());
-    }
+    fill(screen_->all(), blank());
     move_in_origin(0, 0);
 }
 
@@ -306,7 +304,9 @@ void Terminal::set_alternate_saved(bool on) {
     }
     if (!on) {
         set_alternate(false);
-        restore_cursor();
+        if (saved().saved) {  // a program may have come by 47 or 1047
+            restore_cursor();
+        }
         return;
     }
     save_cursor();

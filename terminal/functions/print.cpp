@@ -14,6 +14,7 @@ namespace terminal {
 namespace {
 
 constexpr char32_t first_extended = 0x80;
+constexpr int cluster_work = 16;  // about as many cells are written in the time
 
 std::size_t count_characters(std::string_view text) {
     return static_cast<std::size_t>(std::ranges::count_if(
@@ -28,13 +29,14 @@ int Terminal::right_limit() const {
 }
 
 /// Says which styles, links and clusters are in use.
-void Terminal::add_used(UsedIds& used) const {
+void Terminal::add_used(UsedIds& used) {
     for (const Screen* const screen : {&primary_, &alternate_}) {
         for (int row = 0; row < screen->size().rows; ++row) {
             std::ranges::for_each(screen->cells(row), [&used](const Cell& cell) { used.add(cell); });
         }
     }
     scrollback_.add_used(used);
+    spend(static_cast<std::int64_t>(scrollback_.memory()));
     pen_.add_used(used);
 }
 
@@ -105,7 +107,7 @@ void Terminal::print(std::span<const char32_t> text) {
 /// Places characters from the front of `text` as long as they take cells of their own and the row has room;
 /// returns how many.
 std::size_t Terminal::print_run(std::span<const char32_t> text) {
-    if (inner_.insert || cursor_.wrap_pending) {
+    if (cursor_.wrap_pending) {
         return 0;
     }
     const int limit = right_limit();
@@ -128,16 +130,26 @@ std::size_t Terminal::print_run(std::span<const char32_t> text) {
     }
     if (count > 0) {
         last_character_ = text[count - 1];
+        make_room(static_cast<int>(length), limit);
         screen_->write(cursor_.row, cursor_.column, std::span(run_).first(length));
         advance_cursor(static_cast<int>(length), limit);
     }
     return count;
 }
 
+/// In insert mode what follows the cursor moves to the right.
+void Terminal::make_room(int columns, int limit) {
+    if (inner_.insert && cursor_.column >= margins_.left && cursor_.column < margins_.right) {
+        spend(limit - cursor_.column);
+        screen_->insert_cells(cursor_.row, cursor_.column, limit, columns, blank());
+    }
+}
+
 /// Behind the last column the cursor stays on it, and the next character wraps.
 void Terminal::advance_cursor(int columns, int limit) {
     cursor_.column += columns;
-    if (cursor_.column >= limit) {
+    fills_row_ = cursor_.column >= limit;
+    if (fills_row_) {
         cursor_.column = limit - 1;
         cursor_.wrap_pending = inner_.autowrap;
     }
@@ -167,9 +179,7 @@ void Terminal::put_visible(char32_t character, int width) {
         }
         cursor_.column = std::min(cursor_.column, limit - width);
     }
-    if (inner_.insert && cursor_.column >= margins_.left && cursor_.column < margins_.right) {
-        screen_->insert_cells(cursor_.row, cursor_.column, limit, width, blank());
-    }
+    make_room(width, limit);
     std::array<Cell, 2> cells;
     cells.fill(attributes);
     cells[0].glyph |= character | (width == 2 ? Cell::wide : 0);
@@ -181,7 +191,8 @@ void Terminal::put_visible(char32_t character, int width) {
 /// Joins a combining character to the one before the cursor. One that finds none is dropped, and so is one
 /// too many.
 void Terminal::combine(char32_t character) {
-    int column = cursor_.wrap_pending ? cursor_.column : cursor_.column - 1;
+    const bool behind_last = cursor_.wrap_pending || (fills_row_ && last_character_ != 0);
+    int column = behind_last ? cursor_.column : cursor_.column - 1;
     if (column > 0 && screen_->cell(cursor_.row, column).is_wide_tail()) {
         --column;
     }
@@ -195,6 +206,7 @@ void Terminal::combine(char32_t character) {
         return;
     }
     append_utf8(character, text);
+    spend(cluster_work);
     const auto id = tables_.intern_cluster(text);
     if (id) {
         cell.glyph = (cell.glyph & (Cell::wide | Cell::guarded | Cell::area_guarded)) | Cell::cluster | *id;
@@ -204,11 +216,13 @@ void Terminal::combine(char32_t character) {
 
 /// The text goes on in the next row.
 void Terminal::wrap() {
-    const bool whole_row = margins_.width() == size().columns;
-    screen_->set_wrapped(cursor_.row, whole_row);
+    // Below the bottom margin the last row is written over.
+    const bool goes_on = cursor_.row == margins_.bottom - 1 || cursor_.row < size().rows - 1;
+    const bool joined = goes_on && margins_.width() == size().columns;
+    screen_->set_wrapped(cursor_.row, joined);
     line_feed();
     // Scrolling parts the rows at the bottom margin; these two belong together.
-    if (whole_row && cursor_.row > 0) {
+    if (joined && cursor_.row > 0) {
         screen_->set_wrapped(cursor_.row - 1, true);
     }
     cursor_.column = cursor_.column < margins_.left ? 0 : margins_.left;
@@ -218,10 +232,16 @@ void Terminal::rep(Function function) {
     if (last_character_ == 0) {
         return;
     }
-    const int width = character_width(last_character_);
+    std::array<char32_t, 256> characters;
+    characters.fill(last_character_);
     const int count = std::min(function.parameters.count(0), size().columns * size().rows);
-    for (int i = 0; i < count; ++i) {
-        put_visible(last_character_, width);
+    spend(count * character_width(last_character_));
+    for (auto rest = static_cast<std::size_t>(count); rest > 0;) {
+        const std::size_t done = print_run(std::span(characters).first(std::min(rest, characters.size())));
+        if (done == 0) {
+            put_visible(last_character_, character_width(last_character_));
+        }
+        rest -= std::max<std::size_t>(done, 1);
     }
 }
 

@@ -53,10 +53,11 @@ Region Terminal::rectangle(Function function, std::size_t first) const {
     return region.height() > 0 && region.width() > 0 ? region : Region{};
 }
 
-void Terminal::decera(Function function) { screen_->fill(rectangle(function, 0), blank()); }
+void Terminal::decera(Function function) { fill(rectangle(function, 0), blank()); }
 
 void Terminal::decsera(Function function) {
     const Region region = rectangle(function, 0);
+    spend(region.height() * region.width());
     for (int row = region.top; row < region.bottom; ++row) {
         screen_->erase_unguarded(row, region.left, region.right, Cell::guarded);
     }
@@ -69,7 +70,7 @@ void Terminal::decfra(Function function) {
     if (printable) {
         Cell cell = pen_.cell(tables_);
         cell.glyph |= static_cast<std::uint32_t>(character);
-        screen_->fill(rectangle(function, 1), cell);
+        fill(rectangle(function, 1), cell);
     }
 }
 
@@ -81,6 +82,7 @@ void Terminal::deccra(Function function) {
     from.bottom = std::min(from.bottom, from.top + within.bottom - row);
     from.right = std::min(from.right, from.left + within.right - column);
     if (from.height() > 0 && from.width() > 0) {
+        spend(from.height() * from.width());
         screen_->copy(from, row, column);
     }
 }
@@ -91,6 +93,7 @@ void Terminal::decrara(Function function) { change_styles(function, reverse_attr
 /// Changes the styles of a rectangle, or of the text from its first corner to its last (DECSACE).
 void Terminal::change_styles(Function function, void (*change)(const Parameters&, std::size_t, Style&)) {
     const Region region = rectangle(function, 0);
+    spend(region.height() * size().columns);
     std::optional<std::pair<StyleId, StyleId>> known;  // neighbours mostly have one style
     for (int row = region.top; row < region.bottom; ++row) {
         const bool from_edge = !whole_rectangles_ && row > region.top;

@@ -10,18 +10,24 @@
 
 namespace terminal {
 
-/// Replies are written in 7-bit form; the C1 controls in them become single bytes for who wants them so.
+namespace {
+
+constexpr int reply_work = 64;  // about as many cells are written in the time
+
+}  // namespace
+
+/// Replies are written in 7-bit form; the C1 controls in them become single bytes for who wants them so. They
+/// are handed over together when the output read with their questions has been worked off.
 void Terminal::reply(std::string_view bytes) {
+    spend(reply_work);
     if (controls_ == Controls::of_7_bits) {
-        client_.reply(bytes);
+        replies_ += bytes;
         return;
     }
-    std::string short_form;
     for (std::size_t i = 0; i < bytes.size(); ++i) {
         const bool c1 = bytes[i] == '\x1b' && i + 1 < bytes.size();
-        short_form += c1 ? static_cast<char>(bytes[++i] + 0x40) : bytes[i];
+        replies_ += c1 ? static_cast<char>(bytes[++i] + 0x40) : bytes[i];
     }
-    client_.reply(short_form);
 }
 
 /// What the terminal is at a conformance level: up to 64, a VT420. Then: 132 columns, printer port, selective

@@ -12,7 +12,7 @@ void Terminal::soft_reset() {
     inner_.insert = inner_.origin = inner_.reverse_wrap = inner_.far_reverse_wrap = false;
     inner_.side_margins = inner_.national_sets = false;
     inner_.autowrap = inner_.cursor_visible = true;
-    modes_.application_cursor_keys = modes_.application_keypad = modes_.keyboard_locked = false;
+    modes_.application_cursor_keys = modes_.application_keypad = false;
     modes_.modify_other_keys = 0;
     reset_margins();
     pen_.change() = {};
@@ -24,13 +24,12 @@ void Terminal::soft_reset() {
 }
 
 void Terminal::decstr(Function /*function*/) { soft_reset(); }
-void Terminal::ris(Function /*function*/) { reset(); }
+void Terminal::ris(Function /*function*/) { full_reset(); }
 
-void Terminal::reset() {
-    inner_.allow_alternate = true;
-    set_alternate(false);
-    if (inner_.columns_132) {
-        set_columns(false);
+void Terminal::reset_settings() {
+    soft_reset();
+    if (modes_.reverse_video) {
+        set_reverse_video(false);
     }
     modes_ = Modes{};
     inner_ = InnerModes{};
@@ -45,13 +44,34 @@ void Terminal::reset() {
     encoding_ = Encoding::utf8;
     choose_controls(Controls::of_7_bits);
     parser_.set_language(Parser::Language::ansi);
-    soft_reset();
-    scrollback_.close();
-    screen_->fill(screen_->all(), Cell{});
-    move_to(0, 0);
     tabs_.reset();
     colours_.palette().reset_all();
     palette_changed();
+}
+
+void Terminal::full_reset() {
+    inner_.allow_alternate = true;
+    set_alternate(false);
+    if (inner_.columns_132) {
+        set_columns(false);
+    }
+    reset_settings();
+    fill(screen_->all(), Cell{});
+    move_to(0, 0);
+}
+
+void Terminal::reset() {
+    parser_.reset();
+    full_reset();
+    finish();
+}
+
+void Terminal::end_of_program() {
+    parser_.reset();
+    inner_.allow_alternate = true;
+    set_alternate_saved(false);
+    reset_settings();
+    finish();
 }
 
 /// `61 to 64 ; controls`: the level, and whether replies use 7-bit controls (1) or 8-bit ones. A reset too
@@ -62,7 +82,7 @@ void Terminal::decscl(Function function) {
     if (level < 1 || level > top_level) {
         return;
     }
-    reset();
+    full_reset();
     level_ = level;
     if (level > 1 && function.parameters.get(1) != 1) {
         choose_controls(Controls::of_8_bits);

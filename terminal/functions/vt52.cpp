@@ -36,7 +36,7 @@ void Terminal::vt52_sequence(char final, std::array<char, max_intermediates> arg
             erase_in_row(Which::cursor_to_end, Erasure::plain);
             break;
         case 'Z':
-            client_.reply("\x1b/Z");
+            replies_ += "\x1b/Z";
             break;
         case '=':
         case '>':

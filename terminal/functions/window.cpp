@@ -26,8 +26,12 @@ std::string report(WindowGeometry::Point corner) {
 }  // namespace
 
 /// The terminal has the new size at once, so that what the program writes next already finds it; the window
-/// follows. One that cannot has the terminal resized again.
+/// follows. One that cannot has the terminal resized again. It does not outgrow the display.
 void Terminal::request_size(Size wanted) {
+    if (const auto display = display_size()) {
+        wanted.columns = std::min(wanted.columns, std::max(display->columns, size().columns));
+        wanted.rows = std::min(wanted.rows, std::max(display->rows, size().rows));
+    }
     wanted = within_limits(wanted);
     if (permissions_.window_operations && wanted != size()) {
         resize(wanted, {});
@@ -41,30 +45,37 @@ void Terminal::request_window(WindowRequest::Kind kind, WindowGeometry::Point co
     }
 }
 
-/// `height ; width`. What is left out stays, 0 is as much as the screen has.
-void Terminal::request_characters(Function function) {
+/// The characters that the display has room for; nothing where there is no window.
+std::optional<Size> Terminal::display_size() const {
     const WindowGeometry window = client_.window();
-    const auto wanted = [&function](std::size_t index, int now, int pixels, int cell) {
+    if (window.cell.width <= 0 || window.cell.height <= 0) {
+        return std::nullopt;
+    }
+    return Size{window.screen.width / window.cell.width, window.screen.height / window.cell.height};
+}
+
+/// `height ; width`. What is left out stays, 0 is the display's.
+void Terminal::request_characters(Function function) {
+    const Size display = display_size().value_or(size());
+    const auto wanted = [&function](std::size_t index, int now, int most) {
         const int value = function.parameters.get(index, now);
-        return value == 0 ? (cell > 0 ? pixels / cell : now) : value;
+        return value == 0 ? most : value;
     };
-    const int room_x = window.screen.width - (window.window.width - window.text.width);
-    const int room_y = window.screen.height - (window.window.height - window.text.height);
-    request_size({wanted(2, size().columns, room_x, window.cell.width),
-                  wanted(1, size().rows, room_y, window.cell.height)});
+    request_size({wanted(2, size().columns, display.columns), wanted(1, size().rows, display.rows)});
 }
 
 void Terminal::request_pixels(Function function) {
-    const WindowGeometry window = client_.window();
-    if (window.cell.width == 0 || window.cell.height == 0) {
+    const auto display = display_size();
+    if (!display) {
         return;
     }
-    const auto wanted = [&function](std::size_t index, int now, int screen, int cell) {
-        const int value = function.parameters.get(index, now * cell);
-        return (value == 0 ? screen : value) / cell;
+    const WindowGeometry::Extent cell = client_.window().cell;
+    const auto wanted = [&function](std::size_t index, int now, int most, int pixels) {
+        const int value = function.parameters.get(index, now * pixels);
+        return value == 0 ? most : value / pixels;
     };
-    request_size({wanted(2, size().columns, window.screen.width, window.cell.width),
-                  wanted(1, size().rows, window.screen.height, window.cell.height)});
+    request_size({wanted(2, size().columns, display->columns, cell.width),
+                  wanted(1, size().rows, display->rows, cell.height)});
 }
 
 /// Whether it was an operation that changes the window.
@@ -132,9 +143,7 @@ void Terminal::report_window(Function function) {
         case 18:
             return reply(report(8, size().rows, size().columns));
         case 19:
-            return exists ? reply(report(9, window.screen.height / window.cell.height,
-                                         window.screen.width / window.cell.width))
-                          : void();
+            return exists ? reply(report(9, display_size()->rows, display_size()->columns)) : void();
         default:
             return;
     }

@@ -65,6 +65,11 @@ const Case text_cases[] = {
     {"Latin1InsteadOfUtf8", "\033%@\351\2332Cx\033%G\303\251", "é  xé|||", "0,5"},
     {"RightHalfDesignated", "\033%@\033)0\033~\361\033%G", "─|||", "0,1"},
     {"EightBitControlsWithinUtf8", "\033 G\2332Cx\033 F\2331", "  x\uFFFD1|||", "0,5"},
+    {"RightHalfOf94LeavesTwoFree", "\033%@\033*0\240\377\361\033%G", "\u00a0ÿ─|||", "0,3"},
+    {"CombiningInLastColumnWithoutAutowrap", "\033[?7l0123456789e\u0301", "012345678e\u0301|||", "0,9"},
+    {"CombiningBehindAMoveToTheLastColumn", "\033[?7l0123456789\033[10G\u0301", "012345678\u03019|||", "0,9"},
+    {"RepeatTranslatesOnce", "\033(0q\033[2b", "───|||", "0,3"},
+    {"RepeatInInsertMode", "abcdef\r\033[4hx\033[3b", "xxxxabcdef|||", "0,4"},
     {"InsertMode", "abcd\r\033[4hXY\033[4lZ", "XYZbcd|||", "0,3"},
     {"InsertModeWithWide", "abcdefgh\r\033[4h漢", "漢abcdefgh|||", "0,2"},
 };
@@ -134,6 +139,8 @@ const Case edit_cases[] = {
     {"ScrollLeftAndRight", "abcdef\033[2 @\033[1 A", " cdef|||", "0,6"},
     {"LineFeedBelowMarginsDoesNotScroll", four + "\033[1;2r\033[4H\nx", "aaaa|bbbb|cccc|xddd", "3,1"},
     {"WrapAtBottomMargin", "\033[2;3r\033[3H0123456789a", "|0123456789>|a|", "2,1"},
+    {"WrapBelowTheMargins", "\033[1;2r\033[3Hfoo\033[4H0123456789ab", "||foo|ab23456789", "3,2"},
+    {"ScrollPartsTheRowAtTheMargin", "\033[2H0123456789ab\033[1;2r\033[2H\n", "0123456789||ab|", "1,0"},
     {"MovedRowsPart", "0123456789ab\033[2H\033[L", "0123456789||ab|", "1,0"},
     {"CharactersAreNotMovedOutsideSideMargins",
      "abcdefghij\033[?69h\033[2;4s\033[1;7H\033[@\033[P\033[H\033[@\033[P", "abcdefghij|||", "0,0"},
@@ -178,6 +185,39 @@ TEST(Terminal, LeavingAlternateScreen1047ErasesIt) {
     EXPECT_EQ(at.screen(), "|||");
     at.terminal.write("again\033[?47lx\033[?47h");
     EXPECT_EQ(at.screen(), "   again|||");
+}
+
+TEST(Terminal, LeavingBy1049RestoresOnlyWhatWasSaved) {
+    Screened at;
+    at.terminal.write("ab\033[?47hX\033[?1049lY");
+    EXPECT_EQ(at.screen(), "ab Y|||");
+}
+
+TEST(Terminal, ResetEndsWhatAProgramHasBegun) {
+    Screened at;
+    at.terminal.write("a\033Xb");
+    at.terminal.reset();
+    at.terminal.write("c");
+    EXPECT_EQ(at.screen(), "c|||");
+}
+
+TEST(Terminal, NothingOfAProgramThatEndedStays) {
+    Screened at;
+    at.terminal.write(
+        "ab\033[20;4h\033[?67;1004;2004;2026;1003;1006;5h\033[4 q\033[?25l\033]11;#123456\a"
+        "\033[2;3r\033[?69h\033[3g\033(0\033[7m\033[>4;2m\033%@\033[1;3H\033[?1049hc\033Xd");
+    at.terminal.end_of_program();
+    EXPECT_EQ(at.terminal.modes(), Modes{});
+    EXPECT_EQ(at.terminal.cursor().shape, CursorShape::block);
+    EXPECT_TRUE(at.terminal.cursor().visible);
+    EXPECT_EQ(at.terminal.background(), (Rgb{255, 255, 255}));
+    at.terminal.write("q\r\n\tx\n\ny");
+    EXPECT_EQ(at.screen(), "abq|        x||         y");
+    EXPECT_EQ(at.style(0, 2), Style{});
+    at.terminal.write("\033[?2l");
+    at.terminal.end_of_program();
+    at.terminal.write("\033[Hz");
+    EXPECT_EQ(at.screen(), "zbq|        x||         y");
 }
 
 TEST(Terminal, ErasingTakesTheBackground) {

@@ -11,6 +11,8 @@
 namespace terminal {
 namespace {
 
+using namespace std::string_literals;
+
 /// A colour of its own for each number.
 Colour colour(std::size_t number) {
     const auto byte = [number](unsigned shift) { return static_cast<std::uint8_t>(number >> shift & 0xFF); };
@@ -36,6 +38,40 @@ TEST(Limits, HugeCountsAreHarmless) {
         at.terminal.write("\033[!p\033[2J\033[Hok");
         EXPECT_EQ(at.screen(), "ok|||") << end;
     }
+}
+
+/// A slice of work ends soon after it is used up, and what is left over makes the same picture.
+TEST(Limits, WorkCanBeBounded) {
+    constexpr std::size_t count = 400;
+    for (const std::string& sequence :
+         {"x\033[65535b"s, "\033[88;1;1;99;999$x"s, "\033[1;1;99;999;7$t"s, "\033[1;1;99;999;1;2;2$v"s,
+          "\033[44m\033[2J"s, "\033[99S"s, "\033[99T"s, "\033[99L"s, "\033[99M"s, "\033[9'}"s, "\033[9'~"s,
+          "\033#8"s, "\033c\033[9 A"s, "\033[?45h\033[65535D"s}) {
+        SCOPED_TRACE(sequence.substr(1));
+        Screened at({200, 50});
+        const std::string flood = repeated(sequence, count);
+        std::string_view rest = flood;
+        int slices = 0;
+        for (; !rest.empty(); ++slices) {
+            const std::size_t taken = at.terminal.write_within(rest, 50'000);
+            ASSERT_GT(taken, 0U);
+            rest.remove_prefix(taken);
+        }
+        EXPECT_GE(slices, 60);
+        Screened whole({200, 50});
+        whole.terminal.write(flood);
+        EXPECT_EQ(at.screen(), whole.screen());
+    }
+    Screened at({80, 24});
+    const std::string text = repeated("plain text, a line of it\r\n", 600);
+    EXPECT_EQ(at.terminal.write_within(text, 50'000), text.size());
+}
+
+TEST(Limits, RepliesGoTogether) {
+    Screened at;
+    at.terminal.write(repeated("\033[5n", 1'000));
+    EXPECT_EQ(at.recorder.replies, repeated("\033[0n", 1'000));
+    EXPECT_EQ(at.recorder.reply_calls, 1);
 }
 
 TEST(Limits, ParametersAreFewAndSmall) {

@@ -33,6 +33,7 @@ const Case cases[] = {
     {"OscBrokenOffIsIgnored", "\033]0;a\033[mb\033\\", "b|||", {}},
     {"OscBrokenOffByAnotherString", "\033]0;a\033Xb\033\\c", "c|||", {}},
     {"DcsHoldsBell", "\033P$q\am\033\\x", "x|||", {}, "\033P1$r0m\033\\"},
+    {"DcsHeadHoldsDelete", "\033P\1771\177$\177qm\033\\x", "x|||", {}, "\033P1$r0m\033\\"},
     {"IgnoredStrings", "\033_a\a\033\\\033^b\033\\\033Xc\033\\d", "d|||", {}},
     {"C1AsUtf8", "\302\2332Cx\302\205y\302\2350;t\a", "  x|y||", {"t"}},
     {"BlanksBetweenOtherCharacters", "é 漢 ж.漢\302\205λ x", "é 漢 ж.漢|λ x||", {}},

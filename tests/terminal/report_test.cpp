@@ -32,6 +32,9 @@ const Case cases[] = {
     {"KnownModeReset", "\033[?1006$p\033[4$p", "\033[?1006;2$y\033[4;2$y"},
     {"ModesThatCannotBeChanged", "\033[7$p\033[?61$p\033[?1036$p", "\033[7;4$y\033[?61;4$y\033[?1036;3$y"},
     {"ModesOfAnOldTerminal", "\033[62;1\"p\033[?7$p\033P$qm\033\\", ""},
+    {"KeyboardIsNeverLocked", "\033[2h\033[2$p", "\033[2;4$y"},
+    {"AutoRepeatIsNotTold", "\033[?8$p\033[?8l\033[?8$p", "\033[?8;4$y\033[?8;4$y"},
+    {"NoModeOfAVt510", "\033[64;1\"p\033[?95h\033[?95$p", "\033[?95;0$y"},
     {"UnknownMode", "\033[?4711$p", "\033[?4711;0$y"},
     {"SavedModeComesBack", "\033[?7s\033[?7l\033[?7r\033[?7$p", "\033[?7;1$y"},
     {"SizeInCharacters", "\033[18t", "\033[8;4;10t"},
@@ -87,7 +90,7 @@ TEST(Reports, HoldWhatIsAskedForAndNothingOfTheInput) {
     }
 }
 
-/// With everything permitted, and a window of cells of 8 by 16 pixels on a screen of 800 by 640.
+/// With everything permitted, and a window of cells of 8 by 16 pixels on a screen of 1600 by 640.
 struct PermittedCase {
     const char* name;
     std::string input;
@@ -105,13 +108,13 @@ const PermittedCase permitted_cases[] = {
     {"ResizeInCells", "\033[8;6;12t\033[18t\033[8;;9t\033[18t\033[26t\033[18t",
      "\033[8;6;12t\033[8;6;9t\033[8;26;9t"},
     {"ResizeInPixels", "\033[4;160;96t\033[18t\033[14t", "\033[8;10;12t\033[4;160;96t"},
-    {"ResizeToTheScreen", "\033[8;0;0t\033[18t\033[19t", "\033[8;36;90t\033[9;40;100t"},
-    {"ResizeIsBounded", "\033[8;99999;99999t\033[18t", "\033[8;2048;2048t"},
+    {"ResizeToTheScreen", "\033[8;0;0t\033[18t\033[19t", "\033[8;40;200t\033[9;40;200t"},
+    {"ResizeIsBounded", "\033[8;99999;99999t\033[18t", "\033[8;40;200t"},
     {"Columns", "\033[?3h\033[18t\033[?40;3h\033[18t\033[?3$p\033[?3l\033[18t",
      "\033[8;4;10t\033[8;4;132t\033[?3;1$y\033[8;4;80t"},
     {"LinesAndColumnsOfAPage", "\033[132$|\033[6*|\033[18t", "\033[8;6;132t"},
     {"Geometry", "\033[13t\033[13;2t\033[14;2t\033[15t\033[16t\033[11t",
-     "\033[3;3;4t\033[3;5;6t\033[4;128;160t\033[5;640;800t\033[6;16;8t\033[1t"},
+     "\033[3;3;4t\033[3;5;6t\033[4;128;160t\033[5;640;1600t\033[6;16;8t\033[1t"},
     {"Titles", "\033]2;w\a\033]1;i\a\033[20t\033[21t", "\033]Li\033\\\033]lw\033\\"},
     {"TitleStack",
      "\033]0;a\a\033[22t\033]0;b\a\033[22;2t\033]0;c\a\033[23;2t\033[21t\033[23t\033[20t\033[23t",

@@ -86,8 +86,8 @@ TEST(Resize, AnchorsMoveWithTheirText) {
     std::array<Position, 5> anchors = {
         {{first, 2}, {first + 1, 7}, {first + 2, 3}, {first + 3, 0}, {first + 2, 10}}};
     at.terminal.resize({6, 3}, anchors);
-    const auto at_anchor = [&at](Position place) {
-        return at.row_text(place.row).substr(static_cast<std::size_t>(place.column));
+    const auto at_anchor = [&at](Position anchor) {
+        return at.row_text(anchor.row).substr(static_cast<std::size_t>(anchor.column));
     };
     EXPECT_EQ(at.row_text(anchors[0].row), "first");
     EXPECT_EQ(anchors[0].column, 2);
@@ -96,6 +96,21 @@ TEST(Resize, AnchorsMoveWithTheirText) {
     EXPECT_EQ(at_anchor(anchors[3]), "x");
     EXPECT_EQ(at.row_text(anchors[4].row), "ij");
     EXPECT_EQ(anchors[4].column, 2);
+}
+
+TEST(Resize, KeepsTheRowOfACursorAboveTheText) {
+    struct {
+        Size size;
+        const char* screen;
+        const char* cursor;
+    } const sizes[] = {{{10, 2}, "bbbb|cccc", "0,1"}, {{3, 2}, "bbb>|b", "0,1"}, {{10, 1}, "bbbb", "0,1"}};
+    for (const auto& [size, screen, cursor] : sizes) {
+        Screened at;
+        at.terminal.write("aaaa\r\nbbbb\r\ncccc\r\ndddd\033[2;2H");
+        at.terminal.resize(size);
+        EXPECT_EQ(at.screen(), screen);
+        EXPECT_EQ(at.cursor(), cursor);
+    }
 }
 
 TEST(Resize, AlternateScreenIsCutAndPrimaryFlows) {
@@ -135,7 +150,7 @@ TEST(Resize, TabStopsAndMarginsFitTheNewSize) {
     EXPECT_EQ(at.scrollback(), "                x|");
 }
 
-// Any walk through sizes leaves the text as it was, and the cursor at its place in it.
+// Any walk through sizes leaves the text as it was, and the cursor where it was in it.
 TEST(Resize, RandomWalkKeepsAllText) {
     std::mt19937 random(7);
     const auto below = [&random](int limit) {

@@ -20,7 +20,10 @@ inline std::string repeated(std::string_view text, std::size_t count) {
 
 /// Keeps what the engine tells.
 struct Recorder : Client {
-    void reply(std::string_view bytes) override { replies += bytes; }
+    void reply(std::string_view bytes) override {
+        replies += bytes;
+        ++reply_calls;
+    }
     void bell() override { ++bells; }
     void title_changed(std::string_view text) override { titles.emplace_back(text); }
     void size_changed() override { heard += "size|"; }
@@ -29,7 +32,7 @@ struct Recorder : Client {
                  std::to_string(request.corner.x) + ',' + std::to_string(request.corner.y) + '|';
     }
     [[nodiscard]] WindowGeometry window() const override {
-        return {{8, 16}, {80, 64}, {160, 128}, {800, 640}, {3, 4}, {5, 6}};
+        return {{8, 16}, {80, 64}, {160, 128}, {1600, 640}, {3, 4}, {5, 6}};
     }
     std::optional<Rgb> named_colour(std::string_view name) override {
         return name == "light blue" ? std::optional(Rgb{0xAD, 0xD8, 0xE6}) : std::nullopt;
@@ -40,6 +43,7 @@ struct Recorder : Client {
 
     std::string replies;
     std::string heard;
+    int reply_calls = 0;
     int bells = 0;
     std::vector<std::string> titles;
 };

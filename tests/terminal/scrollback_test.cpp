@@ -69,6 +69,17 @@ TEST(Scrollback, KeepsRowsAsTheyWereUpToItsLimit) {
     }
 }
 
+// What stands in the first row after it was emptied is not the end of the line that has scrolled off.
+TEST(Scrollback, ErasingTheFirstRowEndsTheLineAboveIt) {
+    for (const char* const erasure :
+         {"\033[J", "\033[2J", "\033[4H\033[1J", "\033[K", "\033[2K", "\033[L", "\033[M", "\033[T", "\033#8",
+          "\033[1;1;1;10$z", "\033[88;1;1;1;10$x", "\033c", "\033[99X"}) {
+        Screened at;
+        at.terminal.write(std::string(45, 'x') + "\033[H" + erasure);
+        EXPECT_EQ(at.scrollback(), "xxxxxxxxxx") << erasure + 1;
+    }
+}
+
 TEST(Scrollback, IsErasedByItself) {
     Screened at;
     at.terminal.write(numbered_lines(0, 9) + "\033[3J");

@@ -10,12 +10,6 @@ namespace {
 constexpr int update_limit_milliseconds = 150;
 constexpr std::size_t window_requests_limit = 16;  // in one piece of output
 
-// Takes back what a program that ended untidily may have left: VT52 mode and other forms of controls and
-// text, margins and modes (DECSTR), mouse and focus reports, brackets around pastes, an open update.
-constexpr std::string_view tidy_up =
-    "\x1b[?2h\x1b F\x1b%G\x1b[?2026l\x1b[!p\x1b[?9;1000;1002;1003;1004;1005;1006;1015;1016;2004l\x1b[?7;8h"
-    "\x1b[12h\x1b[0m";
-
 /// Callbacks that the owner has not set are nobody's business.
 template <typename... Parameters, typename... Arguments>
 void call(const std::function<void(Parameters...)>& callback, Arguments&&... arguments) {
@@ -177,11 +171,7 @@ void TerminalSession::note_update_state() {
 }
 
 void TerminalSession::announce(const std::string& text) {
-    // Leaving the alternate screen when it is not shown would move the cursor.
-    if (terminal_.modes().alternate_screen) {
-        terminal_.write_local("\x1b[?1049l");
-    }
-    terminal_.write_local(tidy_up);
+    terminal_.end_of_program();
     note_update_state();
     const bool line_begun = terminal_.cursor().position.column > 0;
     show(fmt::format("{}{}\n", line_begun ? "\n" : "", text));

@@ -143,7 +143,7 @@ void TerminalView::type_key(const KeyEvent& event) {
     }
     const terminal::Modes& modes = terminal().modes();
     const std::string bytes = terminal::encode_key(event.key, event.modifiers, event.text, modes);
-    const bool ignored = modes.keyboard_locked || (event.repeated && !modes.auto_repeat);
+    const bool ignored = event.repeated && !modes.auto_repeat;
     if (bytes.empty() || ignored) {
         return;
     }
