@@ -4,8 +4,10 @@
 #include "terminal/parser.h"
 
 #include <algorithm>
+#include <array>
 
-// What the parser hands on is the same however its input is cut, and is within the limits.
+// What the parser hands on is the same however its input is cut, and is within the limits; in each encoding
+// and language, which the first byte chooses.
 
 using namespace terminal;
 
@@ -66,14 +68,31 @@ class Record : public ParserHandler {
     }
 };
 
+/// Below these numbers the first byte is no text.
+constexpr unsigned choices = 6;
+
+void choose(Parser& parser, unsigned choice) {
+    using enum Parser::Encoding;
+    constexpr std::array encodings{utf8, utf8_with_8bit_controls, latin1};
+    if (choice < choices) {
+        parser.set_encoding(encodings[choice % encodings.size()]);
+        parser.set_language(choice < encodings.size() ? Parser::Language::ansi : Parser::Language::vt52);
+    }
+}
+
 }  // namespace
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    const std::string_view bytes = as_text(data, size);
+    std::string_view bytes = as_text(data, size);
+    const unsigned choice = bytes.empty() ? 0 : static_cast<std::uint8_t>(bytes.front());
+    bytes.remove_prefix(choice < choices ? 1 : 0);
     Record whole;
-    Parser(whole).feed(bytes);
+    Parser whole_parser(whole);
+    choose(whole_parser, choice);
+    require(whole_parser.feed(bytes) == bytes.size(), "the parser stops by itself");
     Record single;
     Parser parser(single);
+    choose(parser, choice);
     for (std::size_t i = 0; i < bytes.size(); ++i) {
         parser.feed(bytes.substr(i, 1));
     }

@@ -6,6 +6,7 @@
 #include "terminal/text.h"
 
 #include <algorithm>
+#include <ctime>
 
 using namespace terminal;
 
@@ -55,7 +56,7 @@ void CheckedClient::reply(std::string_view bytes) {
     require(bytes.size() > 1 && introduces(bytes.front()), "a reply is no escape sequence");
     require(std::ranges::all_of(bytes, [&](char c) { return introduces(c) || (is_graphic(c) && c > 0); }),
             "a control character in a reply");
-    told.append(bytes) += '\n';
+    replies += bytes;
 }
 
 void CheckedClient::title_changed(std::string_view title) {
@@ -95,6 +96,25 @@ void check_picture(const Terminal& terminal) {
     for (RowId id = terminal.first_row(); id < terminal.end_row(); ++id) {
         check_row(terminal, terminal.row(id));
     }
+}
+
+void check_cost(Terminal& terminal, std::string_view bytes) {
+    // With sanitizers and assertions a byte takes some microseconds; an eighth of a function that fills the
+    // screen or lays all its text out anew takes as many nanoseconds for each cell as there are here.
+    constexpr double base_seconds = 0.5;
+    constexpr double seconds_a_cell = 100e-9;
+    constexpr std::size_t most_memory = 16'000'000;
+    const auto seconds = [] {
+        timespec now{};
+        clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
+        return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) * 1e-9;
+    };
+    const double before = seconds();
+    terminal.write(bytes);
+    const Size size = terminal.size();
+    const double cells = static_cast<double>(bytes.size()) * (size.columns * size.rows + 1'000.0);
+    require(seconds() - before < base_seconds + cells * seconds_a_cell, "an input costs too much time");
+    require(terminal.scrollback_memory() < most_memory, "an input costs too much memory");
 }
 
 std::string picture(const Terminal& terminal) {

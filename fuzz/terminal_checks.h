@@ -16,6 +16,7 @@ class CheckedClient : public terminal::Client {
     void bell() override { told += '\a'; }
     void title_changed(std::string_view title) override;
 
+    std::string replies;
     std::string told;
 };
 
@@ -37,6 +38,9 @@ class StampCheck {
 /// What holds of a terminal at all times: size and cursor are within their limits, wide characters are whole,
 /// every cell has text.
 void check_picture(const terminal::Terminal& terminal);
+
+/// Writes, and checks that it costs no more time and memory than so few bytes may.
+void check_cost(terminal::Terminal& terminal, std::string_view bytes);
 
 /// All that can be seen of a terminal, as text; equal for equal pictures.
 std::string picture(const terminal::Terminal& terminal);

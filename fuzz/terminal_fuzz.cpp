@@ -9,14 +9,14 @@
 #include <array>
 
 // What a program writes, with what the user does in between. The input is written to a terminal as it is;
-// each byte FF in it, which no UTF-8 text holds, begins a step of three bytes instead: which one, and two
+// each byte FE in it, which no UTF-8 text holds, begins a step of three bytes instead: which one, and two
 // numbers.
 
 using namespace terminal;
 
 namespace {
 
-constexpr char step_mark = '\xff';
+constexpr char step_mark = '\xfe';
 constexpr std::size_t step_bytes = 3;  // behind the mark
 constexpr std::size_t scrollback_rows = 50;
 
@@ -43,19 +43,28 @@ Cell cell_at(const Terminal& terminal, Position at) {
     return cell;
 }
 
-/// Another size loses no text, and positions stay with theirs. The beginning of a line that was cut at the
-/// scrollback's limit may come back.
+/// Another size loses no text, but for what has no room below the cursor, and positions stay with theirs. The
+/// beginning of a line that was cut at the scrollback's limit may come back.
 void resize(Terminal& terminal, std::uint8_t columns, std::uint8_t rows) {
     const bool primary = !terminal.modes().alternate_screen;
     const std::string text = primary ? all_text(terminal) : "";
+    const Position cursor = terminal.cursor().position;
+    const std::string above_cursor =
+        primary ? text_between(terminal, {{terminal.first_row(), 0}, {cursor.row, 0}}) : "";
     std::array anchors{position(terminal, rows, columns), terminal.cursor().position};
     const Cell anchored = cell_at(terminal, anchors[0]);
     terminal.resize(size_of(columns, rows), anchors);
     if (!primary) {
         return;
     }
-    require(all_text(terminal).ends_with(text), "a resize changes the text");
-    require(anchored.glyph == 0 || cell_at(terminal, anchors[0]) == anchored, "an anchor left its text");
+    const std::string now = all_text(terminal);
+    const std::size_t kept = now.rfind(above_cursor);
+    require(now.ends_with(text) || kept != std::string::npos, "a resize changes the text");
+    require(now.ends_with(text) ||
+                text.substr(above_cursor.size()).starts_with(now.substr(kept + above_cursor.size())),
+            "a resize changes the text behind the cursor");
+    require(!now.ends_with(text) || anchored.glyph == 0 || cell_at(terminal, anchors[0]) == anchored,
+            "an anchor left its text");
 }
 
 /// What is told of a position lies within the rows.
@@ -83,6 +92,15 @@ void ask(const Terminal& terminal, Position at) {
     }
 }
 
+/// Encodings, forms of controls, and the VT52's sequences.
+constexpr std::array<std::string_view, 6> languages{"\x1b%@", "\x1b%G", "\x1b[?2l",
+                                                    "\x1b<",  "\x1b G", "\x1b F"};
+
+void write_both(Terminal& whole, Terminal& pieces, std::string_view bytes) {
+    whole.write(bytes);
+    pieces.write(bytes);
+}
+
 /// What the user does in between; the checks are made on the first terminal.
 void take_step(Terminal& whole, Terminal& pieces, char step, std::uint8_t first, std::uint8_t second) {
     switch (step) {
@@ -95,6 +113,12 @@ void take_step(Terminal& whole, Terminal& pieces, char step, std::uint8_t first,
         case 'c':
             whole.clear_all();
             return pieces.clear_all();
+        case 'm':
+            write_both(whole, pieces, languages[first % languages.size()]);
+            return;
+        case 'e':
+            whole.end_of_program();
+            return pieces.end_of_program();
         case 'i':
             whole.reset();
             return pieces.reset();
@@ -126,7 +150,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     for (std::string_view rest = as_text(data, size); !rest.empty();) {
         const std::string_view written = rest.substr(0, rest.find(step_mark));
         rest.remove_prefix(written.size());
-        whole.write(written);
+        check_cost(whole, written);
         write_pieces(pieces, written);
         stamps.look(whole);
         if (rest.size() > step_bytes) {
@@ -142,6 +166,8 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     }
     check_picture(whole);
     require(picture(whole) == picture(pieces), "the picture depends on how the bytes were cut");
+    require(whole_client.replies == pieces_client.replies,
+            "what is replied depends on how the bytes were cut");
     require(whole_client.told == pieces_client.told, "what is told depends on how the bytes were cut");
     return 0;
 }
