@@ -1,23 +1,23 @@
 // SPDX-License-Identifier: MIT
 // The buttons of "Notebook".
-#include "ui/notebook.h"
+#include "app/notebook.h"
 
 #include "app/notify.h"
 #include "app/pane_file.h"
 #include "shell/background.h"
 #include "shell/files.h"
 #include "shell/messages.h"
+#include "shell/operands.h"
 #include "shell/print.h"
 #include "ui/default_settings.h"
 #include "ui/environment_setup.h"
+#include "ui/notebook.h"
 
 #include <cstring>
 
 #include <fmt/format.h>
 
 namespace {
-
-const std::string printed_file = "/tmp/notebook.txt";
 
 PaneFile notebook_file;
 
@@ -39,14 +39,20 @@ void NotebookPrint() {
         return;
     }
     // Everybody may write into /tmp: a link that somebody has put there must not lead to another file.
-    const int error = save_file(printed_file, text, {.links = Links::replace, .exact_mode = 0600});
+    const int error = save_file(notebook_print_file, text, {.links = Links::replace, .exact_mode = 0600});
     if (error != 0) {
-        notebook().set_left_footer(fmt::format("Could not write {}: {}", printed_file, std::strerror(error)));
+        notebook().set_left_footer(
+            fmt::format("Could not write {}: {}", notebook_print_file, std::strerror(error)));
         return;
     }
-    const std::string command = print_command(default_settings().print_command.text(), printed_file);
-    run_in_background(command);
-    notebook().set_left_footer(fmt::format("Printing: {}", command));
+    const std::optional<std::string> command =
+        print_command(default_settings().print_command.text(), notebook_print_file);
+    if (!command) {
+        notebook().set_left_footer(name_refusal(notebook_print_file));
+        return;
+    }
+    run_in_background(*command);
+    notebook().set_left_footer(fmt::format("Printing: {}", *command));
 }
 
 void NotebookClear() {

@@ -133,7 +133,7 @@ void put_options_into_fields(const CommandLineOptions& options) {
     if (options.work) {
         environment_setup().working_directory_1.set_text(options.workdir);
     }
-    if (options.ilabel) {
+    if (!options.label.empty()) {
         define_label().label.set_text(options.label);
     }
 }

@@ -16,9 +16,11 @@ namespace {
 
 ScanResult show(Scan scan, ScrollingList& list, int& count) {
     count = 0;
-    if (scan.result == SCAN_OK || scan.result == SCAN_CLOSE_FAILED) {
+    if (scan.result == SCAN_OK) {
         list.set_rows(std::move(scan.rows));
         count = scan.count;
+    } else if (scan.result != SCAN_OPEN_FAILED) {
+        delete_all(list);
     }
     return scan.result;
 }

@@ -7,8 +7,8 @@
 
 class ScrollingList;
 
-// Directories in lists. A directory that cannot be listed leaves the list as it was; see browsers/scan.h for
-// the results and counts.
+// Directories in lists. A directory that cannot be opened leaves the list as it was; whatever else keeps it
+// from being listed empties the list. See browsers/scan.h for the results and counts.
 
 /// Fills a list with a go-up row, the subdirectories and the files.
 ScanResult add_name_to_list(ScrollingList& list, const std::string& directory, int& count);

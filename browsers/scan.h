@@ -16,7 +16,7 @@ enum ScanResult {
     SCAN_OPEN_FAILED = 1,   ///< no directory, or one that cannot be read
     SCAN_READ_ERROR = 2,    ///< for callers' tables; no scan gives it
     SCAN_TOO_MANY = 3,      ///< 10,000 names or more would have been kept
-    SCAN_CLOSE_FAILED = 4,  ///< the rows are there, but the directory could not be closed
+    SCAN_CLOSE_FAILED = 4,  ///< the directory could not be closed: the rows may be wrong
     SCAN_EMPTY = 5,         ///< no subdirectory, or no name that passes the filter
 };
 

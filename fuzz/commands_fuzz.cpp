@@ -2,6 +2,7 @@
 #include "fuzz/check.h"
 #include "fuzz/input.h"
 #include "settings/command_list_format.h"
+#include "shell/fill_template.h"
 
 namespace {
 
@@ -24,7 +25,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     for (const std::string& row : *rows) {
         require(without_comment(row).find("/*") == std::string::npos, "a comment is left");
         const Placeholder placeholders[] = {itself("$$$", row), itself("???", row), itself("%%%", row)};
-        require(fill_template(row, placeholders) == row,
+        require(fill_template(row, placeholders, 2) == row,
                 "placeholders that stand for themselves change a row");
     }
     return 0;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// What choosing a bookmark does, and the main window's buttons that make one. A bookmark's path is one word
-// for the shell, whatever it holds.
+// What choosing a bookmark does, and the main window's buttons that make one. The path of a directory, and
+// any that names a file, is one word for the shell, whatever it holds.
 #include "browsers/file_type.h"
 #include "settings/notify.h"
 #include "shell/background.h"
@@ -20,6 +20,7 @@
 
 #include <fmt/format.h>
 #include <fmt/printf.h>
+#include <unistd.h>
 
 namespace {
 
@@ -36,6 +37,12 @@ std::optional<std::string> word_of(const std::string& path) {
         main_window().set_left_footer(name_refusal(meant));
     }
     return word;
+}
+
+/// What an executable's or a script's bookmark types: the file that it names, else its user's own command
+/// ("make -k all") as it stands.
+std::optional<std::string> command_of(const std::string& path) {
+    return access(path_meant(path).c_str(), F_OK) == 0 ? word_of(path) : path;
 }
 
 /// Opens a path with the program that an environment variable names; its value may hold options.
@@ -84,14 +91,16 @@ void OpenBookmarkSource(const std::string& path) {
 }
 
 void RunBookmarkExec(const std::string& path) {
-    if (const std::optional<std::string> word = word_of(path)) {
-        (void)send_line(main_window(), *word);
+    const std::optional<std::string> command = command_of(path);
+    if (command && !command->empty()) {
+        (void)send_line(main_window(), *command);
     }
 }
 
 void RunBookmarkScript(const std::string& path) {
-    if (const std::optional<std::string> word = word_of(path)) {
-        main_window().set_left_footer(type_text(*word));
+    const std::optional<std::string> command = command_of(path);
+    if (command && !command->empty()) {
+        main_window().set_left_footer(type_text(*command));
         SetupTimer(refresh_after_command);
         main_window().termpane.set_focus();
     }
@@ -102,8 +111,9 @@ void OpenBookmarkHTML(const std::string& path) { open_with("OPENHTML", path); }
 void OpenBookmarkPDF(const std::string& path) { open_with("OPENPDF", path); }
 
 void OpenBookmarkOther(const std::string& path) {
-    if (const std::optional<std::string> word = word_of(path)) {
-        main_window().command.set_text(*word);
+    main_window().set_left_footer("");
+    if (!path.empty()) {
+        main_window().command.set_text(path);
         main_window().command.set_focus();
     }
 }

@@ -9,6 +9,7 @@
 #include "shell/doubleclick.h"
 #include "shell/editor.h"
 #include "shell/files.h"
+#include "shell/fill_template.h"
 #include "shell/messages.h"
 #include "shell/operands.h"
 #include "shell/process.h"
@@ -64,7 +65,7 @@ std::optional<std::string> loaded_file(CommandListManager& manager) {
 std::string file_in_list_browser() {
     const std::string directory = file_list_browser().directory.text();
     const std::string name = file_list_browser().file_name.text();
-    return directory.empty() ? name : fmt::sprintf("%s/%s", directory, name);
+    return directory.empty() || name.empty() ? name : fmt::sprintf("%s/%s", directory, name);
 }
 
 /// The command that a row makes; nothing, and the footer says why, when one of its placeholders cannot be
@@ -77,11 +78,13 @@ std::optional<std::string> command_of(CommandListManager& manager, const std::st
         }
         return selection;
     };
-    const auto name = [&manager](auto source) {
-        return [&manager, source](std::string_view before) -> std::optional<std::string> {
+    const auto name = [&manager](std::string_view mark, auto source) {
+        const auto word_behind = [&manager, mark,
+                                  source](std::string_view before) -> std::optional<std::string> {
             const std::string value = source();
             if (value.empty()) {
-                return value;
+                manager.set_left_footer(nothing_to_put(mark));
+                return std::nullopt;
             }
             std::optional<std::string> word = operand_behind(before, value, user_shell);
             if (!word) {
@@ -89,16 +92,18 @@ std::optional<std::string> command_of(CommandListManager& manager, const std::st
             }
             return word;
         };
+        return Placeholder{mark, word_behind};
     };
     const std::array placeholders{
         Placeholder{"$$$", selected},
         Placeholder{"%%%", [&](std::string_view) { return manager.text.text(); }},
-        Placeholder{"###", name([] { return file_list_browser().file_name.text(); })},
-        Placeholder{"@@@", name([] { return main_window().cwd.text(); })},
-        Placeholder{"&&&", name(file_in_list_browser)},
-        Placeholder{"???", name(selected_tree_name)},
+        name("###", [] { return file_list_browser().file_name.text(); }),
+        name("@@@", [] { return main_window().cwd.text(); }),
+        name("&&&", file_in_list_browser),
+        name("???", selected_tree_name),
     };
-    return fill_template(without_comment(row), placeholders);
+    constexpr int most_of_a_kind = 2;
+    return fill_template(without_comment(row), placeholders, most_of_a_kind);
 }
 
 /// Whether the menu could be made; the button has none otherwise.

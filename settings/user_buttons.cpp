@@ -2,6 +2,7 @@
 #include "settings/user_buttons.h"
 
 #include "settings/notify.h"
+#include "shell/fill_template.h"
 #include "shell/operands.h"
 #include "shell/process.h"
 #include "shell/send_line.h"
@@ -57,6 +58,7 @@ void press(const UserButton& user) {
 struct FilledCommand {
     std::string text;
     std::string refusal;
+    std::string missing = {};  ///< what there was for the placeholder was nothing
 };
 
 FilledCommand fill(const std::string& command) {
@@ -64,10 +66,12 @@ FilledCommand fill(const std::string& command) {
     const auto selection = [&filled] {
         SelectionLine line = selection_line();
         filled.refusal = line.refusal;
+        filled.missing = line.text.empty() ? "No selection made" : "";
         return std::move(line.text);
     };
     const auto tree_name = [&] {
         const std::string name = selected_tree_name();
+        filled.missing = name.empty() ? nothing_to_put("???") : "";
         const std::optional<std::string> operand =
             name.empty()
                 ? name
@@ -78,8 +82,8 @@ FilledCommand fill(const std::string& command) {
         return operand.value_or(std::string());
     };
     filled.text = fix_command(command, selection, tree_name);
-    if (filled.refusal.empty() && filled.text.empty()) {
-        filled.refusal = "Selection too long or error in command";
+    if (filled.refusal.empty()) {
+        filled.refusal = filled.text.empty() ? "Selection too long or error in command" : filled.missing;
     }
     return filled;
 }

@@ -1,14 +1,26 @@
 // SPDX-License-Identifier: MIT
 #include "shell/print.h"
 
+#include "shell/fill_template.h"
+#include "shell/operands.h"
 #include "shell/text.h"
+
+#include <array>
 
 #include <fmt/format.h>
 
-std::string print_command(std::string_view users_command, std::string_view path) {
+std::optional<std::string> print_command(std::string_view users_command, std::string_view path) {
     const std::string name = getfilename(path);
     if (users_command.empty()) {
-        return fmt::format("mp -s {} {} | lp -c", name, path);
+        return fmt::format("mp -s {} {} | lp -c", script_word(name, ShellFamily::other),
+                           script_word(path, ShellFamily::other));
     }
-    return replace_text(replace_text(users_command, "$PATH_NAME", path), "$FILE_NAME", name);
+    const auto operand = [](std::string_view text) {
+        return [text](std::string_view before) {
+            return operand_behind(before, text, Shell{ShellFamily::other, true});
+        };
+    };
+    const std::array placeholders{Placeholder{"$PATH_NAME", operand(path)},
+                                  Placeholder{"$FILE_NAME", operand(name)}};
+    return fill_template(users_command, placeholders, 1);
 }

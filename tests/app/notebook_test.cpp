@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/notebook.h"
+#include "app/notebook.h"
 
 #include "app/notify.h"
 #include "app/pane_file.h"
@@ -7,6 +7,7 @@
 #include "ui/default_settings.h"
 #include "ui/environment_setup.h"
 #include "ui/message_board.h"
+#include "ui/notebook.h"
 #include "ui/windows.h"
 
 #include <QAbstractButton>
@@ -150,8 +151,9 @@ TEST_F(NotebookTest, GivesEveryTextBackByteForByte) {
 }
 
 TEST_F(NotebookTest, PrintsWithTheUsersCommand) {
-    const fs::path file = "/tmp/notebook.txt";
-    const std::string command = "cp /tmp/notebook.txt " + path("printed");
+    EXPECT_EQ(notebook_print_file, "/tmp/notebook.txt");
+    notebook_print_file = path("notebook.txt");  // the real one may be somebody's
+    const std::string command = "cp " + path("notebook.txt") + " " + path("printed");
     default_settings().print_command.set_text("cp $PATH_NAME " + path("printed"));
     NotebookPrint();
     EXPECT_EQ(notebook().left_footer(), "Nothing to print");
@@ -161,9 +163,8 @@ TEST_F(NotebookTest, PrintsWithTheUsersCommand) {
     EXPECT_EQ(notebook().left_footer(), "Printing: " + command);
     EXPECT_EQ(message_board().text.text(), command + " &\n");
     EXPECT_TRUE(QTest::qWaitFor([&] { return contents("printed") == "caf\xC3\xA9\n"; }, 20'000));
-    EXPECT_EQ(fs::status(file).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+    EXPECT_EQ(fs::status(notebook_print_file).permissions(), fs::perms::owner_read | fs::perms::owner_write);
     EXPECT_TRUE(notebook().text.modified());
-    fs::remove(file);
 }
 
 TEST_F(NotebookTest, HasAMessageBoardThatIsSavedAndCleared) {

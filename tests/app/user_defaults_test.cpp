@@ -37,16 +37,17 @@ TEST(UserDefaults, KnowWhatThePromptOfAShellEndsIn) {
 }
 
 TEST(Print, PutsPathAndNameIntoTheUsersCommandOnceEach) {
-    const std::pair<const char*, const char*> cases[] = {
-        {"", "mp -s notebook.txt /tmp/notebook.txt | lp -c"},
-        {"lp $PATH_NAME", "lp /tmp/notebook.txt"},
-        {"lp -t $FILE_NAME $PATH_NAME", "lp -t notebook.txt /tmp/notebook.txt"},
-        {"$PATH_NAME $PATH_NAME $FILE_NAME $FILE_NAME",
-         "/tmp/notebook.txt $PATH_NAME notebook.txt $FILE_NAME"},
-        {"lp", "lp"},
+    const std::tuple<const char*, const char*, std::optional<std::string>> cases[] = {
+        {"", "/t/n.txt", "mp -s n.txt /t/n.txt | lp -c"},
+        {"", "/t/a;b", "mp -s 'a;b' '/t/a;b' | lp -c"},
+        {"$PATH_NAME $PATH_NAME $FILE_NAME $FILE_NAME", "/t/n.txt", "/t/n.txt $PATH_NAME n.txt $FILE_NAME"},
+        {"lp -t $FILE_NAME $PATH_NAME", "/t/$PATH_NAME", "lp -t '$PATH_NAME' '/t/$PATH_NAME'"},
+        {"lp \"$PATH_NAME\"", "/t/a b", "lp \"/t/a b\""},
+        {"lp \"$PATH_NAME\"", "/t/$(a)", std::nullopt},
+        {"lp", "/t/n.txt", "lp"},
     };
-    for (const auto& [command, expected] : cases) {
-        EXPECT_EQ(print_command(command, "/tmp/notebook.txt"), expected) << command;
+    for (const auto& [command, path, expected] : cases) {
+        EXPECT_EQ(print_command(command, path), expected) << command << path;
     }
 }
 

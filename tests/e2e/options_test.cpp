@@ -27,6 +27,13 @@ TEST_F(Options, ShowInTheWindows) {
     EXPECT_EQ(outcome(), Outcome("Two words", "/tmp", "Setup file not found"));
 }
 
+TEST_F(Options, ALastLabelWithoutItsTextLeavesTheSetups) {
+    home_.write("Orvik.setup", setup_text({{16, "from the setup"}}));
+    setup_.options = {"-l"};
+    start();
+    EXPECT_EQ(display().title(x_window()), "from the setup");
+}
+
 TEST_F(Options, AMissingValueDropsAll) {
     setup_.options = {"-l", "label", "-work", "-opened"};
     EXPECT_EQ(outcome(), Outcome(own_title, "", "Error in command string"));

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "settings/bookmarks.h"
 
+#include "browsers/file_list.h"
 #include "settings/bookmark_format.h"
 #include "tests/settings/menu_windows.h"
 #include "ui/bookmark_definition.h"
@@ -118,9 +119,13 @@ TEST_F(BookmarksTest, ActByCategory) {
          "b",
          "cd $'a\\033b'\n", "", "", ""},
         {RunBookmarkExec, "/bin/ls", "/bin/ls\n", "", "", ""},
-        {RunBookmarkExec, "-x", "./-x\n", "", "", ""},
+        {RunBookmarkExec, "/bin/ls -l;id", "/bin/ls -l;id\n", "", "", ""},
+        {RunBookmarkExec, hostile, quoted + "\n", "", "", ""},
+        {RunBookmarkExec, "a\x03", "", "", "", "Command holds control characters"},
         {RunBookmarkScript, hostile, quoted, "", "", ""},
-        {OpenBookmarkOther, hostile, "", quoted, "", ""},
+        {RunBookmarkScript, "sh ~/a; ", "sh ~/a; ", "", "", ""},
+        {RunBookmarkScript, "", "", "", "", "old"},
+        {OpenBookmarkOther, hostile + " ", "", hostile + " ", "", ""},
         {OpenBookmarkSource, hostile, "", "", hostile + "|", "old"},
         {OpenBookmarkHTML, hostile, "", "", "-new|" + hostile + "|", ""},
         {OpenBookmarkPDF, hostile, "", "", "", "Environment variable OPENPDF is not set"},
@@ -155,6 +160,10 @@ TEST_F(BookmarksTest, ADirectoryIsShownInTheListBrowser) {
     choose(browser.bookmark_menu.menu(), "sub");
     EXPECT_EQ(browser.left_footer(), "Can't set directory");
     EXPECT_EQ(browser.list.rows(), 2);
+    int count = 9;
+    EXPECT_EQ(add_filtered_to_list(browser.list, home.path(), {NameFilter::starting, "none", ""}, count),
+              SCAN_EMPTY);
+    EXPECT_EQ(std::pair(browser.list.rows(), count), std::pair(0, 0)) << "not what was listed before";
 }
 
 TEST_F(BookmarksTest, TheFileIsOpenedInTheEditor) {

@@ -134,6 +134,15 @@ TEST_F(CommandListTest, PlaceholdersAreFilledAndNamesQuoted) {
         EXPECT_EQ(main_window().command.text(), "") << row.row;
     }
     set_tree_name_source({});
+    manager().text.set_text("");
+    main_window().cwd.set_text("");
+    file_list_browser().file_name.set_text("");
+    for (const std::string mark : {"@@@", "###", "&&&", "???"}) {
+        EXPECT_EQ(manager_footer_after([&] { send("rm -r " + mark + "/*"); }), "Nothing to put for " + mark);
+        EXPECT_EQ(typed(), "");
+    }
+    send("a %%%.");
+    EXPECT_EQ(typed(), "a .\n");
 }
 
 TEST_F(CommandListTest, ASingleClickOnlyFillsTheCommandLine) {

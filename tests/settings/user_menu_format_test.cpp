@@ -2,6 +2,7 @@
 #include "settings/user_menu_format.h"
 
 #include "settings/command_list_format.h"
+#include "shell/fill_template.h"
 
 #include <gtest/gtest.h>
 
@@ -61,7 +62,7 @@ TEST(CommandListFormat, FillsTheFirstTwoOfEachPlaceholder) {
         {"none", std::nullopt},
     };
     for (const auto& [row, command] : cases) {
-        EXPECT_EQ(fill_template(row, placeholders), command) << row;
+        EXPECT_EQ(fill_template(row, placeholders, 2), command) << row;
     }
 }
 
