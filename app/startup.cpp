@@ -14,6 +14,7 @@
 #include "settings/setup_file.h"
 #include "settings/user_buttons.h"
 #include "settings/user_menu.h"
+#include "shell/files.h"
 #include "shell/messages.h"
 #include "shell/operands.h"
 #include "shell/process.h"
@@ -40,6 +41,7 @@
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
+#include <ctime>
 
 #include <unistd.h>
 
@@ -177,7 +179,8 @@ void start_up(std::vector<std::string> arguments) {
     main_window().on_close(Quit_button);
     show_title();
     set_initial_values();
-    status_display().status_file.set_text(create_status_file(home_dir));
+    begin_status_display();
+    remove_stale_temporary_files(home_dir, std::time(nullptr));
     read_resources();
     const CommandLineOptions options = read_options(arguments);
     const bool setup_loaded = load_setup_at_startup() == 1;

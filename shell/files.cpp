@@ -3,13 +3,19 @@
 
 #include "terminal/descriptor.h"
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <climits>
 #include <cstdio>
 #include <cstdlib>
+#include <memory>
 
+#include <dirent.h>
 #include <fcntl.h>
+#include <fmt/format.h>
+#include <grp.h>
+#include <pwd.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -18,6 +24,8 @@ namespace {
 constexpr std::size_t piece_size = std::size_t{64} * 1024;
 constexpr int most_links = 40;  // as many as Linux follows
 constexpr mode_t permission_bits = 0777;
+constexpr std::string_view temporary_prefix = ".orvik-saving.";  // no other file of the tool begins so
+constexpr std::string_view random_part = "XXXXXX";               // as mkostemp() wants it
 
 /// 0 for a regular file, else the errno value for what it is.
 int refusal(mode_t type) {
@@ -34,6 +42,24 @@ int path_fault(const std::string& path) {
         return ENOENT;
     }
     return path.find('\0') == std::string::npos ? 0 : EINVAL;
+}
+
+/// Whether a group is the user's own, as many systems give one to each user: nobody else is in it.
+bool is_private_group(gid_t group) {
+    const passwd* user = getpwuid(geteuid());
+    if (user == nullptr || user->pw_gid != group) {
+        return false;
+    }
+    const struct group* entry = getgrgid(group);
+    return entry != nullptr && std::string_view(entry->gr_name) == user->pw_name && *entry->gr_mem == nullptr;
+}
+
+std::string_view doubt_about(const struct stat& info) {
+    if (info.st_uid != geteuid() && info.st_uid != 0) {
+        return "belongs to another user";
+    }
+    const bool by_group = (info.st_mode & S_IWGRP) != 0 && !is_private_group(info.st_gid);
+    return by_group || (info.st_mode & S_IWOTH) != 0 ? "can be written by other users" : "";
 }
 
 /// The directory of a path with the "/" at its end; empty for a name in the current one.
@@ -157,7 +183,8 @@ mode_t without_group(mode_t mode) {
 class TemporaryFile {
   public:
     explicit TemporaryFile(const std::string& directory)
-        : name_(directory + ".orvik-XXXXXX"), file_(mkostemp(name_.data(), O_CLOEXEC)) {}
+        : name_(fmt::format("{}{}{}", directory, temporary_prefix, random_part)),
+          file_(mkostemp(name_.data(), O_CLOEXEC)) {}
     ~TemporaryFile() {
         if (file_.get() >= 0 && !name_.empty()) {
             unlink(name_.c_str());
@@ -212,6 +239,15 @@ int write_and_rename(TemporaryFile& made, const std::string& path, std::string_v
     return made.rename_to(path);
 }
 
+bool is_temporary_name(std::string_view name) {
+    const auto is_random = [](char c) {  // what mkostemp() takes in glibc, musl and the BSDs
+        return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
+    };
+    return name.starts_with(temporary_prefix) &&
+           name.size() == temporary_prefix.size() + random_part.size() &&
+           std::ranges::all_of(name.substr(temporary_prefix.size()), is_random);
+}
+
 }  // namespace
 
 FileContents read_file(const std::string& path, std::size_t limit) {
@@ -223,7 +259,7 @@ FileContents read_file(const std::string& path, std::size_t limit) {
     if (file.get() < 0 || fstat(file.get(), &info) != 0) {
         return {.error = errno};
     }
-    FileContents contents{.error = refusal(info.st_mode)};
+    FileContents contents{.error = refusal(info.st_mode), .doubt = doubt_about(info)};
     if (contents.error == 0) {
         contents.error = read_all(file.get(), limit, contents.text);
     }
@@ -249,4 +285,20 @@ int save_file(const std::string& path, std::string_view contents, const SaveOpti
         return errno;
     }
     return write_and_rename(made, place, contents, old, options);
+}
+
+void remove_stale_temporary_files(const std::string& directory, std::time_t now) {
+    constexpr std::time_t day = std::time_t{24} * 60 * 60;
+    const std::unique_ptr<DIR, int (*)(DIR*)> stream(opendir(directory.c_str()), closedir);
+    if (!stream) {
+        return;
+    }
+    while (const dirent* entry = readdir(stream.get())) {
+        struct stat info {};
+        const int at = dirfd(stream.get());
+        if (is_temporary_name(entry->d_name) && fstatat(at, entry->d_name, &info, AT_SYMLINK_NOFOLLOW) == 0 &&
+            S_ISREG(info.st_mode) && info.st_uid == geteuid() && now - info.st_mtime > day) {
+            unlinkat(at, entry->d_name, 0);
+        }
+    }
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <ctime>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -15,6 +16,9 @@
 struct FileContents {
     std::string text;
     int error = 0;
+    /// What lets somebody else write it, such as "belongs to another user"; empty for a file of the user's or
+    /// root's that nobody else may write to.
+    std::string_view doubt = {};
 };
 
 /// Reads a whole regular file, through symbolic links. Never waits: a fifo or a device gives EINVAL, a
@@ -52,3 +56,7 @@ struct SaveOptions {
 /// Links::replace puts the file in the place of a link at `path` itself.
 [[nodiscard]] int save_file(const std::string& path, std::string_view contents,
                             const SaveOptions& options = {});
+
+/// Removes what `save_file` has left in a directory where the program was killed: its temporary files that
+/// are the user's and older than a day.
+void remove_stale_temporary_files(const std::string& directory, std::time_t now);

@@ -15,6 +15,11 @@
 #include "ui/process_information.h"
 #include "ui/status_display.h"
 
+#include <cerrno>
+#include <cstring>
+#include <optional>
+
+#include <fmt/format.h>
 #include <unistd.h>
 
 namespace {
@@ -24,7 +29,21 @@ constexpr int display_on = 0;
 /// The refresh: its interval stays zero, so that it fires once.
 itimerval wtimer{};
 
+/// This copy's status file, held for as long as it runs.
+std::optional<StatusFile> own_file;
+
 }  // namespace
+
+void begin_status_display() {
+    own_file.emplace(create_status_file(home_dir));
+    status_display().status_file.set_text(own_file->path);
+    if (own_file->error == EEXIST) {
+        report("No status display: all status files are in use\n");
+    } else if (own_file->error != 0) {
+        report(fmt::format("No status display: no file can be made in {}: {}\n", home_dir,
+                           std::strerror(own_file->error)));
+    }
+}
 
 void SetupTimer(int milliseconds) {
     if (status_display().display.value() != display_on) {

@@ -8,6 +8,9 @@
 inline constexpr int refresh_after_command = 500;  ///< milliseconds
 inline constexpr int refresh_after_login = 999;
 
+/// Makes the status file and names it in "Status File:"; where there can be none, the Message Board says why.
+void begin_status_display();
+
 /// Arms the one-shot refresh of the status display, in milliseconds (at most 999); a pending one is replaced.
 /// Does nothing while "Display" of "Status Display" is Off.
 void SetupTimer(int milliseconds);

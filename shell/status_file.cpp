@@ -4,7 +4,6 @@
 #include "shell/files.h"
 #include "shell/lines.h"
 #include "shell/text.h"
-#include "terminal/descriptor.h"
 
 #include <algorithm>
 #include <array>
@@ -13,6 +12,9 @@
 
 #include <fcntl.h>
 #include <fmt/printf.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace {
 
@@ -51,6 +53,35 @@ void read_line(std::string_view line, ShellStatus& status) {
     }
 }
 
+/// Whether the file could be locked; not where a running copy of the tool holds it.
+bool lock(const terminal::Descriptor& file) { return flock(file.get(), LOCK_EX | LOCK_NB) == 0; }
+
+/// Makes a status file; -1, and errno says why, when it cannot be made.
+terminal::Descriptor make_own(const std::string& path) {
+    terminal::Descriptor made(
+        open(path.c_str(), O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, S_IRUSR | S_IWUSR));
+    if (made.get() >= 0 && !lock(made) && errno == EWOULDBLOCK) {  // another copy was quicker: it is theirs
+        errno = EEXIST;
+        return terminal::Descriptor(-1);
+    }
+    return made;
+}
+
+/// Takes over a status file that has been left; -1 when it is in use or no status file of the user's.
+terminal::Descriptor take_over(const std::string& path) {
+    terminal::Descriptor left(open(path.c_str(), O_RDWR | O_NONBLOCK | O_NOFOLLOW | O_NOCTTY | O_CLOEXEC));
+    struct stat locked {};
+    struct stat named {};
+    // Between the opening and the locking its owner may have removed it, and another copy have made a new
+    // one.
+    const bool taken = left.get() >= 0 && lock(left) && fstat(left.get(), &locked) == 0 &&
+                       lstat(path.c_str(), &named) == 0 && locked.st_ino == named.st_ino &&
+                       locked.st_dev == named.st_dev && S_ISREG(locked.st_mode) && locked.st_nlink == 1 &&
+                       locked.st_uid == geteuid() && fchmod(left.get(), S_IRUSR | S_IWUSR) == 0 &&
+                       ftruncate(left.get(), 0) == 0;
+    return taken ? std::move(left) : terminal::Descriptor(-1);
+}
+
 }  // namespace
 
 ShellStatus parse_status(std::string_view contents) {
@@ -69,19 +100,20 @@ std::optional<std::string> read_status_file(const std::string& path) {
     return std::move(file.text);
 }
 
-std::string create_status_file(const std::string& home) {
-    for (int number = 0; number < status_files; ++number) {
-        std::string path = fmt::sprintf("%s/.orvik-status%d", home, number);
-        const terminal::Descriptor made(
-            open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600));
-        if (made.get() >= 0) {
-            return path;
-        }
-        if (errno != EEXIST) {
-            return {};
+StatusFile create_status_file(const std::string& home) {
+    for (const auto take : {make_own, take_over}) {
+        for (int number = 0; number < status_files; ++number) {
+            std::string path = fmt::sprintf("%s/.orvik-status%d", home, number);
+            terminal::Descriptor made = take(path);
+            if (made.get() >= 0) {
+                return {.path = std::move(path), .lock = std::move(made)};
+            }
+            if (take == make_own && errno != EEXIST) {
+                return {.error = errno};
+            }
         }
     }
-    return {};
+    return {.error = EEXIST};
 }
 
 std::string status_line(const ShellStatus& status, unsigned enabled, int process_id) {

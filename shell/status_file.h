@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "terminal/descriptor.h"
+
 #include <optional>
 #include <string>
 #include <string_view>
@@ -24,10 +26,17 @@ ShellStatus parse_status(std::string_view contents);
 /// read.
 std::optional<std::string> read_status_file(const std::string& path);
 
+/// A status file of this copy of the tool, which locks it for as long as this object lives.
+struct StatusFile {
+    std::string path;  ///< empty when there is none
+    int error = 0;     ///< why (errno); EEXIST when all are held by running copies
+    terminal::Descriptor lock{-1};
+};
+
 /// Creates the status file with the smallest free number, 0 to 199, in the home directory: empty, mode 0600,
-/// never through a link or over an existing file. Returns its path; empty when all numbers are taken or it
-/// cannot be made.
-std::string create_status_file(const std::string& home);
+/// never through a link or over an existing file. Where all exist, the first is emptied and taken over that
+/// is the user's own and that no running copy holds: one that was killed has left it.
+StatusFile create_status_file(const std::string& home);
 
 /// The items of the status line, as bits of a mask.
 enum StatusItem : unsigned { status_view = 1, status_host = 2, status_pid = 4, status_user = 8 };

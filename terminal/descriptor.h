@@ -16,6 +16,7 @@ class Descriptor {
             close(number_);
         }
     }
+    Descriptor(Descriptor&& other) noexcept : number_(other.release()) {}
     Descriptor(const Descriptor&) = delete;
     Descriptor& operator=(const Descriptor&) = delete;
     [[nodiscard]] int get() const { return number_; }

@@ -4,7 +4,9 @@
 #include "tests/support/scratch_directory.h"
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
+#include <csignal>
 #include <fstream>
 #include <functional>
 #include <tuple>
@@ -13,6 +15,7 @@
 #include <gtest/gtest.h>
 #include <sched.h>
 #include <sys/mount.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -84,6 +87,79 @@ TEST(ReadFile, RefusesWhatIsNoRegularFileWithoutWaiting) {
     EXPECT_EQ(read_file(home / "missing", 9).error, ENOENT);
     EXPECT_EQ(read_file((home / "file").string() + "\0.old"s, 9).error, EINVAL);
     EXPECT_EQ(read_file(home / "file", 0).error, 0);
+}
+
+TEST(ReadFile, TellsWhoElseMayHaveWrittenIt) {
+    if (geteuid() != 0) {
+        GTEST_SKIP() << "only root can make a file of somebody else's";
+    }
+    const ScratchDirectory home;
+    ASSERT_EQ(chmod(home.path().c_str(), 0755), 0);
+    const std::string file = home.write("file", "");
+    fs::create_symlink("file", home / "link");
+    ASSERT_EQ(lchown((home / "link").c_str(), nobody - 1, nobody - 1), 0);
+    const std::string written = "can be written by other users";
+    const std::tuple<uid_t, gid_t, mode_t, std::string> cases[] = {
+        {nobody, nobody, 0644, ""}, {0, 0, 0644, ""},
+        {nobody, 0, 0664, written}, {nobody, nobody, 0646, written},
+        {0, 0, 0664, written},      {nobody - 1, nobody, 0600 | 0044, "belongs to another user"},
+    };
+    for (const auto& [owner, group, mode, doubt] : cases) {
+        ASSERT_EQ(chown(file.c_str(), owner, group), 0);
+        ASSERT_EQ(chmod(file.c_str(), mode), 0);
+        EXPECT_EQ(in_child([&] {
+                      EXPECT_TRUE(become_ordinary());
+                      EXPECT_EQ(read_file(home / "link", 9).doubt, doubt)
+                          << owner << ' ' << group << ' ' << mode;
+                      return 0;
+                  }),
+                  0);
+    }
+    // A group of the user's own, as root has: only its user is in it.
+    ASSERT_EQ(chown(file.c_str(), 0, 0), 0);
+    ASSERT_EQ(chmod(file.c_str(), 0664), 0);
+    EXPECT_EQ(read_file(file, 9).doubt, "");
+}
+
+TEST(RemoveStaleTemporaryFiles, LeavesWhatIsNewOrNoneOfThem) {
+    const ScratchDirectory home;
+    const std::time_t now = std::time(nullptr);
+    const auto write_old = [&](std::string_view name, std::time_t age) {
+        const std::string path = home.write(name, "");
+        const std::array<timespec, 2> times{timespec{now - age, 0}, timespec{now - age, 0}};
+        ASSERT_EQ(utimensat(AT_FDCWD, path.c_str(), times.data(), 0), 0);
+    };
+    constexpr std::time_t day = 86'400;
+    for (const char* name :
+         {".orvik-saving.aZ09xy", ".orvik-saving.short", ".orvik-saving.toolong", ".orvik-saving.a-b_cd",
+          ".orvik-script", ".orvik-status0", "x.orvik-saving.abcdef"}) {
+        write_old(name, 2 * day);
+    }
+    write_old(".orvik-saving.abcdef", day - 60);
+    fs::create_symlink("nowhere", home / ".orvik-saving.alinkk");
+    fs::create_directory(home / ".orvik-saving.folder");
+    remove_stale_temporary_files(home.path(), now + 60);
+    EXPECT_EQ(listing(home.path()),
+              (Names{".orvik-saving.a-b_cd", ".orvik-saving.abcdef", ".orvik-saving.alinkk -> nowhere",
+                     ".orvik-saving.folder", ".orvik-saving.short", ".orvik-saving.toolong", ".orvik-script",
+                     ".orvik-status0", "x.orvik-saving.abcdef"}));
+    remove_stale_temporary_files(home.path(), now + 3 * day);
+    EXPECT_FALSE(fs::exists(home / ".orvik-saving.abcdef"));
+    EXPECT_TRUE(fs::is_symlink(home / ".orvik-saving.alinkk") && fs::exists(home / ".orvik-saving.folder"));
+}
+
+TEST(SaveFile, LeavesNoTemporaryFileThatWouldNotBeFoundLater) {
+    const ScratchDirectory home;
+    EXPECT_EQ(in_child([&] {
+                  EXPECT_EQ(signal(SIGXFSZ, SIG_DFL), SIG_DFL);
+                  const rlimit limit{100, 100};
+                  EXPECT_EQ(setrlimit(RLIMIT_FSIZE, &limit), 0);
+                  return save_file(home / "file", std::string(1000, 'x'));  // killed by a signal in the write
+              }),
+              -1);
+    EXPECT_EQ(listing(home.path()).size(), 1U);
+    remove_stale_temporary_files(home.path(), std::time(nullptr) + 100'000);
+    EXPECT_EQ(listing(home.path()), Names{});
 }
 
 TEST(SaveFile, KeepsTheModeOrTakesTheOneAskedFor) {

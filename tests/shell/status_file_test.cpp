@@ -3,7 +3,9 @@
 
 #include "tests/support/scratch_directory.h"
 
+#include <cerrno>
 #include <filesystem>
+#include <list>
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
@@ -52,7 +54,8 @@ TEST(StatusFileCreation, TakesTheSmallestFreeNumberForItsOwnerOnlyAndFollowsNoLi
     home.write(".orvik-status0", "of another");
     fs::create_symlink(home / "target", home / ".orvik-status1");
     home.write(".orvik-status3", "");
-    const std::string path = create_status_file(home.path());
+    const StatusFile made = create_status_file(home.path());
+    const std::string& path = made.path;
     EXPECT_EQ(path, home / ".orvik-status2");
     EXPECT_EQ(fs::status(path).permissions(), fs::perms{0600});
     EXPECT_EQ(fs::file_size(path), 0U);
@@ -60,14 +63,29 @@ TEST(StatusFileCreation, TakesTheSmallestFreeNumberForItsOwnerOnlyAndFollowsNoLi
     EXPECT_FALSE(fs::exists(home / "target"));
 }
 
-TEST(StatusFileCreation, GivesUpWhenAllNumbersAreTaken) {
+TEST(StatusFileCreation, TakesOverWhatNoRunningCopyHoldsWhenAllNumbersAreTaken) {
     const ScratchDirectory home;
-    for (int number = 0; number < 199; ++number) {
-        home.write(".orvik-status" + std::to_string(number), "");
+    const auto name = [](int number) { return ".orvik-status" + std::to_string(number); };
+    fs::create_directory(home / name(0));
+    fs::create_symlink(home.write("target", "kept"), home / name(1));
+    fs::create_hard_link(home / "target", home / name(2));
+    ASSERT_EQ(mkfifo((home / name(3)).c_str(), 0600), 0);
+    std::list<StatusFile> held;
+    for (int number = 4; number <= 198; ++number) {
+        held.push_back(create_status_file(home.path()));
     }
-    EXPECT_EQ(create_status_file(home.path()), home / ".orvik-status199");
-    EXPECT_EQ(create_status_file(home.path()), "");
-    EXPECT_EQ(create_status_file(home / "missing"), "");
+    fs::permissions(home.write(name(100), "C:/left by a killed copy\n"), fs::perms{0644});
+    held.erase(std::next(held.begin(), 100 - 4));
+    held.push_back(create_status_file(home.path()));
+    EXPECT_EQ(held.back().path, home / name(199)) << "a free number comes first";
+    held.push_back(create_status_file(home.path()));
+    EXPECT_EQ(held.back().path, home / name(100));
+    EXPECT_EQ(read_file(home / name(100)), "");
+    EXPECT_EQ(fs::status(home / name(100)).permissions(), fs::perms{0600});
+    const StatusFile none = create_status_file(home.path());
+    EXPECT_EQ(std::pair(none.path, none.error), std::pair(std::string(), EEXIST));
+    EXPECT_EQ(read_file(home / "target"), "kept");
+    EXPECT_EQ(create_status_file(home / "missing").error, ENOENT);
 }
 
 TEST(StatusFileReading, TakesRegularFilesOnly) {
