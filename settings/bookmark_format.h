@@ -63,8 +63,10 @@ inline constexpr std::size_t most_bookmarks = 10'000;
 [[nodiscard]] std::string_view bookmark_refusal(const Bookmark& bookmark);
 
 struct BookmarkAddition {
-    /// 1 added; -1 no bookmarks file; 2 too many lines; 3 the name exists in that category.
+    /// 1 added; 0 the file cannot be read or replaced; -1 no bookmarks file; 2 too many lines; 3 the name
+    /// exists in that category.
     int result = 1;
+    int error = 0;         ///< why it cannot be (errno)
     std::string contents;  ///< of the file with the bookmark, when it was added
 };
 

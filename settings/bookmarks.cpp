@@ -3,6 +3,7 @@
 
 #include "browsers/notify.h"
 #include "settings/bookmark_format.h"
+#include "settings/load_file.h"
 #include "settings/notify.h"
 #include "shell/editor.h"
 #include "shell/files.h"
@@ -16,6 +17,7 @@
 
 #include <array>
 #include <cerrno>
+#include <cstring>
 #include <filesystem>
 #include <utility>
 
@@ -24,7 +26,7 @@
 namespace {
 
 /// More is not read of a file: a thousand lines are the most there may be.
-constexpr std::size_t most_bytes = std::size_t{16} * 1024 * 1024;
+constexpr std::size_t most_bytes = std::size_t{8} * 1024 * 1024;
 
 /// A submenu of "Bookmarks", in the order of the categories.
 struct Submenu {
@@ -50,12 +52,6 @@ Menu menu_of(std::string_view title, const Entries& entries, MenuNotify chosen) 
     return menu;
 }
 
-/// The whole of a file that is not there to be too long; nothing when it cannot be read.
-std::optional<std::string> contents_of(const std::string& path) {
-    FileContents contents = read_file(path, most_bytes);
-    return contents.error == 0 ? std::optional(std::move(contents.text)) : std::nullopt;
-}
-
 std::string bookmark_path() { return path_meant(bookmarks().bookmark_file.text()); }
 
 /// Makes the file when it is missing or empty; whether there is one then.
@@ -67,35 +63,25 @@ bool has_bookmark_file(const std::string& path) {
     return !empty || GenerateNewBookmarkFile(path) == 1;
 }
 
-/// What is wrong with the file, by the result of `SetupBookmarksMenu`; empty for nothing.
-std::string_view fault_of(int result) {
-    switch (result) {
-        case -1:
-            return "Not a valid bookmarks file";
+/// Why "Bookmark Definition" could not add the bookmark to a file; empty when it did.
+std::string addition_fault(const std::string& path, const BookmarkAddition& addition) {
+    switch (addition.result) {
         case 0:
-            return "Bookmark file not found";
-        case 2:
-            return "Illegal file format";
-        default:
-            return "";
-    }
-}
-
-/// The same by the result of `AddNewBookmark`.
-std::string_view addition_fault(int result) {
-    switch (result) {
+            return addition.error == ENOENT
+                       ? std::string(bookmarks_load.unreadable)
+                       : fmt::format("Could not save {}: {}", path, std::strerror(addition.error));
         case 2:
             return "Can't store more bookmarks";
         case 3:
             return "Bookmark already exists";
         default:
-            return fault_of(result);
+            return std::string(load_message(bookmarks_load, addition.result));
     }
 }
 
 /// Makes the menus anew; the frame's left footer tells that it is done, or why not.
 void rebuild_menus(Frame& frame, const std::string& path, std::string_view done) {
-    const std::string_view fault = fault_of(SetupBookmarksMenu(path));
+    const std::string_view fault = load_message(bookmarks_load, SetupBookmarksMenu(path));
     frame.set_left_footer(fault.empty() ? done : fault);
 }
 
@@ -120,15 +106,15 @@ int GenerateNewBookmarkFile(const std::string& path) {
 }
 
 int SetupBookmarksMenu(const std::string& path) {
-    const std::optional<std::string> contents = contents_of(path);
-    if (!contents) {
+    const LoadedFile file = load_file(path, most_bytes);
+    if (!file.text) {
         return 0;
     }
-    const std::optional<std::vector<Bookmark>> read = parse_bookmarks(*contents);
+    const std::optional<std::vector<Bookmark>> read = parse_bookmarks(*file.text);
     if (!read) {
         return -1;
     }
-    if (read->size() > most_bookmarks) {
+    if (file.error != 0 || read->size() > most_bookmarks) {
         return 2;
     }
     std::array<Entries, submenus.size()> entries;
@@ -146,16 +132,17 @@ int SetupBookmarksMenu(const std::string& path) {
     return 1;
 }
 
-int AddNewBookmark(const std::string& path, const Bookmark& bookmark) {
-    const std::optional<std::string> contents = contents_of(path);
-    if (!contents) {
-        return 0;
+BookmarkAddition AddNewBookmark(const std::string& path, const Bookmark& bookmark) {
+    const FileContents file = read_file(path, most_bytes);
+    if (file.error != 0) {
+        return {.result = 0, .error = file.error};
     }
-    const BookmarkAddition addition = add_bookmark(*contents, bookmark);
-    if (addition.result != 1) {
-        return addition.result;
+    BookmarkAddition addition = add_bookmark(file.text, bookmark);
+    if (addition.result == 1) {
+        addition.error = save_file(path, addition.contents);
+        addition.result = addition.error == 0 ? 1 : 0;
     }
-    return save_file(path, addition.contents) == 0 ? 1 : 0;
+    return addition;
 }
 
 void load_bookmarks_at_startup() {
@@ -163,13 +150,7 @@ void load_bookmarks_at_startup() {
         report("Bookmarks file not specified\n");
         return;
     }
-    const int result = SetupBookmarksMenu(bookmark_path());
-    if (result != 1) {
-        report(fmt::format("{}\n", fault_of(result)));
-    }
-    if (result == -1) {
-        report("First line of text must be _BOOKMARK\n");
-    }
+    report_load(bookmarks_load, SetupBookmarksMenu(bookmark_path()));
 }
 
 void BookmarksUpdate() {
@@ -211,7 +192,7 @@ void BookmarkDefinitionAddBookmark() {
         window.set_left_footer("Couldn't open bookmarks file");
         return;
     }
-    const std::string_view fault = addition_fault(AddNewBookmark(path, bookmark));
+    const std::string fault = addition_fault(path, AddNewBookmark(path, bookmark));
     if (fault.empty()) {
         rebuild_menus(window, path, "Bookmark added to bookmark menu");
     } else {

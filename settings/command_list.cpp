@@ -5,10 +5,10 @@
 #include "settings/command_list_format.h"
 #include "settings/directory_menu.h"
 #include "settings/directory_menus.h"
+#include "settings/load_file.h"
 #include "settings/notify.h"
 #include "shell/doubleclick.h"
 #include "shell/editor.h"
-#include "shell/files.h"
 #include "shell/fill_template.h"
 #include "shell/messages.h"
 #include "shell/operands.h"
@@ -21,7 +21,6 @@
 #include "ui/main_window.h"
 
 #include <array>
-#include <cerrno>
 #include <filesystem>
 #include <utility>
 
@@ -30,7 +29,7 @@
 namespace {
 
 /// More is not read of a file: no list of commands grows so large.
-constexpr std::size_t most_bytes = std::size_t{64} * 1024 * 1024;
+constexpr std::size_t most_bytes = std::size_t{8} * 1024 * 1024;
 constexpr int list_margin = 40;  ///< pixels, of a list that does not follow its window's size
 
 CommandListManager& cleared_manager() {
@@ -116,11 +115,11 @@ bool make_command_menu() {
 }  // namespace
 
 int load_list(ScrollingList& list, const std::string& path) {
-    const FileContents contents = read_file(path, most_bytes);
-    if (contents.error != 0 && contents.error != EFBIG) {
+    const LoadedFile file = load_file(path, most_bytes);
+    if (!file.text) {
         return 0;
     }
-    std::optional<std::vector<std::string>> rows = parse_commands(contents.text);
+    std::optional<std::vector<std::string>> rows = parse_commands(*file.text);
     if (!rows) {
         return -1;
     }
@@ -148,12 +147,7 @@ void my_action_proc2(const std::string& path) {
     if (path.empty() || std::filesystem::is_directory(path, unknown)) {
         return;
     }
-    main_window().set_left_footer("");
-    const int result = load_command_list(path);
-    if (result != 1) {
-        main_window().set_left_footer(result == 0 ? "Couldn't open commands file for reading"
-                                                  : "Illegal format of commands file");
-    }
+    main_window().set_left_footer(load_message(commands_menu_load, load_command_list(path)));
 }
 
 void BaseWindowCommandList() { command_list_manager().open(); }
@@ -171,10 +165,7 @@ void Update_commands_list() {
     if (!path) {
         return;
     }
-    const int result = load_list(manager.list, *path);
-    if (result != 1) {
-        manager.set_left_footer(result == 0 ? "File not found" : "Not a valid file");
-    }
+    manager.set_left_footer(load_message(commands_load, load_list(manager.list, *path)));
 }
 
 void Command_scrolling_list(const ListEvent& event) {
@@ -202,9 +193,8 @@ void FileListLoadCommand() {
         return;
     }
     const int result = load_command_list(*path);
-    file_list_browser().set_left_footer(result == 1   ? fmt::format("Commands loaded from {}", *path)
-                                        : result == 0 ? "File not found"
-                                                      : "Not a valid file");
+    file_list_browser().set_left_footer(result == 1 ? fmt::format("Commands loaded from {}", *path)
+                                                    : std::string(load_message(commands_load, result)));
 }
 
 void CommandListFollowWindow() {

@@ -2,6 +2,7 @@
 #include "settings/history.h"
 
 #include "settings/history_format.h"
+#include "settings/load_file.h"
 #include "settings/notify.h"
 #include "shell/files.h"
 #include "shell/messages.h"
@@ -15,14 +16,16 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
+#include <set>
 
 #include <fmt/format.h>
 #include <fmt/printf.h>
+#include <unistd.h>
 
 namespace {
 
 /// More is not read of a file: no history grows so large.
-constexpr std::size_t most_bytes = std::size_t{64} * 1024 * 1024;
+constexpr std::size_t most_bytes = std::size_t{8} * 1024 * 1024;
 
 /// The items of "Save To History File" and "Menu Action".
 enum SaveToFile { after_every_command, when_quitting };
@@ -30,11 +33,43 @@ enum MenuAction { execute, move_to_command_line, both };
 
 ScrollingList& history() { return command_history_manager().list; }
 
+/// The files that may be replaced by the list without a loss: their commands are in it, or there were none.
+std::set<std::string>& replaceable_files() {
+    static std::set<std::string> paths;
+    return paths;
+}
+
+/// Whether a history file may be replaced without its user's order.
+bool is_replaceable(const std::string& path) {
+    return replaceable_files().contains(path) || (access(path.c_str(), F_OK) != 0 && errno == ENOENT);
+}
+
 /// Nobody but its owner may read what somebody has typed.
 int write_history(const ScrollingList& list, const std::string& path, Durability durability) {
     constexpr mode_t owner_only = 0600;
-    return save_file(path, format_history(list.all_rows()),
-                     {.exact_mode = owner_only, .durability = durability});
+    const int error = save_file(path, format_history(list.all_rows()),
+                                {.exact_mode = owner_only, .durability = durability});
+    if (error == 0) {
+        replaceable_files().insert(path);
+    }
+    return error;
+}
+
+std::string not_replaced(const std::string& path) {
+    return fmt::format("{} not written: not all of it was loaded before", path);
+}
+
+/// Saves after a command. A failure is not reported; that the file is left alone is, once.
+void save_automatically(const std::string& path) {
+    static std::string reported;
+    if (is_replaceable(path)) {
+        // A disk may take a second to sync. The rename alone keeps the file whole however this program ends;
+        // if the system crashes, the last commands may be missing.
+        (void)write_history(history(), path, Durability::renamed);
+    } else if (reported != path) {
+        reported = path;
+        report(not_replaced(path) + "\n");
+    }
 }
 
 /// Saves all rows; why that failed, or an empty text.
@@ -85,16 +120,22 @@ bool make_history_menu(int entries) {
 }  // namespace
 
 int load_history(ScrollingList& list, const std::string& path) {
-    const FileContents contents = read_file(path, most_bytes);
-    if (contents.error != 0 && contents.error != EFBIG) {
+    const LoadedFile file = load_file(path, most_bytes);
+    if (file.error == ENOENT) {
+        replaceable_files().insert(path);
+    }
+    if (!file.text) {
         return 0;
     }
-    std::optional<std::vector<std::string>> commands = parse_history(contents.text);
+    std::optional<std::vector<std::string>> commands = parse_history(*file.text);
     if (!commands) {
         return -1;
     }
     list.append(std::move(*commands));
     command_history_manager().position.set_value(list.rows());
+    if (file.error == 0) {
+        replaceable_files().insert(path);
+    }
     return 1;
 }
 
@@ -106,7 +147,10 @@ int save_history(const ScrollingList& list, const std::string& path) {
     return failure.empty() ? 1 : 0;
 }
 
-void clear_history(ScrollingList& list) { list.delete_rows(); }
+void clear_history(ScrollingList& list) {
+    list.delete_rows();
+    replaceable_files().clear();
+}
 
 std::optional<std::vector<std::string>> add_history_to_menu(const ScrollingList& list, int count) {
     const std::vector<std::string>& rows = list.all_rows();
@@ -135,9 +179,7 @@ void record_command(const std::string& command) {
     history().append(remove_nl(command));
     command_history_manager().position.set_value(history().rows());
     if (setup.save_to_history_file.value() == after_every_command) {
-        // A disk may take a second to sync. The rename alone keeps the file whole however this program ends;
-        // if the system crashes, the last commands may be missing.
-        (void)write_history(history(), history_path(), Durability::renamed);
+        save_automatically(history_path());
     }
 }
 
@@ -147,9 +189,8 @@ void load_history_at_startup() {
     const int result = load_history(history(), path);
     if (result == 1) {
         command_history_setup().history_file_loaded.set_text(path);
-    } else {
-        report(result == 0 ? "History file not found\n" : "Not a valid history file\n");
     }
+    report_load(history_load, result);
 }
 
 void make_history_menu_at_startup() {
@@ -160,8 +201,11 @@ void make_history_menu_at_startup() {
 }
 
 std::string save_history_at_quit() {
-    const bool wanted = command_history_setup().save_to_history_file.value() == when_quitting;
-    return wanted ? save_failure(history(), history_path()) : std::string();
+    if (command_history_setup().save_to_history_file.value() != when_quitting) {
+        return {};
+    }
+    const std::string path = history_path();
+    return is_replaceable(path) ? save_failure(history(), path) : not_replaced(path);
 }
 
 void history_previous(HistoryWalker walker) {

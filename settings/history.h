@@ -17,7 +17,7 @@ int load_history(ScrollingList& list, const std::string& path);
 /// Writes all rows to a file that only its owner may read: 1 when the file has been replaced, 0 when it has
 /// not (the old one is whole then, and the Message Board has the reason).
 int save_history(const ScrollingList& list, const std::string& path);
-/// Deletes every row.
+/// Deletes every row. The history file is then not saved automatically before it has been loaded or saved.
 void clear_history(ScrollingList& list);
 
 /// The items of the history menu: an empty one, then at most `count` commands, newest first. Nothing when the
@@ -28,7 +28,8 @@ std::optional<std::vector<std::string>> add_history_to_menu(const ScrollingList&
 std::string history_path();
 
 /// Files a command that has been sent to the shell, as "Command History Setup" says. To be called without the
-/// command's line feed. A file that cannot be saved is not reported here.
+/// command's line feed. A file that cannot be saved is not reported here; one that must not be replaced is
+/// left alone.
 void record_command(const std::string& command);
 
 /// Takes over "Insert Duplicates", and loads the history file. What is wrong with the file goes to the
@@ -36,8 +37,8 @@ void record_command(const std::string& command);
 void load_history_at_startup();
 /// Makes the menu of the main window's history button, unless "Number of entries" is below 1.
 void make_history_menu_at_startup();
-/// Saves the history when "Save To History File" says so. To be called when the tool ends. Returns why it
-/// could not be saved, or an empty text.
+/// Saves the history when "Save To History File" says so. Returns why it could not be saved; empty when it
+/// was, or is not to be. A file that could not be loaded, or not all of it, is not replaced.
 [[nodiscard]] std::string save_history_at_quit();
 
 /// Who walks the history: a key of the terminal pane or a button of the main window.

@@ -2,6 +2,7 @@
 // The controls of "Command History Manager".
 #include "settings/history.h"
 #include "settings/history_format.h"
+#include "settings/load_file.h"
 #include "settings/notify.h"
 #include "shell/background.h"
 #include "shell/doubleclick.h"
@@ -122,10 +123,7 @@ void EditCommandHistory() {
 void UpdateCommandHistory() {
     CommandHistoryManager& manager = cleared_manager();
     clear_history(manager.list);
-    const int result = load_history(manager.list, history_path());
-    if (result != 1) {
-        manager.set_left_footer(result == 0 ? "History file not found" : "Not a valid history file");
-    }
+    manager.set_left_footer(load_message(history_load, load_history(manager.list, history_path())));
 }
 
 void CommandHistorySort() {

@@ -12,6 +12,7 @@
 #include "ui/main_window.h"
 
 #include <cstring>
+#include <filesystem>
 
 #include <fmt/format.h>
 #include <fmt/printf.h>
@@ -40,12 +41,12 @@ int save_setup(const std::string& path) {
     return 1;
 }
 
-int load_setup(const std::string& path) {
-    const FileContents contents = read_file(path, most_bytes);
-    if (contents.error != 0 && contents.error != EFBIG) {
+int load_setup(const std::string& path, WhenDoubtful when_doubtful) {
+    const LoadedFile file = load_file(path, most_bytes, when_doubtful);
+    if (!file.text) {
         return 0;
     }
-    const std::optional<SetupLines> lines = parse_setup(contents.text);
+    const std::optional<SetupLines> lines = parse_setup(*file.text);
     if (!lines) {
         return -1;
     }
@@ -55,15 +56,15 @@ int load_setup(const std::string& path) {
 }
 
 int load_setup_at_startup() {
-    int result = load_setup(startup_setup_file());
+    // The setup names a file that the shell is told to source: of a directory that others can write to, as
+    // /tmp, it must be the user's own.
+    std::error_code unknown;
+    const bool at_home = std::filesystem::equivalent(startup_dir, home_dir, unknown);
+    int result = at_home ? 0 : load_setup(startup_setup_file(), WhenDoubtful::refuse);
     if (result != 1) {
         result = load_setup(fmt::sprintf("%s/Orvik.setup", home_dir));
     }
-    if (result == 0) {
-        report("Setup file not found\n");
-    } else if (result == -1) {
-        report("Not a valid setup file\n");
-    }
+    report_load(setup_load, result);
     return result;
 }
 
@@ -82,7 +83,6 @@ void FileListLoadSetup() {
         return;
     }
     const int result = load_setup(*path);
-    file_list_browser().set_left_footer(result == 1   ? fmt::format("Setup loaded from {}", *path)
-                                        : result == 0 ? "Setup file not found"
-                                                      : "Not a valid setup file");
+    file_list_browser().set_left_footer(result == 1 ? fmt::format("Setup loaded from {}", *path)
+                                                    : std::string(load_message(setup_load, result)));
 }

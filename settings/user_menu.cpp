@@ -1,19 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "settings/user_menu.h"
 
+#include "settings/load_file.h"
 #include "settings/notify.h"
 #include "settings/user_menu_format.h"
 #include "shell/editor.h"
-#include "shell/files.h"
-#include "shell/messages.h"
 #include "shell/process.h"
 #include "shell/send_line.h"
 #include "ui/main_window.h"
 
-#include <cerrno>
 #include <utility>
 
-#include <fmt/format.h>
 #include <fmt/printf.h>
 
 namespace {
@@ -23,29 +20,15 @@ constexpr std::size_t most_bytes = std::size_t{4} * 1024 * 1024;
 
 std::string menu_path() { return fmt::sprintf("%s/.orvik-menu", home_dir); }
 
-/// What is wrong with the file, by the result of `menu_setup`; empty for nothing.
-std::string_view fault_of(int result) {
-    switch (result) {
-        case -1:
-            return "Not a valid menu definition file";
-        case 0:
-            return ".orvik-menu not found";
-        case 2:
-            return "Illegal file format";
-        default:
-            return "";
-    }
-}
-
 }  // namespace
 
 int menu_setup(MenuButton& button, const std::string& path) {
     button.menu().set_entries({}, notify_user_defined);
-    const FileContents contents = read_file(path, most_bytes);
-    if (contents.error != 0 && contents.error != EFBIG) {
+    const LoadedFile file = load_file(path, most_bytes);
+    if (!file.text) {
         return 0;
     }
-    UserMenu read = parse_user_menu(contents.text);
+    UserMenu read = parse_user_menu(*file.text);
     std::vector<MenuEntry> entries;
     for (UserMenuItem& item : read.items) {
         entries.push_back({std::move(item.label), std::move(item.command), item.is_title});
@@ -57,18 +40,10 @@ int menu_setup(MenuButton& button, const std::string& path) {
     return read.result;
 }
 
-void load_user_menu_at_startup() {
-    const int result = menu_setup(main_window().user_menu, menu_path());
-    if (result != 1) {
-        report(fmt::format("{}\n", fault_of(result)));
-    }
-    if (result == -1) {
-        report("First line of text must be _MENU\n");
-    }
-}
+void load_user_menu_at_startup() { report_load(menu_load, menu_setup(main_window().user_menu, menu_path())); }
 
 void Generate_new_menu() {
-    main_window().set_left_footer(fault_of(menu_setup(main_window().user_menu, menu_path())));
+    main_window().set_left_footer(load_message(menu_load, menu_setup(main_window().user_menu, menu_path())));
 }
 
 void Edit_user_menu() {

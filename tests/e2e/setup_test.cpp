@@ -47,15 +47,17 @@ constexpr std::size_t megabyte = std::size_t{1} << 20U;
 struct HostileCase {
     const char* name;
     std::string contents;  ///< empty: the file is a directory
-    std::string message;   ///< at the beginning of the Message Board
+    std::string message;   ///< at the beginning of the Message Board, behind the file's path
 };
 
 std::ostream& operator<<(std::ostream& out, const HostileCase& row) { return out << row.name; }
 
 const std::vector<HostileCase> hostile_cases{
-    {"NoLineFeed", std::string(megabyte, 'x'), "Not a valid setup file\n"},
-    {"RandomBytesAfterTheHeader", "$ORVIK_SETUP\n" + random_bytes(megabyte), ""},
-    {"Directory", "", "Setup file not found\n"},
+    {"NoLineFeed", std::string(megabyte, 'x'),
+     " is too large: only its beginning is loaded\nNot a valid setup file\n"},
+    {"RandomBytesAfterTheHeader", "$ORVIK_SETUP\n" + random_bytes(megabyte),
+     " is too large: only its beginning is loaded\n"},
+    {"Directory", "", " not read: Is a directory\nSetup file not found\n"},
 };
 
 class HostileSetup : public OrvikTest, public testing::WithParamInterface<HostileCase> {};
@@ -71,7 +73,7 @@ TEST_P(HostileSetup, DoesNoHarm) {
     expect_in_terminal("42-works");
     const std::string messages = field(open_window("Message Board"), "Message Board text");
     const std::size_t setup_messages = messages.find("History file not found\n");
-    EXPECT_EQ(messages.substr(0, setup_messages), GetParam().message);
+    EXPECT_EQ(messages.substr(0, setup_messages), (home_ / "Orvik.setup").string() + GetParam().message);
     EXPECT_TRUE(messages.ends_with("Orvik Command Tool starting\n")) << messages;
 }
 

@@ -93,7 +93,7 @@ TEST_F(BookmarksTest, AreAddedToTheFileAndTheMenus) {
     fs::permissions(file(), fs::perms::none);
     fs::create_directory(home / "directory");
     bookmarks().bookmark_file.set_text((home / "directory").string());
-    EXPECT_EQ(add("c", "/c", 0), "Bookmark file not found");
+    EXPECT_EQ(add("c", "/c", 0), "Could not save " + (home / "directory").string() + ": Is a directory");
     bookmarks().bookmark_file.set_text("");
     EXPECT_EQ(add("c", "/c", 0), "Bookmark file not specified");
 }

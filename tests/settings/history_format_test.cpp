@@ -8,6 +8,7 @@
 #include <array>
 #include <climits>
 #include <csignal>
+#include <ctime>
 #include <tuple>
 
 #include <gtest/gtest.h>
@@ -16,6 +17,14 @@
 #include <unistd.h>
 
 namespace {
+
+TEST(HistoryFormat, AHugeLineTakesNoLongerThanItsLength) {
+    const std::clock_t begin = std::clock();
+    const auto commands = parse_history("ORVIK_HISTORY\n" + std::string(50'000'000, 'x'));
+    ASSERT_TRUE(commands);
+    EXPECT_EQ(commands->size(), 50'000'000U / 1023 + 1);
+    EXPECT_LT(std::clock() - begin, 10 * CLOCKS_PER_SEC) << "it took a minute when each piece sought the end";
+}
 
 using namespace std::string_literals;
 using Rows = std::vector<std::string>;

@@ -22,7 +22,8 @@ class HistoryTest : public HistoryWindows {
 
 TEST_F(HistoryTest, RecordsByLengthOnceAndSavesForItsOwnerOnly) {
     const std::string bound(79, 'x');
-    home.write(".orvik-history", "old");
+    home.write(".orvik-history", header);
+    load_history_at_startup();
     ASSERT_EQ(chmod(file().c_str(), 0644), 0);
     for (const std::string& command : {std::string("ls"), std::string("make"), bound + "x", bound}) {
         record_command(command);
@@ -89,10 +90,55 @@ TEST_F(HistoryTest, StartsWithItsFile) {
     EXPECT_EQ(start(), no_menu);
     command_history_setup().number_of_entries.set_value(0);
     EXPECT_EQ(start(), "");
+    ASSERT_EQ(chmod(file().c_str(), 0646), 0);
+    EXPECT_EQ(start(), "Warning: " + file() + " can be written by other users\n");
     std::filesystem::rename(home / "fifo", file());
-    EXPECT_EQ(start(), "History file not found\n");
+    EXPECT_EQ(start(), file() + " not read: Invalid argument\nHistory file not found\n");
     EXPECT_EQ(save_history(list(), file()), 0);
-    EXPECT_EQ(board(), "History file not found\n" + file() + " not written: Invalid argument\n");
+    EXPECT_TRUE(board().ends_with(file() + " not written: Invalid argument\n"));
+}
+
+TEST_F(HistoryTest, AFileThatWasNotLoadedIsReplacedOnlyWhenItsUserSaysSo) {
+    constexpr int when_quitting = 1;
+    const std::string left = file() + " not written: not all of it was loaded before";
+    std::string large = header;
+    for (int line = 0; line < 100'000; ++line) {
+        large += std::to_string(line) + '\n';
+    }
+    for (const auto& [contents, message, rows] :
+         {std::tuple(std::string("make\n"), std::string("Not a valid history file\n"), 0),
+          {large, file() + " is too large: only its beginning is loaded\n", 99'999}}) {
+        home.write(".orvik-history", contents);
+        clear_history(list());
+        clear_window(message_board().text);
+        load_history_at_startup();
+        EXPECT_EQ(board(), message);
+        EXPECT_EQ(list().rows(), rows);
+        command_history_setup().save_to_history_file.set_value(0);
+        record_command("make");
+        record_command("make all");
+        command_history_setup().save_to_history_file.set_value(when_quitting);
+        EXPECT_EQ(save_history_at_quit(), left);
+        EXPECT_EQ(read_file(file()), contents);
+    }
+    EXPECT_EQ(save_history(list(), file()), 1);
+    EXPECT_EQ(save_history_at_quit(), "");
+    std::filesystem::remove(file());
+    std::filesystem::create_directory(file());
+    EXPECT_EQ(save_history_at_quit(), file() + " not written: Is a directory");
+}
+
+TEST_F(HistoryTest, AFileThatIsNotThereIsMadeAndThenReplaced) {
+    std::filesystem::create_directory(home / "new");
+    home_dir = home / "new";
+    record_command("make");
+    record_command("make all");
+    EXPECT_EQ(read_file(home / "new/.orvik-history"), header + "make\nmake all\n");
+    clear_history(list());
+    record_command("ls -l");
+    record_command("ls -a");
+    EXPECT_EQ(read_file(home / "new/.orvik-history"), header + "make\nmake all\n") << "was not loaded again";
+    EXPECT_EQ(board(), home_dir + "/.orvik-history not written: not all of it was loaded before\n");
 }
 
 TEST_F(HistoryTest, ButtonMakesAMenuOfTheNewestCommandsWhenPressed) {

@@ -257,12 +257,14 @@ TEST_F(SetupFile, IsTakenFromTheStartupDirectoryOrElseFromHome) {
     const File none;
     const File bad = "ORVIK SETUP\nchanged\n";
     const std::string missing = "Setup file not found\n";
+    const std::string others = " can be written by other users\n";
     const struct {
         File start;
         File home;
         int result;
         std::string value;
         std::string message;
+        mode_t mode = 0644;
     } cases[] = {
         {header + "start\n", header + "home\n", 1, "start", ""},
         {none, header + "home\n", 1, "home", ""},
@@ -270,13 +272,17 @@ TEST_F(SetupFile, IsTakenFromTheStartupDirectoryOrElseFromHome) {
         {none, none, 0, "built-in", missing},
         {bad, none, 0, "built-in", missing},
         {none, bad, -1, "built-in", "Not a valid setup file\n"},
+        {header + "start\n", none, 0, "built-in", path() + " not loaded: it" + others + missing, 0646},
+        {header + "start\n", header + "home\n", 1, "home",
+         path() + " not loaded: it" + others + "Warning: " + (home_ / "home/Orvik.setup").string() + others,
+         0666},
     };
-    for (const auto& [start, home, result, value, message] : cases) {
+    for (const auto& [start, home, result, value, message, mode] : cases) {
         for (const auto& [name, contents] :
              {std::pair("start/Orvik.setup", start), {"home/Orvik.setup", home}}) {
             fs::remove(home_ / name);
             if (contents) {
-                home_.write(name, *contents);
+                ASSERT_EQ(chmod(home_.write(name, *contents).c_str(), mode), 0);
             }
         }
         environment_setup().working_directory_1.set_text("built-in");
@@ -287,6 +293,8 @@ TEST_F(SetupFile, IsTakenFromTheStartupDirectoryOrElseFromHome) {
         EXPECT_EQ(message_board().text.text(), message);
         EXPECT_EQ(setup_values() == before, result != 1);
     }
+    home_dir = startup_dir;
+    EXPECT_EQ(load_setup_at_startup(), 1) << "only warned of in the home directory";
     fs::create_directory(home_ / "directory");
     ASSERT_EQ(mkfifo((home_ / "fifo").c_str(), 0600), 0);
     EXPECT_EQ(load_setup(home_ / "directory"), 0);
