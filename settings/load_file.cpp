@@ -4,6 +4,7 @@
 #include "shell/files.h"
 #include "shell/messages.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
 #include <utility>
@@ -37,7 +38,7 @@ LoadedFile load_file(const std::string& path, std::size_t limit, WhenDoubtful wh
     } else if (!contents.doubt.empty()) {
         report(fmt::format("Warning: {} {}\n", path, contents.doubt));
     }
-    if (contents.error == 0 && cut_behind_lines(contents.text)) {
+    if (cut_behind_lines(contents.text) && contents.error == 0) {
         contents.error = EFBIG;
     }
     if (contents.error == EFBIG) {

@@ -107,7 +107,9 @@ TEST_F(HistoryTest, AFileThatWasNotLoadedIsReplacedOnlyWhenItsUserSaysSo) {
     }
     for (const auto& [contents, message, rows] :
          {std::tuple(std::string("make\n"), std::string("Not a valid history file\n"), 0),
-          {large, file() + " is too large: only its beginning is loaded\n", 99'999}}) {
+          {large, file() + " is too large: only its beginning is loaded\n", 99'999},
+          {large + std::string(8'388'608, '\n'), file() + " is too large: only its beginning is loaded\n",
+           99'999}}) {
         home.write(".orvik-history", contents);
         clear_history(list());
         clear_window(message_board().text);

@@ -57,7 +57,7 @@ TEST_F(UserButtonsTest, ACommandIsTypedWithItsPlaceholderFilled) {
         {"control character", "ls $$$", "a\x15rm", "", "", control},
         {"no selection", "$$$", "", "", "", unfit},
         {"no selection in a command", "rm -r $$$/*", "", "", "", "No selection made"},
-        {"no name in a command", "rm -r ???/*", "", "", "", "Nothing to put for ???"},
+        {"no name in a command", "vi ???.", "", "", "", "Nothing to put for ???"},
         {"longest selection", "$$$", std::string(999, 'x'), "", std::string(999, 'x') + "\n", ""},
         {"selection too long", "$$$", std::string(1000, 'x'), "", "", unfit},
         {"selection before tree", "$$$ ???", "a", "b", "a ???\n", ""},
