@@ -1,5 +1,9 @@
 // SPDX-License-Identifier: MIT
+#include "terminal/descriptor.h"
 #include "tests/e2e/orvik_test.h"
+
+#include <fcntl.h>
+#include <sys/file.h>
 
 namespace {
 
@@ -16,6 +20,8 @@ TEST_F(StatusFile, DiffersBetweenInstancesAndGoesWithItsOwn) {
     EXPECT_EQ(field(open_window("Status Display"), "Status File:"), status_path(0));
     EXPECT_EQ(field(second.open(display(), "Setup", "Status Display", "Status Display"), "Status File:"),
               status_path(1));
+    const terminal::Descriptor held(open(status_path(0).c_str(), O_RDWR | O_CLOEXEC));
+    EXPECT_NE(flock(held.get(), LOCK_EX | LOCK_NB), 0) << "nobody takes over the file of a running copy";
     EXPECT_EQ(second.stop(), 0);  // with SIGTERM
     EXPECT_TRUE(fs::exists(status_path(0)));
     EXPECT_FALSE(fs::exists(status_path(1)));

@@ -2,10 +2,12 @@
 #include "shell/status.h"
 
 #include "app/notify.h"
+#include "shell/process.h"
 #include "shell/status_file.h"
 #include "tests/support/scratch_directory.h"
 #include "ui/default_settings.h"
 #include "ui/main_window.h"
+#include "ui/message_board.h"
 #include "ui/process_information.h"
 #include "ui/status_display.h"
 #include "ui/windows.h"
@@ -36,7 +38,6 @@ class StatusDisplayTest : public testing::Test {
         return QTest::qWaitFor([&] { return main_window().cwd.text() == cwd; }, 5000);
     }
 
-  private:
     ScratchDirectory home_;
 };
 
@@ -53,8 +54,11 @@ TEST_F(StatusDisplayTest, TheTimerShowsWhatTheShellWrote) {
         [] { return main_window().right_footer() == "Host: h   User: u   PID: 123   View: v   "; }, 5000));
 }
 
-TEST_F(StatusDisplayTest, NoAliasIsSetWithoutAStatusFile) {
-    status_display().status_file.set_text("");
+TEST_F(StatusDisplayTest, NoAliasIsSetWithoutAStatusFileAndTheReasonIsTold) {
+    home_dir = home_ / "none";
+    begin_status_display();
+    EXPECT_EQ(message_board().text.text(),
+              "No status display: no file can be made in " + home_dir + ": No such file or directory\n");
     BaseWindowSetAlias();
     EXPECT_EQ(main_window().left_footer(), "Orvik status file not defined");
 }
