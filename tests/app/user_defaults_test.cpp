@@ -43,7 +43,8 @@ TEST(Print, PutsPathAndNameIntoTheUsersCommandOnceEach) {
         {"$PATH_NAME $PATH_NAME $FILE_NAME $FILE_NAME", "/t/n.txt", "/t/n.txt $PATH_NAME n.txt $FILE_NAME"},
         {"lp -t $FILE_NAME $PATH_NAME", "/t/$PATH_NAME", "lp -t '$PATH_NAME' '/t/$PATH_NAME'"},
         {"lp \"$PATH_NAME\"", "/t/a b", "lp \"/t/a b\""},
-        {"lp \"$PATH_NAME\"", "/t/$(a)", std::nullopt},
+        {"lp \"$PATH_NAME\"", "/t/$(a)", "lp \"\"'/t/$(a)'\"\""},
+        {"eval lp $PATH_NAME", "/t/$(a)", std::nullopt},
         {"lp", "/t/n.txt", "lp"},
     };
     for (const auto& [command, path, expected] : cases) {

@@ -120,7 +120,7 @@ TEST_F(CommandListTest, PlaceholdersAreFilledAndNamesQuoted) {
         {"a \"###\" @@@", "", "a \"it's;x\" '/a b'\n", ""},
         {"a &&&", "", "a '/dir/it'\\''s;x'\n", ""},
         {"a ???", "", "a '/tree/$(x)'\n", ""},
-        {"a \"???\"", "", "", "Name can't be typed into the shell: /tree/$(x)"},
+        {"eval a ???", "", "", "Name can't be typed into the shell: /tree/$(x)"},
         {"a $$$", "", "", none},
         {"a $$$", std::string(1001, 'x'), "", "Selection too long"},
         {"a $$$", std::string(1000, 'x'), "", none},
