@@ -84,7 +84,7 @@ void choose(Parser& parser, unsigned choice) {
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     std::string_view bytes = as_text(data, size);
-    const unsigned choice = bytes.empty() ? 0 : static_cast<std::uint8_t>(bytes.front());
+    const unsigned choice = bytes.empty() ? choices : static_cast<std::uint8_t>(bytes.front());
     bytes.remove_prefix(choice < choices ? 1 : 0);
     Record whole;
     Parser whole_parser(whole);

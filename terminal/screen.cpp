@@ -208,11 +208,11 @@ void Screen::rotate(int top, int bottom, int count) {
 }
 
 void Screen::advance(int bottom, Cell blank) {
-    set_wrapped(bottom - 1, false);
     ring_top_ = ring_top_ + 1 == size_.rows ? 0 : ring_top_ + 1;
     ++top_;
     if (bottom < size_.rows) {  // the rows below stay where they are seen
         rotate(bottom - 1, size_.rows, size_.rows - bottom);
+        set_wrapped(bottom - 2, false);
     }
     clear(line(bottom - 1), blank);
     ++clock_;

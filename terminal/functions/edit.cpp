@@ -66,7 +66,9 @@ void Terminal::erase_on_screen(Which which, Erasure erasure) {
 void Terminal::scroll_text_up(int count) {
     const bool whole_rows = margins_.width() == size().columns;
     const bool whole_screen = whole_rows && margins_.height() == size().rows;
-    spend(std::min(count, margins_.height()) * margins_.width());
+    if (count > 1) {
+        spend(std::min(count, margins_.height()) * margins_.width());
+    }
     if (margins_.top > 0 || !whole_rows || (is_alternate() && !whole_screen)) {
         screen_->scroll_up(margins_, count, blank());
         return;

@@ -40,8 +40,9 @@ TEST_F(TerminalWindow, ThatCannotGrowHasTheTerminalResizedAgain) {
     pane.permit({.window_operations = true});
     window.setMaximumSize(window.size());
     const terminal::Size before = view().terminal().size();
-    start_asking("\\033[8;200;300t\\033[18t");
-    EXPECT_TRUE(wait_for_echo("^[[8;200;300t")) << echoed();
+    const std::string wish = fmt::format("[8;{};{}t", before.rows + 2, before.columns + 3);
+    start_asking("\\033" + wish + "\\033[18t");
+    EXPECT_TRUE(wait_for_echo("^[" + wish)) << echoed();
     EXPECT_TRUE(wait([&] { return view().terminal().size() == before; }));
 }
 
