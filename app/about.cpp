@@ -41,7 +41,7 @@ void About_window() {
     about_window().open();
 }
 
-void AboutCopy() {
+Message AboutCopy() {
     copy_to_clipboard(about_window().text.text());
-    about_window().set_left_footer("Copied to the clipboard");
+    return "Copied to the clipboard";
 }

@@ -12,13 +12,13 @@ PaneFile board_file;
 
 }  // namespace
 
-void MessageBoardSave() {
-    board_file.save(message_board(), message_board().text,
-                    PaneFile::path(environment_setup().messageboard_directory.text(),
-                                   message_board().file_name.text(), "messageboard.txt"));
+Message MessageBoardSave() {
+    return board_file.save(message_board(), message_board().text,
+                           PaneFile::path(environment_setup().messageboard_directory.text(),
+                                          message_board().file_name.text(), "messageboard.txt"));
 }
 
-void MessageBoardClear() {
-    message_board().set_left_footer("");
+Message MessageBoardClear() {
     clear_window(message_board().text);
+    return {};
 }

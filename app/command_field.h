@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-class Frame;
+#include "toolkit/notify.h"
+
 class TextField;
 
-/// Sends the command in a field and files it; the frame's left footer tells why it was not sent.
-void send_command_field(Frame& frame, TextField& field);
+/// Sends the command in a field and files it; or returns why it was not sent.
+[[nodiscard]] Message send_command_field(TextField& field);

@@ -10,51 +10,50 @@
 #include "ui/default_settings.h"
 #include "ui/main_window.h"
 
-#include <optional>
-
-void move_typed_command(CommandAsker asker) {
-    main_window().set_left_footer("");
-    const std::optional<std::string> command = take_typed_command(asker);
+Message move_typed_command(CommandAsker asker) {
+    const TakenCommand command = take_typed_command(asker);
     if (!command) {
-        return;
+        return command.refusal;
     }
     if (default_settings().open_long_command_window.value()) {
-        command_window().command.set_text(*command);
+        command_window().command.set_text(command.text);
         show_command_window();
     } else {
-        main_window().command.set_text(*command);
+        main_window().command.set_text(command.text);
         main_window().command.set_focus();
     }
+    return {};
 }
 
-void recall_last_command() {
+Message recall_last_command() {
     const std::string last = default_settings().last_command.text();
-    main_window().set_left_footer(last.empty() ? "No command saved" : "");
-    if (!last.empty()) {
-        main_window().command.set_text(last);
+    if (last.empty()) {
+        return "No command saved";
     }
+    main_window().command.set_text(last);
+    return {};
 }
 
-void Command_text_line() { send_command_field(main_window(), main_window().command); }
+Message Command_text_line() { return send_command_field(main_window().command); }
 
-void BaseWindowClearCommand() {
-    main_window().set_left_footer("");
+Message BaseWindowClearCommand() {
     main_window().command.set_text("");
+    return {};
 }
 
-void BaseWindowScrollUp() {
-    history_previous(HistoryWalker::button);
+Message BaseWindowScrollUp() {
     main_window().command.set_focus();
+    return history_previous(HistoryWalker::button);
 }
 
-void BaseWindowScrollDown() {
-    history_next(HistoryWalker::button);
+Message BaseWindowScrollDown() {
     main_window().command.set_focus();
+    return history_next(HistoryWalker::button);
 }
 
-void BaseWindowLastCommand() {
-    recall_last_command();
+Message BaseWindowLastCommand() {
     main_window().command.set_focus();
+    return recall_last_command();
 }
 
-void BaseWindowMoveButton() { move_typed_command(CommandAsker::move_button); }
+Message BaseWindowMoveButton() { return move_typed_command(CommandAsker::move_button); }

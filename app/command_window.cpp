@@ -4,23 +4,17 @@
 #include "app/command_field.h"
 #include "app/notify.h"
 #include "app/typed_command.h"
-#include "shell/operands.h"
-#include "shell/process.h"
-#include "shell/send_line.h"
-#include "shell/shell.h"
+#include "shell/selected_text.h"
+#include "shell/send.h"
 #include "ui/command_window.h"
 #include "ui/default_settings.h"
 #include "ui/main_window.h"
 
-#include <optional>
-
-#include <fmt/format.h>
-
 namespace {
 
-void send(std::string_view line) { (void)send_line(command_window(), line); }
-
-constexpr std::string_view no_selection = "No selection made or selection too long";
+/// One message for both.
+constexpr SelectionMessages no_selection{"No selection made or selection too long",
+                                         "No selection made or selection too long"};
 
 }  // namespace
 
@@ -30,71 +24,57 @@ void show_command_window() {
     command_window().command.set_focus();
 }
 
-void CommandWindowPush() {
-    command_window().set_left_footer("");
-    const std::optional<std::string> selected = selected_name(command_window(), no_selection, no_selection);
-    if (!selected) {
-        return;
-    }
-    const std::string directory = with_home_directory(*selected);
-    if (const std::optional<std::string> word = shell_word(directory, user_shell)) {
-        send(fmt::format("pushd {}", *word));
-    } else {
-        command_window().set_left_footer(name_refusal(directory));
-    }
+Message CommandWindowPush() {
+    const SelectedText directory = selected_name(no_selection);
+    return directory ? send(CommandLine("pushd").path(directory.text)) : directory.refusal;
 }
 
-void CommandWindowPop() { send("popd"); }
+Message CommandWindowPop() { return send(CommandLine("popd")); }
 
 /// The names are the user's own words: nothing in them is quoted, and no question is asked but by rm.
-void CommandWindowRemove() {
+Message CommandWindowRemove() {
     const std::string names = command_window().command.text();
-    if (names.empty()) {
-        command_window().set_left_footer("No file");
-    } else {
-        send(fmt::format("rm {}", names));
-    }
+    return names.empty() ? "No file" : send(CommandLine("rm").raw(names));
 }
 
-void CommandWindowRun() {
+Message CommandWindowRun() {
     const std::string command = command_window().command.text();
-    if (command.empty()) {
-        command_window().set_left_footer("No command");
-    } else {
-        send(command);
-    }
+    return command.empty() ? "No command" : send(CommandLine::of_user(command));
 }
 
-void CommandWindowLast() {
+Message CommandWindowLast() {
     const std::string last = default_settings().last_command.text();
-    command_window().set_left_footer(last.empty() ? "No command stored" : "");
-    if (!last.empty()) {
-        command_window().command.set_text(last);
+    if (last.empty()) {
+        return "No command stored";
     }
+    command_window().command.set_text(last);
+    return {};
 }
 
-void CommandWindowGet() {
-    command_window().set_left_footer("");
-    if (const std::optional<std::string> text = selected_line(command_window(), no_selection, no_selection)) {
-        command_window().command.set_text(*text);
+Message CommandWindowGet() {
+    const SelectedText selected = selected_text(no_selection);
+    if (selected) {
+        command_window().command.set_text(selected.text);
     }
+    return selected.refusal;
 }
 
-void CommandWindowClearButton() {
-    command_window().set_left_footer("");
+Message CommandWindowClearButton() {
     command_window().command.set_text("");
+    return {};
 }
 
-void CommandWindowCopy() {
-    command_window().set_left_footer("");
-    if (const std::optional<std::string> command = take_typed_command(CommandAsker::copy_button)) {
-        command_window().command.set_text(*command);
+Message CommandWindowCopy() {
+    const TakenCommand command = take_typed_command(CommandAsker::copy_button);
+    if (command) {
+        command_window().command.set_text(command.text);
     }
+    return command.refusal;
 }
 
-void CommandWindowCommandLine() { send_command_field(command_window(), command_window().command); }
+Message CommandWindowCommandLine() { return send_command_field(command_window().command); }
 
-void FloatingCommandLine() {
-    main_window().set_left_footer("");
+Message FloatingCommandLine() {
     show_command_window();
+    return {};
 }

@@ -42,7 +42,7 @@ void file_from_prompt(const TerminalPane::CurrentLine& line) {
     if (command.problem == CommandProblem::none) {
         file(command.text);
     } else {
-        tell_problem(command.problem, CommandAsker::return_key);
+        main_window().set_left_footer(problem_message(command.problem, CommandAsker::return_key));
     }
     awaited.pop_front();
 }
@@ -82,7 +82,7 @@ void file_typed_command() {
         awaited.empty() && (problem == CommandProblem::none || problem == CommandProblem::nothing_typed);
     const std::string typed = terminal.typed_line().value_or(std::string());
     if (!at_prompt && problem != CommandProblem::none) {
-        tell_problem(problem, CommandAsker::return_key);
+        main_window().set_left_footer(problem_message(problem, CommandAsker::return_key));
     }
     if ((at_prompt || !typed.empty()) && awaited.size() < most_awaited) {
         awaited.push_back({.shell = terminal.child(), .at_prompt = at_prompt, .typed = typed});

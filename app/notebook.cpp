@@ -5,6 +5,7 @@
 #include "app/notify.h"
 #include "app/pane_file.h"
 #include "shell/background.h"
+#include "shell/command_line.h"
 #include "shell/files.h"
 #include "shell/messages.h"
 #include "shell/operands.h"
@@ -28,36 +29,32 @@ std::string notebook_path() {
 
 }  // namespace
 
-void NotebookSave() { notebook_file.save(notebook(), notebook().text, notebook_path()); }
+Message NotebookSave() { return notebook_file.save(notebook(), notebook().text, notebook_path()); }
 
-void NotebookLoad() { notebook_file.load(notebook(), notebook().text, notebook_path()); }
+Message NotebookLoad() { return notebook_file.load(notebook(), notebook().text, notebook_path()); }
 
-void NotebookPrint() {
+Message NotebookPrint() {
     const std::string text = notebook().text.text();
     if (text.empty()) {
-        notebook().set_left_footer("Nothing to print");
-        return;
+        return "Nothing to print";
     }
     // Everybody may write into /tmp: a link that somebody has put there must not lead to another file.
     const int error = save_file(notebook_print_file, text, {.links = Links::replace, .exact_mode = 0600});
     if (error != 0) {
-        notebook().set_left_footer(
-            fmt::format("Could not write {}: {}", notebook_print_file, std::strerror(error)));
-        return;
+        return fmt::format("Could not write {}: {}", notebook_print_file, std::strerror(error));
     }
     const std::optional<std::string> command =
         print_command(default_settings().print_command.text(), notebook_print_file);
     if (!command) {
-        notebook().set_left_footer(name_refusal(notebook_print_file));
-        return;
+        return name_refusal(notebook_print_file);
     }
-    run_in_background(*command);
-    notebook().set_left_footer(fmt::format("Printing: {}", *command));
+    run_in_background(CommandLine::of_user(*command));
+    return fmt::format("Printing: {}", *command);
 }
 
-void NotebookClear() {
-    notebook().set_left_footer("");
+Message NotebookClear() {
     if (may_discard(notebook(), notebook().text)) {
         clear_window(notebook().text);
     }
+    return {};
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "toolkit/notify.h"
+
 // The notify procedures of app/, bound to controls by the windows and menus in ui/.
 
 // "Help" menu: each shows its own text.
@@ -35,54 +37,54 @@ void BrowseMenuNoteBook();
 void Edit_menu_setup();
 
 // Main window: the selection and the shell.
-void Directory_up_button();
-void Directory_down_button();
-void Execute_FG_button();
-void Execute_BG_button();
-void OrvikWindowCopyButton();
-void CopyToMessageBoard();
-void FloatingCommandLine();
+Message Directory_up_button();
+Message Directory_down_button();
+Message Execute_FG_button();
+Message Execute_BG_button();
+Message OrvikWindowCopyButton();
+Message CopyToMessageBoard();
+Message FloatingCommandLine();
 
 // Main window: its size, and the terminal's text.
-void Set_wide_screen();
-void Set_normal_width();
-void Set_small_font();
-void Set_large_font();
+Message Set_wide_screen();
+Message Set_normal_width();
+Message Set_small_font();
+Message Set_large_font();
 
 // Main window: "Command:".
-void Command_text_line();
-void BaseWindowScrollUp();
-void BaseWindowScrollDown();
-void BaseWindowLastCommand();
-void BaseWindowClearCommand();
-void BaseWindowMoveButton();
+Message Command_text_line();
+Message BaseWindowScrollUp();
+Message BaseWindowScrollDown();
+Message BaseWindowLastCommand();
+Message BaseWindowClearCommand();
+Message BaseWindowMoveButton();
 
 // Main window: "Quit".
 void Quit_button();
 
 // "About".
-void AboutCopy();
+Message AboutCopy();
 
 // "Command Window".
-void CommandWindowCommandLine();
-void CommandWindowPush();
-void CommandWindowPop();
-void CommandWindowRemove();
-void CommandWindowRun();
-void CommandWindowLast();
-void CommandWindowGet();
-void CommandWindowClearButton();
-void CommandWindowCopy();
+Message CommandWindowCommandLine();
+Message CommandWindowPush();
+Message CommandWindowPop();
+Message CommandWindowRemove();
+Message CommandWindowRun();
+Message CommandWindowLast();
+Message CommandWindowGet();
+Message CommandWindowClearButton();
+Message CommandWindowCopy();
 
 // "Define Label".
 void DefineLabelApply();
 
 // "Message Board".
-void MessageBoardSave();
-void MessageBoardClear();
+Message MessageBoardSave();
+Message MessageBoardClear();
 
 // "Notebook".
-void NotebookSave();
-void NotebookLoad();
-void NotebookPrint();
-void NotebookClear();
+Message NotebookSave();
+Message NotebookLoad();
+Message NotebookPrint();
+Message NotebookClear();

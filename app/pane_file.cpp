@@ -31,36 +31,32 @@ std::string PaneFile::path(std::string_view directory, std::string_view name, st
     return fmt::format("{}/{}", folder.empty() ? "/tmp" : folder, file);
 }
 
-void PaneFile::save(Frame& frame, TextPane& pane, const std::string& path) {
-    frame.set_left_footer("");
+Message PaneFile::save(Frame& frame, TextPane& pane, const std::string& path) {
     if (path != known_ && access(path.c_str(), F_OK) == 0 &&
         !agreed(frame, fmt::format("{} exists. Replace it ?", path))) {
-        return;
+        return {};
     }
     const BusyState busy(frame);
     if (const int error = save_file(path, pane.text()); error != 0) {
-        frame.set_left_footer(fmt::format("Could not save {}: {}", path, std::strerror(error)));
-        return;
+        return fmt::format("Could not save {}: {}", path, std::strerror(error));
     }
     known_ = path;
     pane.set_unmodified();
-    frame.set_left_footer(fmt::format("Saved to {}", path));
+    return fmt::format("Saved to {}", path);
 }
 
-void PaneFile::load(Frame& frame, TextPane& pane, const std::string& path) {
-    frame.set_left_footer("");
+Message PaneFile::load(Frame& frame, TextPane& pane, const std::string& path) {
     if (!may_discard(frame, pane)) {
-        return;
+        return {};
     }
     const BusyState busy(frame);
     const FileContents contents = read_file(path, longest_text);
     if (contents.error != 0) {
-        frame.set_left_footer(fmt::format("Could not load {}: {}", path, std::strerror(contents.error)));
-        return;
+        return fmt::format("Could not load {}: {}", path, std::strerror(contents.error));
     }
     known_ = path;
     pane.set_text(contents.text);
-    frame.set_left_footer(fmt::format("Loaded {}", path));
+    return fmt::format("Loaded {}", path);
 }
 
 bool may_discard(Frame& frame, const TextPane& pane) {

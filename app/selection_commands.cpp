@@ -5,11 +5,8 @@
 #include "app/notify.h"
 #include "shell/editor.h"
 #include "shell/messages.h"
-#include "shell/operands.h"
-#include "shell/process.h"
-#include "shell/quoting.h"
-#include "shell/send_line.h"
-#include "shell/shell.h"
+#include "shell/selected_text.h"
+#include "shell/send.h"
 #include "shell/status.h"
 #include "ui/main_window.h"
 #include "ui/notebook.h"
@@ -18,122 +15,87 @@
 
 namespace {
 
-constexpr std::string_view no_selection_for_key = "No selection made";
-constexpr std::string_view no_selection_for_button = "No selection made or selection too long";
+CommandLine users_line(const SelectedText& selected) { return CommandLine::of_user(selected.text); }
 
-std::optional<std::string> selection(std::string_view none) {
-    main_window().set_left_footer("");
-    return selected_line(main_window(), none);
-}
-
-void send(std::string_view line) { (void)send_line(main_window(), line); }
-
-void send_directory_change(std::string_view directory) {
-    if (send_line(main_window(), fmt::format("cd {}", directory))) {
-        send("ls -aF");
-    }
-}
-
-using Quoting = std::optional<std::string> (*)(std::string_view name, const Shell& shell);
-
-/// The selection as a file name for the user's shell; nothing, and the footer says why, where there is none.
-std::optional<std::string> selected_word(std::string_view none, Quoting quoting) {
-    main_window().set_left_footer("");
-    const std::optional<std::string> selected = selected_name(main_window(), none);
-    if (!selected) {
-        return std::nullopt;
-    }
-    const std::string name = with_home_directory(*selected);
-    std::optional<std::string> word = quoting(name, user_shell);
-    if (!word) {
-        main_window().set_left_footer(name_refusal(name));
-    }
-    return word;
+Message send_directory_change(const CommandLine& change) {
+    Message refusal = send(change);
+    return refusal.empty() ? send(CommandLine("ls -aF")) : refusal;
 }
 
 }  // namespace
 
-void insert_selection() {
-    if (const std::optional<std::string> text = selection(no_selection_for_key)) {
-        main_window().set_left_footer(type_text(*text));
-    }
+Message insert_selection() {
+    const SelectedText selected = selected_text();
+    return selected ? type(users_line(selected)) : selected.refusal;
 }
 
-void run_selection() {
-    if (const std::optional<std::string> command = selection(no_selection_for_key)) {
-        send(*command);
-    }
+Message run_selection() {
+    const SelectedText selected = selected_text();
+    return selected ? send(users_line(selected)) : selected.refusal;
 }
 
-void run_selection_in_background() {
-    if (const std::optional<std::string> command = selection(no_selection_for_key)) {
-        send(fmt::format("{} &", *command));
-    }
+Message run_selection_in_background() {
+    const SelectedText selected = selected_text();
+    return selected ? send(users_line(selected).in_background()) : selected.refusal;
 }
 
-void edit_selected_file() {
-    const std::optional<std::string> name = selected_word(no_selection_for_key, escaped_word);
+Message edit_selected_file() {
+    const SelectedText name = selected_name();
     if (!name) {
-        return;
+        return name.refusal;
     }
-    if (const std::optional<std::string> command = editor_command(*name)) {
-        send(fmt::format("{} &", *command));
-    } else {
-        main_window().set_left_footer("User editor not specified");
-    }
+    const std::optional<CommandLine> line = editor_line(name.text);
+    return line ? send(CommandLine(*line).in_background()) : no_editor;
 }
 
-void go_directory_up() {
-    main_window().set_left_footer("");
-    send_directory_change("..");
+Message go_directory_up() { return send_directory_change(CommandLine("cd ..")); }
+
+Message go_to_selected_directory() {
+    const SelectedText name = selected_name();
+    return name ? send_directory_change(CommandLine("cd").path(name.text)) : name.refusal;
 }
 
-void go_to_selected_directory() {
-    if (const std::optional<std::string> name = selected_word(no_selection_for_key, shell_word)) {
-        send_directory_change(*name);
-    }
-}
-
-void type_selection() {
-    insert_selection();
+Message type_selection() {
+    const Message refusal = insert_selection();
     SetupTimer(refresh_after_command);
+    return refusal;
 }
 
-void recall_by_selection() {
-    if (const std::optional<std::string> text = selection("No selection")) {
-        send(fmt::format("!{}", *text));
-    }
+Message recall_by_selection() {
+    const SelectedText selected = selected_text({.none = "No selection"});
+    return selected ? send(CommandLine::of_user(fmt::format("!{}", selected.text))) : selected.refusal;
 }
 
-void Directory_up_button() { go_directory_up(); }
+Message Directory_up_button() { return go_directory_up(); }
 
-void Directory_down_button() {
-    if (const std::optional<std::string> name = selected_word(no_selection_for_button, double_quoted_word)) {
-        send_directory_change(*name);
-    }
+Message Directory_down_button() {
+    const SelectedText name = selected_name(selection_for_button);
+    return name ? send_directory_change(CommandLine("cd").double_quoted(name.text)) : name.refusal;
 }
 
-void Execute_FG_button() {
-    if (const std::optional<std::string> name = selected_word(no_selection_for_button, double_quoted_word)) {
-        send(*name);
-    }
+Message Execute_FG_button() {
+    const SelectedText name = selected_name(selection_for_button);
+    return name ? send(CommandLine().double_quoted(name.text)) : name.refusal;
 }
 
-void Execute_BG_button() {
-    if (const std::optional<std::string> name = selected_word(no_selection_for_button, double_quoted_word)) {
-        send(fmt::format("{} &", *name));
-    }
+Message Execute_BG_button() {
+    const SelectedText name = selected_name(selection_for_button);
+    return name ? send(CommandLine().double_quoted(name.text).in_background()) : name.refusal;
 }
 
-void OrvikWindowCopyButton() {
-    if (const std::optional<std::string> text = selection(no_selection_for_button)) {
-        main_window().set_left_footer(type_text(*text));
-        main_window().termpane.set_focus();
+Message OrvikWindowCopyButton() {
+    const SelectedText selected = selected_text(selection_for_button);
+    if (!selected) {
+        return selected.refusal;
     }
+    main_window().termpane.set_focus();
+    return type(users_line(selected));
 }
 
-void CopyToMessageBoard() {
-    if (const std::optional<std::string> text = selection(no_selection_for_button)) {
-        display_message(notebook().text, *text + "\n\n");
+Message CopyToMessageBoard() {
+    const SelectedText selected = selected_text(selection_for_button);
+    if (selected) {
+        display_message(notebook().text, selected.text + "\n\n");
     }
+    return selected.refusal;
 }

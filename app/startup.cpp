@@ -14,12 +14,13 @@
 #include "settings/setup_file.h"
 #include "settings/user_buttons.h"
 #include "settings/user_menu.h"
+#include "shell/hook_typing.h"
+#include "shell/login_shell.h"
 #include "shell/files.h"
 #include "shell/messages.h"
 #include "shell/operands.h"
 #include "shell/process.h"
-#include "shell/quoting.h"
-#include "shell/shell.h"
+#include "shell/send.h"
 #include "shell/status.h"
 #include "shell/status_file.h"
 #include "toolkit/application.h"
@@ -47,20 +48,12 @@
 
 namespace {
 
-void type_and_refresh(const std::string& line, int refresh) {
-    if (type_or_report(line)) {
-        SetupTimer(refresh);
+/// A command on a file or directory; an empty path leaves the command without one.
+void send_with_path(CommandLine line, const std::string& path) {
+    if (!path.empty()) {
+        line.path(path_meant(path));
     }
-}
-
-/// Types a command on a file or directory; an empty path leaves the command without one.
-void type_with_path(const std::string& command, const std::string& path) {
-    const std::optional<std::string> word = path.empty() ? path : shell_word(path_meant(path), user_shell);
-    if (word) {
-        type_and_refresh(command + " " + *word, refresh_after_command);
-    } else {
-        report("Name can't be typed into the shell: " + path + "\n");
-    }
+    (void)send_at_startup(line, refresh_after_command);
 }
 
 void connect_to_display(std::vector<std::string>& arguments) {
@@ -145,7 +138,7 @@ void type_environment_file() {
     if (file.empty()) {
         report("Environment setup file not found\n");
     } else {
-        type_with_path("source", file);
+        send_with_path(CommandLine("source"), file);
     }
 }
 
@@ -160,11 +153,11 @@ void type_first_prompt_hooks() {
 }
 
 void log_in_to(const std::string& host) {
-    if (host.empty() || is_host_name(host)) {
-        type_and_refresh("rlogin " + host, refresh_after_login);
-    } else {
-        report("Not a host name: " + host + "\n");
+    CommandLine line("rlogin");
+    if (!host.empty()) {
+        line.host(host);
     }
+    (void)send_at_startup(line, refresh_after_login);
 }
 
 }  // namespace
@@ -195,7 +188,7 @@ void start_up(std::vector<std::string> arguments) {
     load_bookmarks_at_startup();
     type_environment_file();
     if (options.work && !options.host) {
-        type_with_path("cd", options.workdir);
+        send_with_path(CommandLine("cd"), options.workdir);
     }
     show_title();
     type_first_prompt_hooks();

@@ -50,13 +50,13 @@ constexpr std::array editing_keys{
 struct ToolKey {
     Key key;      ///< none for the control character
     char letter;  ///< of the control character
-    void (*action)();
+    Message (*action)();
     bool editing_only = false;  ///< only with "Command Line Editing" enabled
 };
 
 template <TextField FunctionKeys::*field>
-void send_function_key_command() {
-    send_user_command((function_keys().*field).text(), "Function key command not defined");
+Message send_function_key_command() {
+    return send_user_command((function_keys().*field).text(), "Function key command not defined");
 }
 
 constexpr std::array tool_keys{
@@ -70,7 +70,7 @@ constexpr std::array tool_keys{
     ToolKey{.key = Key::f7, .action = send_function_key_command<&FunctionKeys::function_key_7_command>},
     ToolKey{.key = Key::f8, .action = send_function_key_command<&FunctionKeys::function_key_8_command>},
     ToolKey{.key = Key::f9, .action = send_function_key_command<&FunctionKeys::function_key_9_command>},
-    ToolKey{.letter = 'x', .action = [] { move_typed_command(CommandAsker::return_key); }},
+    ToolKey{.letter = 'x', .action = [] { return move_typed_command(CommandAsker::return_key); }},
     ToolKey{.letter = 'l', .action = recall_last_command},
     ToolKey{.letter = 'o', .action = recall_by_selection},
 };
@@ -94,9 +94,9 @@ bool termpane_event_proc2(KeyEvent& event, const EditingKey& key) {
         return false;
     }
     if (key.when_disabled == Action::history_next) {
-        history_next();
+        main_window().set_left_footer(history_next());
     } else if (key.when_disabled == Action::history_previous) {
-        history_previous();
+        main_window().set_left_footer(history_previous());
     }
     return key.when_disabled != Action::to_shell;
 }
@@ -125,7 +125,7 @@ bool termpane_event_proc(KeyEvent& event) {
     const bool editing = default_settings().command_line_editing.value() == editing_enabled;
     for (const ToolKey& key : tool_keys) {
         if (fits(event, key.key, key.letter) && (editing || !key.editing_only)) {
-            key.action();
+            main_window().set_left_footer(key.action());
             return true;
         }
     }

@@ -2,8 +2,7 @@
 // Commands cut out of the terminal's line.
 #include "app/typed_command.h"
 
-#include "shell/shell.h"
-#include "ui/command_window.h"
+#include "shell/door.h"
 #include "ui/default_settings.h"
 #include "ui/main_window.h"
 
@@ -25,19 +24,6 @@ constexpr std::array problem_texts{
     ProblemText{CommandProblem::delimiter_not_found, "No delimiter found", "No delimiter found"},
     ProblemText{CommandProblem::nothing_typed, "No command found", "No command"},
 };
-
-std::string_view text_of(CommandProblem problem, CommandAsker asker) {
-    for (const ProblemText& known : problem_texts) {
-        if (known.problem == problem) {
-            return asker == CommandAsker::move_button ? known.for_move_button : known.for_return_key;
-        }
-    }
-    return {};
-}
-
-Frame& window_of(CommandAsker asker) {
-    return asker == CommandAsker::copy_button ? static_cast<Frame&>(command_window()) : main_window();
-}
 
 template <typename Function>
 auto with_prompt_settings(Function function) {
@@ -62,24 +48,27 @@ bool shows_command(const TerminalPane::CurrentLine& line, std::string_view comma
     });
 }
 
-void tell_problem(CommandProblem problem, CommandAsker asker) {
-    window_of(asker).set_left_footer(text_of(problem, asker));
+Message problem_message(CommandProblem problem, CommandAsker asker) {
+    for (const ProblemText& known : problem_texts) {
+        if (known.problem == problem) {
+            return Message(asker == CommandAsker::move_button ? known.for_move_button : known.for_return_key);
+        }
+    }
+    return {};
 }
 
-std::optional<std::string> take_typed_command(CommandAsker asker) {
+TakenCommand take_typed_command(CommandAsker asker) {
     if (main_window().termpane.shows_alternate_screen()) {  // a full-screen program's text, and its keys
-        window_of(asker).set_left_footer("Couldn't get full line");
-        return std::nullopt;
+        return {.refusal = "Couldn't get full line"};
     }
     const TerminalPane::CurrentLine line = main_window().termpane.current_line();
     CurrentCommand command = command_on(line);
     if (command.problem != CommandProblem::none) {
-        tell_problem(command.problem, asker);
-        return std::nullopt;
+        return {.refusal = problem_message(command.problem, asker)};
     }
     if (!line.behind.empty() || !line.settled) {
         type_control('E');  // line editors erase only what is before the insertion point
     }
     type_control('U');
-    return std::move(command.text);
+    return {.text = std::move(command.text)};
 }

@@ -2,10 +2,10 @@
 #pragma once
 
 #include "app/current_command.h"
+#include "toolkit/notify.h"
 #include "toolkit/pane/pane.h"
 
 #include <cstdint>
-#include <optional>
 #include <string>
 #include <string_view>
 
@@ -16,9 +16,16 @@ enum class CommandAsker : std::uint8_t { return_key, move_button, copy_button };
 CurrentCommand command_on(const TerminalPane::CurrentLine& line);
 /// Whether a line of the terminal shows this command behind the prompt.
 bool shows_command(const TerminalPane::CurrentLine& line, std::string_view command);
-/// Says in the left footer of the asker's window why there is no command.
-void tell_problem(CommandProblem problem, CommandAsker asker);
+/// Why there is no command, in the words of the asker.
+Message problem_message(CommandProblem problem, CommandAsker asker);
 
-/// The command on the terminal's current line, taken out of the shell's line: that is empty then. Nothing,
-/// and the footer says why, when there is none.
-std::optional<std::string> take_typed_command(CommandAsker asker);
+/// A command, or why there is none.
+struct TakenCommand {
+    std::string text;
+    Message refusal;
+
+    explicit operator bool() const { return refusal.empty(); }
+};
+
+/// The command on the terminal's current line, taken out of the shell's line: that is empty then.
+TakenCommand take_typed_command(CommandAsker asker);

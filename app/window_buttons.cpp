@@ -10,32 +10,30 @@ constexpr int wide_width = 1130;
 constexpr int tall_height = 840;
 
 /// The shell's new line length shows in what it reports next.
-void after_resize() {
+Message after_resize() {
     SetupTimer(refresh_after_command);
     textsw_possibly_normalize(main_window().termpane);
+    return {};
 }
 
 }  // namespace
 
-void Set_wide_screen() {
-    main_window().set_left_footer("");
+Message Set_wide_screen() {
     main_window().resize(wide_width, main_window().height());
-    after_resize();
+    return after_resize();
 }
 
-void Set_normal_width() {
-    main_window().set_left_footer("");
+Message Set_normal_width() {
     main_window().resize(MainWindow::normal_width, MainWindow::normal_height);
-    after_resize();
+    return after_resize();
 }
 
-void Set_small_font() {
-    main_window().set_left_footer("");
+Message Set_small_font() {
     main_window().resize(main_window().width(), tall_height);
-    after_resize();
+    return after_resize();
 }
 
-void Set_large_font() {
-    main_window().set_left_footer("");
+Message Set_large_font() {
     main_window().termpane.clear();
+    return {};
 }

@@ -69,17 +69,16 @@ void list_files_at_startup(const std::string& directory) {
     file_list_browser().set_right_footer(number_of_files(count));
 }
 
-void SetBookmarkFileListDir(const std::string& path) {
+Message SetBookmarkFileListDir(const std::string& path) {
     if (path.empty()) {
-        return;
+        return {};
     }
     FileListBrowser& browser = file_list_browser();
     int count = 0;
     if (list_in_browser(path_meant(path), count) != SCAN_OK) {
-        browser.set_left_footer("Can't set directory");
-        return;
+        return "Can't set directory";
     }
     browser.list.select(0);
     browser.file_name.set_text("");
-    browser.set_left_footer(number_of_files(count));
+    return number_of_files(count);
 }

@@ -5,18 +5,14 @@
 
 #include <fmt/printf.h>
 
-std::optional<std::string> listed_file() {
-    FileListBrowser& browser = file_list_browser();
-    const std::string name = browser.file_name.text();
-    const std::string directory = browser.directory.text();
-    browser.set_left_footer("");
+ListedFile listed_file() {
+    const std::string name = file_list_browser().file_name.text();
+    const std::string directory = file_list_browser().directory.text();
     if (name.empty()) {
-        browser.set_left_footer("File name not specified");
-        return std::nullopt;
+        return {.refusal = "File name not specified"};
     }
     if (directory.empty()) {
-        browser.set_left_footer("Directory name not specified");
-        return std::nullopt;
+        return {.refusal = "Directory name not specified"};
     }
-    return fmt::sprintf("%s/%s", directory, name);
+    return {.path = fmt::sprintf("%s/%s", directory, name)};
 }

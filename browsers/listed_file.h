@@ -1,9 +1,17 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <optional>
+#include "toolkit/notify.h"
+
 #include <string>
 
-/// The path of the file named in the "File List Browser". Nothing, and the browser's left footer says why,
-/// when its "File Name:" or "Directory:" is empty; else the footer is cleared.
-std::optional<std::string> listed_file();
+/// A path, or why there is none.
+struct ListedFile {
+    std::string path;
+    Message refusal;
+
+    explicit operator bool() const { return refusal.empty(); }
+};
+
+/// The file named in the "File List Browser", by its "File Name:" and "Directory:".
+ListedFile listed_file();

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "toolkit/notify.h"
+
 #include <string>
 
 // The notify procedures of browsers/, bound to controls by the windows, and to entries of menus made at run
 // time.
 
 // "File List Browser", "BM" menu.
-void SetBookmarkFileListDir(const std::string& path);
+Message SetBookmarkFileListDir(const std::string& path);

@@ -7,9 +7,8 @@
 #include "shell/editor.h"
 #include "shell/operands.h"
 #include "shell/process.h"
-#include "shell/quoting.h"
-#include "shell/send_line.h"
-#include "shell/shell.h"
+#include "shell/selected_text.h"
+#include "shell/send.h"
 #include "shell/status.h"
 #include "shell/text.h"
 #include "ui/bookmark_definition.h"
@@ -24,47 +23,27 @@
 
 namespace {
 
-/// A bookmark's path as a word for the user's shell; nothing, and the main window's left footer says why,
-/// where it cannot be one.
-std::optional<std::string> word_of(const std::string& path) {
-    main_window().set_left_footer("");
-    if (path.empty()) {
-        return std::nullopt;
-    }
-    const std::string meant = path_meant(path);
-    std::optional<std::string> word = shell_word(meant, user_shell);
-    if (!word) {
-        main_window().set_left_footer(name_refusal(meant));
-    }
-    return word;
-}
-
 /// What an executable's or a script's bookmark types: the file that it names, else its user's own command
 /// ("make -k all") as it stands.
-std::optional<std::string> command_of(const std::string& path) {
-    return access(path_meant(path).c_str(), F_OK) == 0 ? word_of(path) : path;
+CommandLine command_of(const std::string& path) {
+    const std::string meant = path_meant(path);
+    return access(meant.c_str(), F_OK) == 0 ? CommandLine().path(meant) : CommandLine::of_user(path);
 }
 
 /// Opens a path with the program that an environment variable names; its value may hold options.
-void open_with(const char* variable, const std::string& path) {
-    main_window().set_left_footer("");
+Message open_with(const char* variable, Words value, const std::string& path) {
     if (path.empty()) {
-        return;
+        return {};
     }
     const char* viewer = std::getenv(variable);
     if (viewer == nullptr || *viewer == '\0') {  // the shell would run the file itself
-        main_window().set_left_footer(fmt::format("Environment variable {} is not set", variable));
-        return;
+        return fmt::format("Environment variable {} is not set", variable);
     }
-    start_in_background(fmt::format("${} {}", variable, script_word(path_meant(path), ShellFamily::other)));
+    start_in_background(CommandLine(value).path(path_meant(path)));
+    return {};
 }
 
-/// "Cwd:"; empty, and the left footer says so, when it is.
-std::string current_directory() {
-    std::string directory = main_window().cwd.text();
-    main_window().set_left_footer(directory.empty() ? "Current directory not set" : "");
-    return directory;
-}
+const Message no_current_directory = "Current directory not set";
 
 void define_bookmark(std::string_view path, FileType type) {
     BookmarkDefinition& window = bookmark_definition();
@@ -78,10 +57,8 @@ void define_bookmark(std::string_view path, FileType type) {
 
 }  // namespace
 
-void SetBookmarkDir(const std::string& path) {
-    if (const std::optional<std::string> word = word_of(path)) {
-        (void)send_line(main_window(), fmt::format("cd {}", *word));
-    }
+Message SetBookmarkDir(const std::string& path) {
+    return path.empty() ? "" : send(CommandLine("cd").path(path_meant(path)));
 }
 
 void OpenBookmarkSource(const std::string& path) {
@@ -90,66 +67,61 @@ void OpenBookmarkSource(const std::string& path) {
     }
 }
 
-void RunBookmarkExec(const std::string& path) {
-    const std::optional<std::string> command = command_of(path);
-    if (command && !command->empty()) {
-        (void)send_line(main_window(), *command);
+Message RunBookmarkExec(const std::string& path) { return path.empty() ? "" : send(command_of(path)); }
+
+Message RunBookmarkScript(const std::string& path) {
+    if (path.empty()) {
+        return {};
     }
+    Message refusal = type(command_of(path));
+    SetupTimer(refresh_after_command);
+    main_window().termpane.set_focus();
+    return refusal;
 }
 
-void RunBookmarkScript(const std::string& path) {
-    const std::optional<std::string> command = command_of(path);
-    if (command && !command->empty()) {
-        main_window().set_left_footer(type_text(*command));
-        SetupTimer(refresh_after_command);
-        main_window().termpane.set_focus();
-    }
-}
+Message OpenBookmarkHTML(const std::string& path) { return open_with("OPENHTML", "$OPENHTML", path); }
 
-void OpenBookmarkHTML(const std::string& path) { open_with("OPENHTML", path); }
+Message OpenBookmarkPDF(const std::string& path) { return open_with("OPENPDF", "$OPENPDF", path); }
 
-void OpenBookmarkPDF(const std::string& path) { open_with("OPENPDF", path); }
-
-void OpenBookmarkOther(const std::string& path) {
-    main_window().set_left_footer("");
+Message OpenBookmarkOther(const std::string& path) {
     if (!path.empty()) {
         main_window().command.set_text(path);
         main_window().command.set_focus();
     }
+    return {};
 }
 
-void BaseWindowAddBookmark() {
-    const std::string directory = current_directory();
-    if (!directory.empty()) {
-        define_bookmark(directory, FT_DIRECTORY);
-    }
-}
-
-void BaseWindowBookmark() {
-    const std::string directory = current_directory();
+Message BaseWindowAddBookmark() {
+    const std::string directory = main_window().cwd.text();
     if (directory.empty()) {
-        return;
+        return no_current_directory;
+    }
+    define_bookmark(directory, FT_DIRECTORY);
+    return {};
+}
+
+Message BaseWindowBookmark() {
+    const std::string directory = main_window().cwd.text();
+    if (directory.empty()) {
+        return no_current_directory;
     }
     std::error_code unknown;
     if (!std::filesystem::exists(directory, unknown)) {
-        main_window().set_left_footer("Current directory not found");
-        return;
+        return "Current directory not found";
     }
-    constexpr std::string_view none = "No selection made or selection too long";
-    const std::optional<std::string> selected = selected_name(main_window(), none);
+    const SelectedText selected = selected_name(selection_for_button);
     if (!selected) {
-        return;
+        return selected.refusal;
     }
-    const std::string name = remove_leading_blanks(remove_trailing_spaces(*selected));
+    const std::string name = remove_leading_blanks(remove_trailing_spaces(selected.text));
     if (name.empty()) {
-        main_window().set_left_footer(none);
-        return;
+        return Message(selection_for_button.none);
     }
     const std::string path = fmt::sprintf("%s/%s", directory, name);
     const FileType type = GetFileType(path);
     if (type < 0) {
-        main_window().set_left_footer("Illegal file");
-    } else {
-        define_bookmark(path, type);
+        return "Illegal file";
     }
+    define_bookmark(path, type);
+    return {};
 }

@@ -9,7 +9,6 @@
 #include "shell/files.h"
 #include "shell/messages.h"
 #include "shell/operands.h"
-#include "shell/quoting.h"
 #include "ui/bookmark_definition.h"
 #include "ui/bookmarks.h"
 #include "ui/file_list_browser.h"
@@ -44,6 +43,8 @@ constexpr std::array<Submenu, bookmark_categories.size()> submenus{{
     {"Other", OpenBookmarkOther},
 }};
 
+const Message no_bookmark_file = "Couldn't open bookmarks file";
+
 using Entries = std::vector<MenuEntry>;
 
 Menu menu_of(std::string_view title, const Entries& entries, MenuNotify chosen) {
@@ -64,25 +65,25 @@ bool has_bookmark_file(const std::string& path) {
 }
 
 /// Why "Bookmark Definition" could not add the bookmark to a file; empty when it did.
-std::string addition_fault(const std::string& path, const BookmarkAddition& addition) {
+Message addition_fault(const std::string& path, const BookmarkAddition& addition) {
     switch (addition.result) {
         case 0:
             return addition.error == ENOENT
-                       ? std::string(bookmarks_load.unreadable)
+                       ? Message(bookmarks_load.unreadable)
                        : fmt::format("Could not save {}: {}", path, std::strerror(addition.error));
         case 2:
             return "Can't store more bookmarks";
         case 3:
             return "Bookmark already exists";
         default:
-            return std::string(load_message(bookmarks_load, addition.result));
+            return load_message(bookmarks_load, addition.result);
     }
 }
 
-/// Makes the menus anew; the frame's left footer tells that it is done, or why not.
-void rebuild_menus(Frame& frame, const std::string& path, std::string_view done) {
-    const std::string_view fault = load_message(bookmarks_load, SetupBookmarksMenu(path));
-    frame.set_left_footer(fault.empty() ? done : fault);
+/// Makes the menus anew; returns `done`, or why not.
+Message rebuild_menus(const std::string& path, std::string_view done) {
+    Message fault = load_message(bookmarks_load, SetupBookmarksMenu(path));
+    return fault.empty() ? Message(done) : fault;
 }
 
 /// Why "Bookmark Definition" makes no bookmark; empty when it does.
@@ -153,51 +154,34 @@ void load_bookmarks_at_startup() {
     report_load(bookmarks_load, SetupBookmarksMenu(bookmark_path()));
 }
 
-void BookmarksUpdate() {
-    Bookmarks& window = bookmarks();
-    window.set_left_footer("");
+Message BookmarksUpdate() {
     const std::string path = bookmark_path();
-    if (has_bookmark_file(path)) {
-        rebuild_menus(window, path, "Bookmark menu updated");
-    } else {
-        window.set_left_footer("Couldn't open bookmarks file");
-    }
+    return has_bookmark_file(path) ? rebuild_menus(path, "Bookmark menu updated") : no_bookmark_file;
 }
 
-void BookmarkFIleEdit() {
-    Bookmarks& window = bookmarks();
-    window.set_left_footer("");
+Message BookmarkFIleEdit() {
     const std::string path = bookmark_path();
     std::error_code unknown;
-    if (!editor_command(script_word(path, ShellFamily::other))) {
-        window.set_left_footer("User editor not specified");
-    } else if (!std::filesystem::exists(path, unknown)) {
-        window.set_left_footer("Bookmarks file doesn't exists");
-    } else {
-        edit_file(window, path);
+    if (!editor_line(path)) {
+        return no_editor;
     }
+    return std::filesystem::exists(path, unknown) ? edit_file(path) : "Bookmarks file doesn't exists";
 }
 
-void BookmarkDefinitionAddBookmark() {
-    BookmarkDefinition& window = bookmark_definition();
+Message BookmarkDefinitionAddBookmark() {
+    const BookmarkDefinition& window = bookmark_definition();
     const Bookmark bookmark{static_cast<std::size_t>(window.file_type.value()), window.bookmark_name.text(),
                             window.bookmarked_file.text()};
     const std::string_view refusal = definition_refusal(bookmark);
-    window.set_left_footer(refusal);
     if (!refusal.empty()) {
-        return;
+        return Message(refusal);
     }
     const std::string path = bookmark_path();
     if (!has_bookmark_file(path)) {
-        window.set_left_footer("Couldn't open bookmarks file");
-        return;
+        return no_bookmark_file;
     }
-    const std::string fault = addition_fault(path, AddNewBookmark(path, bookmark));
-    if (fault.empty()) {
-        rebuild_menus(window, path, "Bookmark added to bookmark menu");
-    } else {
-        window.set_left_footer(fault);
-    }
+    Message fault = addition_fault(path, AddNewBookmark(path, bookmark));
+    return fault.empty() ? rebuild_menus(path, "Bookmark added to bookmark menu") : fault;
 }
 
 // Return accepts what the fields hold already; the buttons read it there.

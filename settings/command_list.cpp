@@ -13,8 +13,8 @@
 #include "shell/messages.h"
 #include "shell/operands.h"
 #include "shell/process.h"
-#include "shell/send_line.h"
-#include "shell/shell.h"
+#include "shell/selected_text.h"
+#include "shell/send.h"
 #include "ui/command_list_manager.h"
 #include "ui/command_list_setup.h"
 #include "ui/file_list_browser.h"
@@ -32,11 +32,6 @@ namespace {
 constexpr std::size_t most_bytes = std::size_t{8} * 1024 * 1024;
 constexpr int list_margin = 40;  ///< pixels, of a list that does not follow its window's size
 
-CommandListManager& cleared_manager() {
-    command_list_manager().set_left_footer("");
-    return command_list_manager();
-}
-
 /// Loads a list and remembers its file; the result of `load_list`.
 int load_command_list(const std::string& path) {
     const int result = load_list(command_list_manager().list, path);
@@ -46,19 +41,14 @@ int load_command_list(const std::string& path) {
     return result;
 }
 
-/// The loaded file; nothing, and the footer says why, when there is none.
-std::optional<std::string> loaded_file(CommandListManager& manager) {
-    std::string path = command_list_setup().commands_file_loaded.text();
+/// Why the loaded file cannot be read again; empty when it can.
+Message loaded_file_refusal() {
+    const std::string path = command_list_setup().commands_file_loaded.text();
     std::error_code unknown;
     if (path.empty()) {
-        manager.set_left_footer("No commands file loaded");
-        return std::nullopt;
+        return "No commands file loaded";
     }
-    if (!std::filesystem::exists(path, unknown)) {
-        manager.set_left_footer("Commands file not found");
-        return std::nullopt;
-    }
-    return path;
+    return std::filesystem::exists(path, unknown) ? "" : "Commands file not found";
 }
 
 std::string file_in_list_browser() {
@@ -67,27 +57,35 @@ std::string file_in_list_browser() {
     return directory.empty() || name.empty() ? name : fmt::sprintf("%s/%s", directory, name);
 }
 
-/// The command that a row makes; nothing, and the footer says why, when one of its placeholders cannot be
-/// filled. The selection and "Text:" stand there as they are, names so that the shell takes them for names.
-std::optional<std::string> command_of(CommandListManager& manager, const std::string& row) {
-    std::optional<std::string> selection;
-    const auto selected = [&](std::string_view) {
+/// A command, or why one of its placeholders cannot be filled.
+struct RowCommand {
+    std::string text;
+    Message refusal;
+};
+
+/// The command that a row makes. The selection and "Text:" stand there as they are, names so that the shell
+/// takes them for names.
+RowCommand command_of(const std::string& row) {
+    RowCommand command;
+    std::optional<SelectedText> selection;
+    const auto selected = [&](std::string_view) -> std::optional<std::string> {
         if (!selection) {
-            selection = selected_line(manager, "Selection too long or no selection made");
+            selection = selected_text({.none = "Selection too long or no selection made"});
         }
-        return selection;
+        command.refusal = selection->refusal;
+        return *selection ? std::optional(selection->text) : std::nullopt;
     };
-    const auto name = [&manager](std::string_view mark, auto source) {
-        const auto word_behind = [&manager, mark,
+    const auto name = [&command](std::string_view mark, auto source) {
+        const auto word_behind = [&command, mark,
                                   source](std::string_view before) -> std::optional<std::string> {
             const std::string value = source();
             if (value.empty()) {
-                manager.set_left_footer(nothing_to_put(mark));
+                command.refusal = nothing_to_put(mark);
                 return std::nullopt;
             }
             std::optional<std::string> word = operand_behind(before, value, user_shell);
             if (!word) {
-                manager.set_left_footer(name_refusal(value));
+                command.refusal = name_refusal(value);
             }
             return word;
         };
@@ -95,14 +93,15 @@ std::optional<std::string> command_of(CommandListManager& manager, const std::st
     };
     const std::array placeholders{
         Placeholder{"$$$", selected},
-        Placeholder{"%%%", [&](std::string_view) { return manager.text.text(); }},
+        Placeholder{"%%%", [](std::string_view) { return command_list_manager().text.text(); }},
         name("###", [] { return file_list_browser().file_name.text(); }),
         name("@@@", [] { return main_window().cwd.text(); }),
         name("&&&", file_in_list_browser),
         name("???", selected_tree_name),
     };
     constexpr int most_of_a_kind = 2;
-    return fill_template(without_comment(row), placeholders, most_of_a_kind);
+    command.text = fill_template(without_comment(row), placeholders, most_of_a_kind).value_or(std::string());
+    return command;
 }
 
 /// Whether the menu could be made; the button has none otherwise.
@@ -138,63 +137,61 @@ void size_command_list() {
     CommandListFollowWindow();
 }
 
-void BaseWindowCommandMenu() {
-    main_window().set_left_footer(make_command_menu() ? "" : "Illegal commands directory");
-}
+Message BaseWindowCommandMenu() { return make_command_menu() ? "" : "Illegal commands directory"; }
 
-void my_action_proc2(const std::string& path) {
+Message my_action_proc2(const std::string& path) {
     std::error_code unknown;
     if (path.empty() || std::filesystem::is_directory(path, unknown)) {
-        return;
+        return {};
     }
-    main_window().set_left_footer(load_message(commands_menu_load, load_command_list(path)));
+    return load_message(commands_menu_load, load_command_list(path));
 }
 
 void BaseWindowCommandList() { command_list_manager().open(); }
 
-void Edit_commands_file() {
-    CommandListManager& manager = cleared_manager();
-    if (const std::optional<std::string> path = loaded_file(manager)) {
-        edit_file(manager, *path);
-    }
+Message Edit_commands_file() {
+    Message refusal = loaded_file_refusal();
+    return refusal.empty() ? edit_file(command_list_setup().commands_file_loaded.text()) : refusal;
 }
 
-void Update_commands_list() {
-    CommandListManager& manager = cleared_manager();
-    const std::optional<std::string> path = loaded_file(manager);
-    if (!path) {
-        return;
+Message Update_commands_list() {
+    Message refusal = loaded_file_refusal();
+    if (!refusal.empty()) {
+        return refusal;
     }
-    manager.set_left_footer(load_message(commands_load, load_list(manager.list, *path)));
+    return load_message(commands_load, load_list(command_list_manager().list,
+                                                 command_list_setup().commands_file_loaded.text()));
 }
 
-void Command_scrolling_list(const ListEvent& event) {
-    CommandListManager& manager = cleared_manager();
-    const bool send = doubleclick(event) || event.kind == ListEvent::Kind::activate;
-    const std::string row = manager.list.row(event.row);
-    const std::optional<std::string> command = command_of(manager, row);
-    if (!command) {
-        return;
+Message Command_scrolling_list(const ListEvent& event) {
+    const bool sends = doubleclick(event) || event.kind == ListEvent::Kind::activate;
+    const std::string row = command_list_manager().list.row(event.row);
+    RowCommand command = command_of(row);
+    if (!command.refusal.empty()) {
+        return command.refusal;
     }
-    main_window().command.set_text(*command);
-    if (!send) {
-        return;
+    main_window().command.set_text(command.text);
+    if (!sends) {
+        return {};
     }
     if (row.empty()) {
-        manager.set_left_footer("No command specified");
-    } else if (send_line(manager, *command)) {
+        return "No command specified";
+    }
+    Message refusal = send(CommandLine::of_user(command.text));
+    if (refusal.empty()) {
         main_window().command.set_text("");
     }
+    return refusal;
 }
 
-void FileListLoadCommand() {
-    const std::optional<std::string> path = listed_file();
-    if (!path) {
-        return;
+Message FileListLoadCommand() {
+    const ListedFile file = listed_file();
+    if (!file) {
+        return file.refusal;
     }
-    const int result = load_command_list(*path);
-    file_list_browser().set_left_footer(result == 1 ? fmt::format("Commands loaded from {}", *path)
-                                                    : std::string(load_message(commands_load, result)));
+    const int result = load_command_list(file.path);
+    return result == 1 ? fmt::format("Commands loaded from {}", file.path)
+                       : load_message(commands_load, result);
 }
 
 void CommandListFollowWindow() {

@@ -17,13 +17,11 @@
 
 namespace {
 
-/// Fills a submenu of "Edit" with a directory; the main window's left footer tells why not.
-void fill(PullRight& item, const std::string& directory, std::string_view illegal) {
+/// Fills a submenu of "Edit" with a directory, or returns why not.
+Message fill(PullRight& item, const std::string& directory, std::string_view illegal) {
     const int result =
         add_path_to_menu(item.menu(), directory, edit_menu_setup().hide.value(), MenuFooter::counts);
-    if (result != 1) {
-        main_window().set_left_footer(result < 0 ? "Too many files" : illegal);
-    }
+    return Message(result == 1 ? "" : result < 0 ? "Too many files" : illegal);
 }
 
 /// "Home" and "Startup" may keep what they have shown first.
@@ -33,17 +31,12 @@ bool keeps_first(PullRight& item) {
 }
 
 /// Both show the home directory; "Startup" only where there is a start-up directory. So it has always been.
-void fill_once_or_always(PullRight& item, const std::string& needed, std::string_view not_defined,
-                         std::string_view illegal) {
-    main_window().set_left_footer("");
+Message fill_once_or_always(PullRight& item, const std::string& needed, std::string_view not_defined,
+                            std::string_view illegal) {
     if (keeps_first(item)) {
-        return;
+        return {};
     }
-    if (needed.empty()) {
-        main_window().set_left_footer(not_defined);
-    } else {
-        fill(item, home_dir, illegal);
-    }
+    return needed.empty() ? Message(not_defined) : fill(item, home_dir, illegal);
 }
 
 }  // namespace
@@ -60,7 +53,7 @@ int add_path_to_menu(Menu& menu, const std::string& path, unsigned hide, MenuFoo
         entries.push_back({fmt::sprintf("Total number of files  %d", directory.total), ""});
         entries.push_back({fmt::sprintf("Files displayed            %d", directory.entries.size()), ""});
     }
-    menu.set_entries(entries, counts ? my_action_proc : my_action_proc2);
+    menu.set_entries(entries, counts ? MenuNotify(my_action_proc) : MenuNotify(my_action_proc2));
     switch (directory.outcome) {
         case DirectoryMenu::Outcome::read:
             return 1;
@@ -72,24 +65,20 @@ int add_path_to_menu(Menu& menu, const std::string& path, unsigned hide, MenuFoo
     return 0;
 }
 
-void EditMenuCurrent() {
-    main_window().set_left_footer("");
+Message EditMenuCurrent() {
     const std::string directory = path_meant(main_window().cwd.text());
-    if (directory.empty()) {
-        main_window().set_left_footer("Current directory not defined");
-    } else {
-        fill(main_window().edit_current, directory, "Illegal current directory");
-    }
+    return directory.empty() ? "Current directory not defined"
+                             : fill(main_window().edit_current, directory, "Illegal current directory");
 }
 
-void Edit_menu_home() {
-    fill_once_or_always(main_window().edit_home, home_dir, "Home directory not defined",
-                        "Illegal home directory");
+Message Edit_menu_home() {
+    return fill_once_or_always(main_window().edit_home, home_dir, "Home directory not defined",
+                               "Illegal home directory");
 }
 
-void Edit_menu_startup() {
-    fill_once_or_always(main_window().edit_startup, startup_dir, "Startup directory not defined",
-                        "Illegal startup directory");
+Message Edit_menu_startup() {
+    return fill_once_or_always(main_window().edit_startup, startup_dir, "Startup directory not defined",
+                               "Illegal startup directory");
 }
 
 void my_action_proc(const std::string& path) {

@@ -7,7 +7,7 @@
 #include "shell/files.h"
 #include "shell/messages.h"
 #include "shell/process.h"
-#include "shell/send_line.h"
+#include "shell/send.h"
 #include "shell/text.h"
 #include "ui/command_history_manager.h"
 #include "ui/command_history_setup.h"
@@ -84,26 +84,26 @@ struct Direction {
     bool rings_for_button;
 };
 
-void walk(const Direction& direction, HistoryWalker walker) {
+Message walk(const Direction& direction, HistoryWalker walker) {
     CommandHistoryManager& manager = command_history_manager();
     const int rows = manager.list.rows();
+    if (rows == 0) {
+        return "History list is empty";
+    }
     // "Position" may hold any number: from outside the list the walk enters it at that end.
     const int row = std::clamp(manager.position.value(), -1, rows) + direction.step;
-    main_window().set_left_footer("");
-    if (rows == 0) {
-        main_window().set_left_footer("History list is empty");
-    } else if (row < 0 || row >= rows) {
-        main_window().set_left_footer(direction.at_end);
+    if (row < 0 || row >= rows) {
         if (walker == HistoryWalker::key || direction.rings_for_button) {
             main_window().termpane.ring_bell();
         }
-    } else {
-        manager.position.set_value(row);
-        main_window().command.set_text(manager.list.row(row));
-        if (walker == HistoryWalker::button) {
-            manager.list.select(row);
-        }
+        return Message(direction.at_end);
     }
+    manager.position.set_value(row);
+    main_window().command.set_text(manager.list.row(row));
+    if (walker == HistoryWalker::button) {
+        manager.list.select(row);
+    }
+    return {};
 }
 
 /// Whether the menu could be made; the history button has none otherwise.
@@ -208,36 +208,34 @@ std::string save_history_at_quit() {
     return is_replaceable(path) ? save_failure(history(), path) : not_replaced(path);
 }
 
-void history_previous(HistoryWalker walker) {
-    walk({.step = -1, .at_end = "At the top of history list", .rings_for_button = true}, walker);
+Message history_previous(HistoryWalker walker) {
+    return walk({.step = -1, .at_end = "At the top of history list", .rings_for_button = true}, walker);
 }
 
-void history_next(HistoryWalker walker) {
-    walk({.step = 1, .at_end = "At the bottom of history list", .rings_for_button = false}, walker);
+Message history_next(HistoryWalker walker) {
+    return walk({.step = 1, .at_end = "At the bottom of history list", .rings_for_button = false}, walker);
 }
 
-void Bottom_buttons_menu() {
-    main_window().set_left_footer("");
+Message Bottom_buttons_menu() {
     const int entries = command_history_setup().number_of_entries.value();
     if (entries < 1) {
         main_window().history_menu.menu().set_entries({}, my_action_proc3);
-    } else if (!make_history_menu(entries)) {
-        main_window().set_left_footer("Couldn't generate history menu");
+        return {};
     }
+    return make_history_menu(entries) ? "" : "Couldn't generate history menu";
 }
 
-void my_action_proc3(const std::string& item) {
+Message my_action_proc3(const std::string& item) {
     if (item.empty()) {
-        return;
+        return {};
     }
     const int action = command_history_setup().menu_action.value();
-    if (action != move_to_command_line) {
-        (void)send_line(main_window(), item);
-    }
+    Message refusal = action == move_to_command_line ? Message() : send(CommandLine::of_user(item));
     if (action != execute) {
         main_window().command.set_text(item);
         main_window().command.set_focus();  // there it is edited and run
     }
+    return refusal;
 }
 
 void CommandHistorySetupInsertDup() {

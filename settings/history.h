@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "toolkit/notify.h"
+
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -45,7 +47,7 @@ void make_history_menu_at_startup();
 enum class HistoryWalker : std::uint8_t { key, button };
 
 /// Goes to the command before or behind "Position" and puts it into the main window's "Command:"; a button
-/// selects its row too. At an end of the list the main window's left footer says so and nothing else changes;
+/// selects its row too. Returns why not: at an end of the list nothing changes but that
 /// the bell rings there, but not for a button at the bottom.
-void history_previous(HistoryWalker walker = HistoryWalker::key);
-void history_next(HistoryWalker walker = HistoryWalker::key);
+Message history_previous(HistoryWalker walker = HistoryWalker::key);
+Message history_next(HistoryWalker walker = HistoryWalker::key);

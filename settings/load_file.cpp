@@ -52,21 +52,21 @@ LoadedFile load_file(const std::string& path, std::size_t limit, WhenDoubtful wh
     return {.text = std::move(contents.text), .error = contents.error};
 }
 
-std::string_view load_message(const LoadTexts& texts, int result) {
+Message load_message(const LoadTexts& texts, int result) {
     switch (result) {
         case -1:
-            return texts.wrong_header;
+            return Message(texts.wrong_header);
         case 0:
-            return texts.unreadable;
+            return Message(texts.unreadable);
         case 2:
-            return texts.bad_line;
+            return Message(texts.bad_line);
         default:
             return {};
     }
 }
 
 void report_load(const LoadTexts& texts, int result) {
-    if (const std::string_view message = load_message(texts, result); !message.empty()) {
+    if (const Message message = load_message(texts, result); !message.empty()) {
         report(fmt::format("{}\n", message));
     }
     if (result == -1 && !texts.header_hint.empty()) {

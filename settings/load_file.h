@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "toolkit/notify.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -43,6 +45,6 @@ inline constexpr LoadTexts commands_menu_load{"Couldn't open commands file for r
                                               "Illegal format of commands file"};
 
 /// The text for a loader's result; empty for 1.
-std::string_view load_message(const LoadTexts& texts, int result);
+Message load_message(const LoadTexts& texts, int result);
 /// Puts it on the Message Board, with the hint.
 void report_load(const LoadTexts& texts, int result);

@@ -8,8 +8,6 @@
 #include "shell/files.h"
 #include "shell/messages.h"
 #include "shell/process.h"
-#include "ui/file_list_browser.h"
-#include "ui/main_window.h"
 
 #include <cstring>
 #include <filesystem>
@@ -70,19 +68,16 @@ int load_setup_at_startup() {
 
 std::string loaded_setup_file() { return loaded_file; }
 
-void Save_current_setup() {
+Message Save_current_setup() {
     const std::string path = startup_setup_file();
-    const bool saved = save_setup(path) == 1;
-    main_window().set_left_footer(saved ? fmt::format("Setup saved to {}", path)
-                                        : "Could not save Orvik.setup");
+    return save_setup(path) == 1 ? fmt::format("Setup saved to {}", path) : "Could not save Orvik.setup";
 }
 
-void FileListLoadSetup() {
-    const std::optional<std::string> path = listed_file();
-    if (!path) {
-        return;
+Message FileListLoadSetup() {
+    const ListedFile file = listed_file();
+    if (!file) {
+        return file.refusal;
     }
-    const int result = load_setup(*path);
-    file_list_browser().set_left_footer(result == 1 ? fmt::format("Setup loaded from {}", *path)
-                                                    : std::string(load_message(setup_load, result)));
+    const int result = load_setup(file.path);
+    return result == 1 ? fmt::format("Setup loaded from {}", file.path) : load_message(setup_load, result);
 }

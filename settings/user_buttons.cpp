@@ -5,8 +5,8 @@
 #include "shell/fill_template.h"
 #include "shell/operands.h"
 #include "shell/process.h"
-#include "shell/send_line.h"
-#include "shell/shell.h"
+#include "shell/selected_text.h"
+#include "shell/send.h"
 #include "shell/text.h"
 #include "ui/function_keys.h"
 #include "ui/main_window.h"
@@ -50,8 +50,8 @@ void show_command(const UserButton& user) {
         .set_tool_tip(command.empty() ? "No command yet: define it in \"User Buttons\"" : command);
 }
 
-void press(const UserButton& user) {
-    send_user_command((user_buttons().*user.command).text(), "Button command not defined");
+Message press(const UserButton& user) {
+    return send_user_command((user_buttons().*user.command).text(), "Button command not defined");
 }
 
 /// A command with its placeholder filled, and why it must not be typed.
@@ -64,10 +64,13 @@ struct FilledCommand {
 FilledCommand fill(const std::string& command) {
     FilledCommand filled;
     const auto selection = [&filled] {
-        SelectionLine line = selection_line();
-        filled.refusal = line.refusal;
-        filled.missing = line.text.empty() ? "No selection made" : "";
-        return std::move(line.text);
+        SelectedText selected = selected_text();
+        if (selected.text.empty()) {
+            filled.missing = SelectionMessages{}.none;
+        } else {
+            filled.refusal = selected.refusal;
+        }
+        return std::move(selected.text);
     };
     const auto tree_name = [&] {
         const std::string name = selected_tree_name();
@@ -90,18 +93,12 @@ FilledCommand fill(const std::string& command) {
 
 }  // namespace
 
-void send_user_command(const std::string& command, std::string_view empty_message) {
-    main_window().set_left_footer("");
+Message send_user_command(const std::string& command, std::string_view empty_message) {
     if (command.empty()) {
-        main_window().set_left_footer(empty_message);
-        return;
+        return Message(empty_message);
     }
     const FilledCommand filled = fill(command);
-    if (filled.refusal.empty()) {
-        (void)send_line(main_window(), filled.text);
-    } else {
-        main_window().set_left_footer(filled.refusal);
-    }
+    return filled.refusal.empty() ? send(CommandLine::of_user(filled.text)) : filled.refusal;
 }
 
 void set_up_user_buttons_at_startup() {
@@ -126,12 +123,12 @@ void UserButtonsUpdate() {
 
 void UserButtonsFunctionKeys() { function_keys().open(); }
 
-void UserButton1() { press(user_button_table[0]); }
-void UserButton2() { press(user_button_table[1]); }
-void UserButton3() { press(user_button_table[2]); }
-void UserButton4() { press(user_button_table[3]); }
-void UserButton5() { press(user_button_table[4]); }
-void UserButton6() { press(user_button_table[5]); }
+Message UserButton1() { return press(user_button_table[0]); }
+Message UserButton2() { return press(user_button_table[1]); }
+Message UserButton3() { return press(user_button_table[2]); }
+Message UserButton4() { return press(user_button_table[3]); }
+Message UserButton5() { return press(user_button_table[4]); }
+Message UserButton6() { return press(user_button_table[5]); }
 
 void UserButtonsLabel1() { apply_label(user_button_table[0]); }
 void UserButtonsLabel2() { apply_label(user_button_table[1]); }

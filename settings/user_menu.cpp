@@ -6,7 +6,7 @@
 #include "settings/user_menu_format.h"
 #include "shell/editor.h"
 #include "shell/process.h"
-#include "shell/send_line.h"
+#include "shell/send.h"
 #include "ui/main_window.h"
 
 #include <utility>
@@ -42,17 +42,12 @@ int menu_setup(MenuButton& button, const std::string& path) {
 
 void load_user_menu_at_startup() { report_load(menu_load, menu_setup(main_window().user_menu, menu_path())); }
 
-void Generate_new_menu() {
-    main_window().set_left_footer(load_message(menu_load, menu_setup(main_window().user_menu, menu_path())));
+Message Generate_new_menu() {
+    return load_message(menu_load, menu_setup(main_window().user_menu, menu_path()));
 }
 
-void Edit_user_menu() {
-    main_window().set_left_footer("");
-    edit_file(main_window(), menu_path());
-}
+Message Edit_user_menu() { return edit_file(menu_path()); }
 
-void notify_user_defined(const std::string& command) {
-    if (!command.empty()) {
-        (void)send_line(main_window(), command);
-    }
+Message notify_user_defined(const std::string& command) {
+    return command.empty() ? "" : send(CommandLine::of_user(command));
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/background.h"
 
+#include "shell/command_line.h"
 #include "shell/messages.h"
 #include "terminal/child_process.h"
 #include "terminal/descriptor.h"
@@ -87,15 +88,22 @@ int start_detached_shell(const std::string& command_line) {
     return await_failure(failure.get());
 }
 
-void run_in_background(const std::string& command) {
-    report(fmt::format("{} &\n", command));
-    start_in_background(command);
-}
+namespace {
 
-void start_in_background(const std::string& command) {
-    // The "&" is ours: with sh's own the command would ignore interrupts (POSIX, shell language, 2.11), and
-    // of several commands in the line only the last would be in the background.
+/// The "&" is ours: with sh's own the command would ignore interrupts (POSIX, shell language, 2.11), and of
+/// several commands in the line only the last would be in the background.
+void start(const std::string& command) {
     if (const int error = start_detached_shell(command); error != 0) {
         report(fmt::format("No shell could be started for it: {}\n", std::strerror(error)));
     }
 }
+
+}  // namespace
+
+void run_in_background(const CommandLine& line) {
+    const std::string command = line.read_by(ShellFamily::other).text;
+    report(fmt::format("{} &\n", command));
+    start(command);
+}
+
+void start_in_background(const CommandLine& line) { start(line.read_by(ShellFamily::other).text); }

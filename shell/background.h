@@ -3,14 +3,16 @@
 
 #include <string>
 
+class CommandLine;
+
 // Programs that run beside the tool and are not tied to its life.
 
-/// Starts a command line, written for sh, in the background: the line with " &" is shown on the Message
-/// Board, and so is why no shell could be started for it. What becomes of the command is not watched.
-void run_in_background(const std::string& command);
+/// Gives a line to sh in the background: the line with " &" is shown on the Message Board, and so is why no
+/// shell could be started for it. What becomes of the command is not watched.
+void run_in_background(const CommandLine& line);
 
 /// The same without showing the line.
-void start_in_background(const std::string& command);
+void start_in_background(const CommandLine& line);
 
 /// Starts the system's shell on a command line and returns at once: 0, or the error number (errno) of what
 /// failed. The shell has a session of its own and this process for no parent, so it outlives the tool, gets

@@ -4,13 +4,10 @@
 #include "shell/messages.h"
 #include "shell/notify.h"
 #include "shell/process.h"
-#include "shell/shell.h"
 #include "shell/status_file.h"
 #include "shell/text.h"
 #include "toolkit/timer.h"
-#include "ui/clearcase_setup.h"
 #include "ui/default_settings.h"
-#include "ui/environment_setup.h"
 #include "ui/main_window.h"
 #include "ui/process_information.h"
 #include "ui/status_display.h"
@@ -23,8 +20,6 @@
 #include <unistd.h>
 
 namespace {
-
-constexpr int display_on = 0;
 
 /// The refresh: its interval stays zero, so that it fires once.
 itimerval wtimer{};
@@ -46,7 +41,7 @@ void begin_status_display() {
 }
 
 void SetupTimer(int milliseconds) {
-    if (status_display().display.value() != display_on) {
+    if (status_display().display.value() != StatusDisplay::display_on) {
         return;
     }
     wtimer.it_value = {.tv_sec = 0, .tv_usec = suseconds_t{milliseconds} * 1000};
@@ -65,22 +60,6 @@ void DisplayStatusTimer() {
         status_line(status, status_display().enable.value(), process_information().process_id.value()));
 }
 
-std::vector<PromptHook> type_prompt_hooks() {
-    std::vector<PromptHook> typed;
-    for (PromptHook& hook : prompt_hooks(
-             shell_name, user_shell,
-             clearcase_setup().enable_clearcase_usage.value() ? ClearCaseUsage::on : ClearCaseUsage::off,
-             status_display().status_file.text())) {
-        environment_setup().precmd.set_text(hook.text);
-        environment_setup().precmd.show_beginning();
-        if (status_display().display.value() == display_on && type_or_report(hook.text)) {
-            SetupTimer(refresh_after_login);
-            typed.push_back(std::move(hook));
-        }
-    }
-    return typed;
-}
-
 void end_status_display() {
     notify_set_itimer_func(main_window(), nullptr, wtimer);
     const std::string path = status_display().status_file.text();
@@ -89,17 +68,7 @@ void end_status_display() {
     }
 }
 
-void BaseWindowSetAlias() {
-    main_window().set_left_footer("");
-    if (status_display().status_file.text().empty()) {
-        main_window().set_left_footer("Orvik status file not defined");
-        return;
-    }
-    SetupTimer(refresh_after_command);
-    (void)type_prompt_hooks();
-    SetupTimer(refresh_after_command);
-}
-
 void StatusDisplayEnable() { SetupTimer(100); }
 
-void StatusDisplayOnOff() { status_display().set_left_footer(""); }
+/// Nothing to do: whoever shows the status asks the choice.
+Message StatusDisplayOnOff() { return {}; }

@@ -1,10 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "shell/prompt_hook.h"
-
-#include <vector>
-
 inline constexpr int refresh_after_command = 500;  ///< milliseconds
 inline constexpr int refresh_after_login = 999;
 
@@ -18,10 +14,6 @@ void SetupTimer(int milliseconds);
 /// The timer's procedure: reads the status file that the shell's prompt hook writes and shows the shell's
 /// directory, prompt and the status line. Without a readable file nothing changes.
 void DisplayStatusTimer();
-
-/// Shows the prompt hooks of the user's shell in "Precmd:" and, while "Display" of "Status Display" is On,
-/// types them. Returns those that were typed.
-std::vector<PromptHook> type_prompt_hooks();
 
 /// Ends the status machinery: the timer and the status file.
 void end_status_display();

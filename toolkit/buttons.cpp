@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "toolkit/buttons.h"
 
+#include "toolkit/answer.h"
 #include "toolkit/button_picture.h"
 #include "toolkit/text_conversion.h"
 
@@ -36,7 +37,8 @@ Button::Button(Container& parent, Label label, Notify notify)
     widget_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     widget_->setAutoDefault(false);
     parent.add({}, widget_, Place::line);
-    QObject::connect(widget_, &QPushButton::clicked, widget_, [notify] { notify(); });
+    QObject::connect(widget_, &QPushButton::clicked, widget_,
+                     [widget = widget_, notify] { notify_from(widget, notify); });
 }
 
 void Button::set_default() { widget_->setDefault(true); }
@@ -64,7 +66,8 @@ ImageButton::ImageButton(Container& parent, std::string_view accessible_name, st
     button->setIconSize({picture_size, picture_size});
     button->setFocusPolicy(Qt::TabFocus);  // a click leaves the keyboard where it is
     parent.add({}, button, Place::line);
-    QObject::connect(button, &QToolButton::clicked, button, [notify] { notify(); });
+    QObject::connect(button, &QToolButton::clicked, button,
+                     [button, notify] { notify_from(button, notify); });
 }
 
 ImageButton::ImageButton(Container& parent, std::string_view accessible_name, Notify notify)

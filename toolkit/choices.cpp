@@ -2,6 +2,7 @@
 #include "toolkit/choices.h"
 
 #include "toolkit/accessible_role.h"
+#include "toolkit/answer.h"
 #include "toolkit/text_conversion.h"
 
 #include <QAbstractButton>
@@ -41,13 +42,13 @@ QButtonGroup* make_items(Container& parent, Label label, std::initializer_list<s
     }
     layout->setColumnStretch(columns, 1);
     parent.add(label.text, group, Place::line);
-    if (notify != nullptr) {
+    if (notify) {
         // Not only clicks: assistive programs toggle. Of two toggles in an exclusive group the one that
         // checks counts.
         QObject::connect(buttons, &QButtonGroup::idToggled, group,
-                         [notify, exclusive](int /*id*/, bool checked) {
+                         [group, notify, exclusive](int /*id*/, bool checked) {
                              if (checked || exclusive == Exclusive::no) {
-                                 notify();
+                                 notify_from(group, notify);
                              }
                          });
     }

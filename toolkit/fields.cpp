@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "toolkit/fields.h"
 
+#include "toolkit/answer.h"
 #include "toolkit/return_key.h"
 #include "toolkit/text_conversion.h"
 
@@ -23,9 +24,9 @@ class LineEdit : public QLineEdit {
   protected:
     void keyPressEvent(QKeyEvent* event) override {
         QLineEdit::keyPressEvent(event);
-        if (is_return(*event) && notify_ != nullptr) {
+        if (is_return(*event) && notify_) {
             event->accept();
-            notify_();
+            notify_from(this, notify_);
         }
     }
 
@@ -41,17 +42,15 @@ class SpinBox : public QSpinBox {
 
     void stepBy(int steps) override {
         QSpinBox::stepBy(steps);
-        if (notify_ != nullptr) {
-            notify_();
-        }
+        notify_from(this, notify_);
     }
 
   protected:
     void keyPressEvent(QKeyEvent* event) override {
         QSpinBox::keyPressEvent(event);
-        if (is_return(*event) && notify_ != nullptr) {
+        if (is_return(*event) && notify_) {
             event->accept();
-            notify_();
+            notify_from(this, notify_);
         }
     }
 

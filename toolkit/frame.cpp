@@ -2,6 +2,7 @@
 #include "toolkit/frame.h"
 
 #include "toolkit/accessible_role.h"
+#include "toolkit/answer.h"
 #include "toolkit/footer.h"
 #include "toolkit/return_key.h"
 #include "toolkit/text_conversion.h"
@@ -56,7 +57,7 @@ class FrameWidget : public QWidget {
     QVBoxLayout* areas = nullptr;
     Footer* left_footer = nullptr;
     Footer* right_footer = nullptr;
-    Notify close_notify = nullptr;
+    void (*close_notify)() = nullptr;
     bool iconified_at_first = false;
 
     /// Gives the first control the keyboard.
@@ -213,7 +214,7 @@ void Frame::place_beside_base(int right, int down) {
                     moved_inside(wanted.y(), size.height(), room.top(), room.bottom())});
 }
 
-void Frame::on_close(Notify notify) { widget_->close_notify = notify; }
+void Frame::on_close(void (*notify)()) { widget_->close_notify = notify; }
 
 void Frame::add(std::string_view /*label*/, QWidget* area, Place /*place*/) {
     widget_->areas->addWidget(area);
@@ -223,6 +224,20 @@ void Frame::add(std::string_view /*label*/, QWidget* area, Place /*place*/) {
 }
 
 QWidget* Frame::widget() const { return widget_; }
+
+AnswerFooter::AnswerFooter(const QWidget* control) {
+    QWidget* widget = control->parentWidget();
+    while (widget != nullptr && dynamic_cast<FrameWidget*>(widget) == nullptr) {
+        widget = widget->parentWidget();
+    }
+    frame_ = widget;
+}
+
+void AnswerFooter::show(std::string_view text) const {
+    if (auto* frame = dynamic_cast<FrameWidget*>(frame_.data()); frame != nullptr) {
+        frame->left_footer->set_full_text(to_qstring(text));
+    }
+}
 
 BusyState::BusyState(Frame& frame) : frame_(frame) {
     if (frame_.busy_++ == 0) {

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "toolkit/notify.h"
 #include "toolkit/panel.h"
 
 #include <string>
@@ -47,7 +46,7 @@ class Frame : public Container {
     /// origin, or where the user has put it before; moved back where that would be outside the screen.
     void open(int right = 740, int down = 100);
     /// Called instead of closing the window when its user asks for that.
-    void on_close(Notify notify);
+    void on_close(void (*notify)());
 
     void add(std::string_view label, QWidget* area, Place place) override;
     [[nodiscard]] QWidget* widget() const override;

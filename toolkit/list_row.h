@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "toolkit/notify.h"
+
 #include <cstdint>
 #include <string>
 
@@ -36,4 +38,4 @@ struct ListEvent {
 };
 
 /// What a list calls when its user has acted on a row, which is selected by then.
-using ListNotify = void (*)(const ListEvent& event);
+using ListNotify = Procedure<const ListEvent&>;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "toolkit/list_view.h"
 
+#include "toolkit/answer.h"
 #include "toolkit/button_picture.h"
 #include "toolkit/return_key.h"
 #include "toolkit/text_conversion.h"
@@ -90,8 +91,4 @@ void ListView::keyPressEvent(QKeyEvent* event) {
     }
 }
 
-void ListView::tell(const ListEvent& event) const {
-    if (notify_ != nullptr) {
-        notify_(event);
-    }
-}
+void ListView::tell(const ListEvent& event) const { notify_from<const ListEvent&>(this, notify_, event); }

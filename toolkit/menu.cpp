@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "toolkit/menu.h"
 
+#include "toolkit/answer.h"
 #include "toolkit/elided.h"
 #include "toolkit/text_conversion.h"
 
@@ -16,13 +17,22 @@ Menu::Menu(std::string_view title, std::span<const MenuItem> items) : menu_(std:
     }
     for (const MenuItem& item : items) {
         QAction* action = menu_->addAction(without_mnemonic(item.label));
-        QObject::connect(action, &QAction::triggered, menu_.get(), [notify = item.notify] { notify(); });
+        QObject::connect(action, &QAction::triggered, menu_.get(),
+                         [menu = menu_.get(), notify = item.notify] { notify_from(menu, notify); });
     }
 }
 
 Menu::~Menu() = default;
 Menu::Menu(Menu&&) noexcept = default;
-Menu& Menu::operator=(Menu&&) noexcept = default;
+
+/// The menus that pull right are children of the old menu: they go first.
+Menu& Menu::operator=(Menu&& other) noexcept {
+    pull_rights_ = std::move(other.pull_rights_);
+    menu_ = std::move(other.menu_);
+    title_ = other.title_;
+    entries_ = std::move(other.entries_);
+    return *this;
+}
 
 QAction* Menu::make_entry(const MenuEntry& entry, MenuNotify chosen) {
     constexpr int widest = 640;  // pixels
@@ -30,7 +40,9 @@ QAction* Menu::make_entry(const MenuEntry& entry, MenuNotify chosen) {
     action->setToolTip(plain_tool_tip(entry.value.empty() ? entry.label : entry.value));
     action->setEnabled(!entry.is_heading);
     QObject::connect(action, &QAction::triggered, menu_.get(),
-                     [chosen, value = entry.value] { chosen(value); });
+                     [menu = menu_.get(), chosen, value = entry.value] {
+                         notify_from<const std::string&>(menu, chosen, value);
+                     });
     return action;
 }
 
@@ -58,11 +70,13 @@ void Menu::set_entries(const std::vector<MenuEntry>& entries, MenuNotify chosen)
 
 Menu& Menu::add_pull_right(std::string_view label, Menu menu, Notify about_to_show) {
     Menu& added = *pull_rights_.emplace_back(std::make_unique<Menu>(std::move(menu)));
+    added.widget()->setParent(menu_.get(), added.widget()->windowFlags());
     QAction* item = menu_->addMenu(added.widget());
     item->setText(without_mnemonic(label));
-    item->setEnabled(about_to_show != nullptr || added.has_entries());
-    if (about_to_show != nullptr) {
-        QObject::connect(added.widget(), &QMenu::aboutToShow, added.widget(), about_to_show);
+    item->setEnabled(about_to_show || added.has_entries());
+    if (about_to_show) {
+        QObject::connect(added.widget(), &QMenu::aboutToShow, added.widget(),
+                         [menu = added.widget(), about_to_show] { notify_from(menu, about_to_show); });
     }
     // Only assistive programs trigger such an item.
     QObject::connect(item, &QAction::triggered, menu_.get(),

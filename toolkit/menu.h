@@ -26,7 +26,7 @@ struct MenuEntry {
 };
 
 /// What a menu calls with the value of the chosen entry.
-using MenuNotify = void (*)(const std::string& value);
+using MenuNotify = Procedure<const std::string&>;
 
 /// A command menu: a title line that cannot be chosen, its fixed items, then entries made at run time. Owned
 /// by the button or the item that carries it.

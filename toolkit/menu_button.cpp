@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "toolkit/menu_button.h"
 
+#include "toolkit/answer.h"
 #include "toolkit/button_picture.h"
 #include "toolkit/elided.h"
 #include "toolkit/text_conversion.h"
@@ -32,9 +33,7 @@ class MenuPushButton : public QPushButton {
     }
     void set_about_to_open(Notify notify) { about_to_open_ = notify; }
     void show_menu() {
-        if (about_to_open_ != nullptr) {
-            about_to_open_();
-        }
+        notify_from(this, about_to_open_);
         if (menu_->isEmpty()) {
             return;
         }
@@ -78,7 +77,7 @@ class MenuPushButton : public QPushButton {
 
   private:
     QMenu* menu_ = nullptr;
-    Notify about_to_open_ = nullptr;
+    Notify about_to_open_;
 };
 
 namespace {

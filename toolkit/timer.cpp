@@ -26,7 +26,7 @@ QTimer& timer_of(Frame& client) {
 
 }  // namespace
 
-void notify_set_itimer_func(Frame& client, Notify notify, const itimerval& value) {
+void notify_set_itimer_func(Frame& client, void (*notify)(), const itimerval& value) {
     QTimer& timer = timer_of(client);
     timer.stop();
     timer.disconnect();

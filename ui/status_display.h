@@ -10,6 +10,8 @@
 
 /// "Status Display": what the main window tells about the shell.
 struct StatusDisplay : CommandFrame {
+    static constexpr int display_on = 0;  ///< an item of "Display"
+
     StatusDisplay() : CommandFrame("Status Display") { status_file.set_display_length(40); }
 
     Choice display{panel, "Display", {"On", "Off"}, StatusDisplayOnOff};

@@ -104,31 +104,23 @@ TEST_F(CommandWindowTest, CopyMovesTheCommandOutOfTheShellsLine) {
         default_settings().prompt.set_text(each.setting);
         default_settings().prompt_ending_delimiter.set_text(each.setting);
         command_window().command.set_text("c");
-        command_window().set_left_footer("what was before");
-        main_window().set_left_footer("main");
         ttysw_output(main_window().termpane, "earlier\n" + each.shown);
-        CommandWindowCopy();
+        EXPECT_EQ(CommandWindowCopy(), each.footer);
         ttysw_output(main_window().termpane, "\x1b[K\n");
         EXPECT_EQ(typed(), each.typed);
-        EXPECT_EQ(command_window().left_footer(), each.footer);
         EXPECT_EQ(command_window().command.text(), each.line);
-        EXPECT_EQ(main_window().left_footer(), "main");
     }
-    BaseWindowMoveButton();  // from the full-screen program too
-    EXPECT_EQ(main_window().left_footer(), "Couldn't get full line");
+    EXPECT_EQ(BaseWindowMoveButton(), "Couldn't get full line") << "from the full-screen program too";
 }
 
 TEST_F(CommandWindowTest, MoveHasWordsOfItsOwn) {
     main_window().command.set_text("c");
     ttysw_output(main_window().termpane, "host% ");
-    BaseWindowMoveButton();
-    EXPECT_EQ(main_window().left_footer(), "No delimiter specified");
+    EXPECT_EQ(BaseWindowMoveButton(), "No delimiter specified");
     default_settings().look_for_ending_delimiter.set_value(false);
-    BaseWindowMoveButton();
-    EXPECT_EQ(main_window().left_footer(), "No prompter saved");
+    EXPECT_EQ(BaseWindowMoveButton(), "No prompter saved");
     default_settings().prompt.set_text("host%");
-    BaseWindowMoveButton();
-    EXPECT_EQ(main_window().left_footer(), "No command");
+    EXPECT_EQ(BaseWindowMoveButton(), "No command");
     EXPECT_EQ(main_window().command.text(), "c");
     EXPECT_EQ(typed(), "");
 }

@@ -45,13 +45,13 @@ class NotebookTest : public testing::Test {
     static void type(std::string_view text) { textsw_insert(notebook().text, text); }
 
     /// Calls a notify procedure and gives the question that it asks; empty when it asks none.
-    static std::string asked(void (*procedure)(), const QString& answer = QStringLiteral("Yes")) {
+    std::string asked(Message (*procedure)(), const QString& choice = QStringLiteral("Yes")) {
         std::string question;
         QTimer timer;
         QObject::connect(&timer, &QTimer::timeout, [&] {
             auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
             for (QAbstractButton* button : box != nullptr ? box->buttons() : QList<QAbstractButton*>()) {
-                if (button->text() == answer) {
+                if (button->text() == choice) {
                     question += box->text().toStdString();
                     button->click();
                     return;
@@ -59,11 +59,12 @@ class NotebookTest : public testing::Test {
             }
         });
         timer.start();
-        procedure();
+        answer_ = procedure();
         return question;
     }
 
     ScratchDirectory home_;
+    Message answer_;  ///< of the procedure called last
 
   private:
     std::string old_home_ = std::getenv("HOME");
@@ -75,7 +76,7 @@ TEST_F(NotebookTest, SavesWithoutAQuestionWhatIsItsOwn) {
         type(text);
         EXPECT_EQ(asked(NotebookSave), "");
         EXPECT_EQ(contents("notebook.txt"), text);
-        EXPECT_EQ(notebook().left_footer(), "Saved to " + path("notebook.txt"));
+        EXPECT_EQ(answer_, "Saved to " + path("notebook.txt"));
         EXPECT_FALSE(notebook().text.modified());
     }
     home_.write("loaded", "");
@@ -93,11 +94,11 @@ TEST_F(NotebookTest, AsksBeforeItReplacesAnotherFileAndTellsWhyItCouldNot) {
     const std::string question = path("theirs") + " exists. Replace it ?";
     EXPECT_EQ(asked(NotebookSave, "Cancel"), question);
     EXPECT_EQ(contents("theirs"), "theirs");
-    EXPECT_EQ(notebook().left_footer(), "");
+    EXPECT_EQ(answer_, "");
     fs::create_directory(home_ / "directory");
     notebook().file_name.set_text("directory");
     EXPECT_EQ(asked(NotebookSave), path("directory") + " exists. Replace it ?");
-    EXPECT_EQ(notebook().left_footer(), "Could not save " + path("directory") + ": Is a directory");
+    EXPECT_EQ(answer_, "Could not save " + path("directory") + ": Is a directory");
     EXPECT_TRUE(notebook().text.modified());
     notebook().file_name.set_text("theirs");
     EXPECT_EQ(asked(NotebookSave), question);
@@ -118,7 +119,7 @@ TEST_F(NotebookTest, AsksBeforeUnsavedTextIsLost) {
     type("kept");
     notebook().file_name.set_text("missing");
     EXPECT_EQ(asked(NotebookLoad), discard);
-    EXPECT_EQ(notebook().left_footer(), "Could not load " + path("missing") + ": No such file or directory");
+    EXPECT_EQ(answer_, "Could not load " + path("missing") + ": No such file or directory");
     EXPECT_EQ(notebook().text.text(), "kept");
 }
 
@@ -155,12 +156,10 @@ TEST_F(NotebookTest, PrintsWithTheUsersCommand) {
     notebook_print_file = path("notebook.txt");  // the real one may be somebody's
     const std::string command = "cp " + path("notebook.txt") + " " + path("printed");
     default_settings().print_command.set_text("cp $PATH_NAME " + path("printed"));
-    NotebookPrint();
-    EXPECT_EQ(notebook().left_footer(), "Nothing to print");
+    EXPECT_EQ(NotebookPrint(), "Nothing to print");
     EXPECT_EQ(message_board().text.text(), "");
     type("caf\xC3\xA9\n");
-    NotebookPrint();
-    EXPECT_EQ(notebook().left_footer(), "Printing: " + command);
+    EXPECT_EQ(NotebookPrint(), "Printing: " + command);
     EXPECT_EQ(message_board().text.text(), command + " &\n");
     EXPECT_TRUE(QTest::qWaitFor([&] { return contents("printed") == "caf\xC3\xA9\n"; }, 20'000));
     EXPECT_EQ(fs::status(notebook_print_file).permissions(), fs::perms::owner_read | fs::perms::owner_write);
@@ -172,11 +171,11 @@ TEST_F(NotebookTest, HasAMessageBoardThatIsSavedAndCleared) {
     environment_setup().messageboard_directory.set_text("~/");
     EXPECT_EQ(asked(MessageBoardSave), "");
     EXPECT_EQ(contents("messageboard.txt"), "message\n");
-    EXPECT_EQ(message_board().left_footer(), "Saved to " + path("messageboard.txt"));
+    EXPECT_EQ(answer_, "Saved to " + path("messageboard.txt"));
     textsw_insert(message_board().text, "more\n");
     EXPECT_EQ(asked(MessageBoardClear), "");
     EXPECT_EQ(message_board().text.text(), "");
-    EXPECT_EQ(message_board().left_footer(), "");
+    EXPECT_EQ(answer_, "");
 }
 
 TEST_F(NotebookTest, ExpandsDirectoryAndName) {

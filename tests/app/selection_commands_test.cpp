@@ -3,7 +3,6 @@
 
 #include "app/notify.h"
 #include "shell/process.h"
-#include "shell/shell.h"
 #include "tests/support/recorded_windows.h"
 #include "ui/notebook.h"
 #include "ui/text_editor_setup.h"
@@ -19,10 +18,10 @@ const std::string list = "ls -aF\n";
 
 struct Case {
     const char* name;
-    void (*action)();
+    Message (*action)();
     std::string selection;
     std::string typed;
-    std::string footer;
+    std::string answer;
 };
 
 const Case cases[] = {
@@ -49,6 +48,9 @@ const Case cases[] = {
     {"F4", go_directory_up, "x", "cd ..\n" + list},
     {"F5", go_to_selected_directory, "/usr", "cd /usr\n" + list},
     {"F5, a name to quote", go_to_selected_directory, "a;b", "cd 'a;b'\n" + list},
+    {"F5, a tab", go_to_selected_directory, "a\tb", "", "Selection holds control characters"},
+    {"directory down, a tab", Directory_down_button, "a\tb", "", "Selection holds control characters"},
+    {"F3, a tab", edit_selected_file, "a\tb", "", "Selection holds control characters"},
     {"F5, home", go_to_selected_directory, "~/src", "cd /home/me/src\n" + list},
     {"F5, a tab", go_to_selected_directory, "a\tb", "", with_controls},
     {"F6", type_selection, "half", "half"},
@@ -64,17 +66,14 @@ TEST_F(SelectionCommands, TypeTheFirstLineOrSayWhyNot) {
     setenv("HOME", "/home/me", 1);
     for (const Case& row : cases) {
         set_selection(row.selection);
-        main_window().set_left_footer("from before");
-        row.action();
+        EXPECT_EQ(row.action(), row.answer) << row.name;
         EXPECT_EQ(typed(), row.typed) << row.name;
-        EXPECT_EQ(main_window().left_footer(), row.footer) << row.name;
     }
     setenv("HOME", home_before.c_str(), 1);
     text_editor_setup().text_editor.set_value(TextEditorSetup::user_defined);
     text_editor_setup().user_editor.set_text("");
     set_selection("a b");
-    edit_selected_file();
-    EXPECT_EQ(main_window().left_footer(), "User editor not specified");
+    EXPECT_EQ(edit_selected_file(), "User editor not specified");
     EXPECT_EQ(typed(), "");
 }
 

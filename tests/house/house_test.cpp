@@ -26,13 +26,13 @@ const std::vector<Case> cases{
       {"toolkit/pane.h", "#include \"terminal/screen.h\"\nclass QString;\n"},
       {"ui/window.h", "#include \"toolkit/pane.h\"\n#include \"app/notify.h\"\n"},
       {"app/notify.h", ""},
-      {"shell/shell.h", ""},
-      {"shell/shell.cpp", "#include \"shell/shell.h\"\n#include \"ui/window.h\"\nttysw_input(pane, text);\n"},
+      {"shell/door.h", ""},
+      {"shell/door.cpp", "#include \"shell/door.h\"\n#include \"ui/window.h\"\nttysw_input(pane, text);\n"},
       {"app/startup.h", ""},
       {"app/main.cpp", "#include \"app/startup.h\"\n#include \"commands/tar.h\"\n"},
       {"commands/tar.h", "#include \"settings/setup.h\"\n"},
       {"settings/setup.h", "#include \"browsers/list.h\"\n"},
-      {"browsers/list.h", "#include \"shell/shell.h\"\n"},
+      {"browsers/list.h", "#include \"shell/door.h\"\n"},
       {"tests/all.h", "#include \"app/startup.h\"\nQString text;\n"},
       {"build/generated.h", "#include \"build/generated.h\"\n"}},
      {}},
@@ -80,7 +80,7 @@ const std::vector<Case> cases{
      {"shell/text.h:2: QString does not leave toolkit/"}},
     {"TypingPastTheDoor",
      {{"browsers/list.cpp", "ttysw_input (pane, text);\n"}, {"app/quit.cpp", "// ttysw_input(pane, text)\n"}},
-     {"browsers/list.cpp:2: text is typed into the shell through shell/shell.h only"}},
+     {"browsers/list.cpp:2: text is typed into the shell through shell/door.h only"}},
 };
 
 class HouseRules : public testing::TestWithParam<Case> {};

@@ -26,7 +26,7 @@ struct SourceFile {
 
 using SourceTree = std::map<std::string, SourceFile>;
 
-/// The first folder of a path: "app" for "shell/shell.h".
+/// The first folder of a path: "shell" for "shell/door.h".
 [[nodiscard]] std::string_view folder_of(std::string_view path);
 /// A line of code without the comment at its end.
 [[nodiscard]] std::string without_comment(const std::string& line);

@@ -19,16 +19,10 @@ class CommandListTest : public MenuWindows {
   protected:
     static CommandListManager& manager() { return command_list_manager(); }
     static std::string loaded() { return command_list_setup().commands_file_loaded.text(); }
-    template <typename Step>
-    static std::string manager_footer_after(Step step) {
-        manager().set_left_footer("old");
-        step();
-        return manager().left_footer();
-    }
     /// Return on a list of one row.
-    static void send(const std::string& row) {
+    static Message send(const std::string& row) {
         manager().list.set_rows(std::vector<std::string>{row});
-        Command_scrolling_list({.kind = ListEvent::Kind::activate, .row = 0});
+        return Command_scrolling_list({.kind = ListEvent::Kind::activate, .row = 0});
     }
 };
 
@@ -55,16 +49,14 @@ TEST_F(CommandListTest, FilesAreChosenFromTheCommandMenu) {
     std::filesystem::remove(good);
     EXPECT_EQ(footer_after([&] { choose(menu, "bad"); }), "Illegal format of commands file");
     EXPECT_EQ(footer_after([&] { choose(menu, "good"); }), "Couldn't open commands file for reading");
-    EXPECT_EQ(footer_after([&] { choose(menu, "sub/"); }), "old");
+    EXPECT_EQ(footer_after([&] { choose(menu, "sub/"); }), "");
     EXPECT_EQ(loaded(), good);
     EXPECT_EQ(manager().list.rows(), 2);
 }
 
 TEST_F(CommandListTest, TheLoadedFileIsEditedAndReadAgain) {
     TextField& file = command_list_setup().commands_file_loaded;
-    const auto footers = [] {
-        return Rows{manager_footer_after(Edit_commands_file), manager_footer_after(Update_commands_list)};
-    };
+    const auto footers = [] { return Rows{Edit_commands_file(), Update_commands_list()}; };
     EXPECT_EQ(footers(), Rows(2, "No commands file loaded"));
     file.set_text((home / "none").string());
     EXPECT_EQ(footers(), Rows(2, "Commands file not found"));
@@ -80,7 +72,7 @@ TEST_F(CommandListTest, TheLoadedFileIsEditedAndReadAgain) {
     EXPECT_EQ(footers(), (Rows{"User editor not specified", ""}));
     EXPECT_EQ(manager().list.all_rows(), Rows{"ls"});
     file.set_text(home.path().string());
-    EXPECT_EQ(manager_footer_after(Update_commands_list), "File not found");
+    EXPECT_EQ(Update_commands_list(), "File not found");
 }
 
 TEST_F(CommandListTest, TheListBrowserLoadsItsFile) {
@@ -88,8 +80,7 @@ TEST_F(CommandListTest, TheListBrowserLoadsItsFile) {
     browser.directory.set_text(home.path().string());
     const auto load = [&](const char* name) {
         browser.file_name.set_text(name);
-        FileListLoadCommand();
-        return browser.left_footer();
+        return FileListLoadCommand();
     };
     home.write("list", "_COMMANDS\nls");
     home.write("bad", "");
@@ -129,7 +120,7 @@ TEST_F(CommandListTest, PlaceholdersAreFilledAndNamesQuoted) {
     };
     for (const auto& row : cases) {
         set_selection(row.selection);
-        EXPECT_EQ(manager_footer_after([&] { send(row.row); }), row.footer) << row.row;
+        EXPECT_EQ(send(row.row), row.footer) << row.row;
         EXPECT_EQ(typed(), row.expected) << row.row;
         EXPECT_EQ(main_window().command.text(), "") << row.row;
     }
@@ -138,7 +129,7 @@ TEST_F(CommandListTest, PlaceholdersAreFilledAndNamesQuoted) {
     main_window().cwd.set_text("");
     file_list_browser().file_name.set_text("");
     for (const std::string mark : {"@@@", "###", "&&&", "???"}) {
-        EXPECT_EQ(manager_footer_after([&] { send("rm -r " + mark + "/*"); }), "Nothing to put for " + mark);
+        EXPECT_EQ(send("rm -r " + mark + "/*"), "Nothing to put for " + mark);
         EXPECT_EQ(typed(), "");
     }
     send("a %%%.");

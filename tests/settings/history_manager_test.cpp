@@ -33,15 +33,16 @@ class HistoryManagerTest : public HistoryWindows {
         manager().open();
         ASSERT_TRUE(QTest::qWaitForWindowActive(manager().widget()));
     }
-    /// What a button leaves: footer, "Position" and selected row.
+    /// What a button leaves: its answer, "Position" and selected row.
     using Outcome = std::tuple<std::string, int, std::optional<int>>;
     static Outcome after(const char* button) {
-        return after([=] { control<QPushButton>(manager(), button).click(); });
-    }
-    static Outcome after(const std::function<void()>& action) {
         manager().set_left_footer("old");
-        action();
+        control<QPushButton>(manager(), button).click();
         return {manager().left_footer(), manager().position.value(), manager().list.selected()};
+    }
+    static Outcome after(Message (*procedure)()) {
+        Message answer = procedure();
+        return {std::move(answer), manager().position.value(), manager().list.selected()};
     }
 };
 

@@ -45,12 +45,16 @@ class MenuWindows : public RecordedWindows {
         }
         ADD_FAILURE() << "no " << line;
     }
-    /// What a step leaves in the main window's footer.
+    /// What a procedure answers, or a step leaves in the main window's footer.
     template <typename Step>
     static std::string footer_after(Step step) {
-        main_window().set_left_footer("old");
-        step();
-        return main_window().left_footer();
+        if constexpr (std::is_void_v<std::invoke_result_t<Step>>) {
+            main_window().set_left_footer("old");
+            step();
+            return main_window().left_footer();
+        } else {
+            return step();
+        }
     }
     /// What a step leaves on the Message Board.
     template <typename Step>

@@ -305,8 +305,7 @@ TEST_F(SetupFile, IsSavedInTheStartupDirectoryAsItsFile) {
     const std::string file = home_.write("far/file", "old");
     ASSERT_EQ(chmod(file.c_str(), 0640), 0);
     fs::create_symlink(file, path());
-    Save_current_setup();
-    EXPECT_EQ(main_window().left_footer(), "Setup saved to " + path());
+    EXPECT_EQ(Save_current_setup(), "Setup saved to " + path());
     EXPECT_EQ(message_board().text.text(), "");
     EXPECT_EQ(read_file(fs::path(file)), format_setup(setup_values()));
     EXPECT_TRUE(fs::is_symlink(path()));
@@ -316,17 +315,14 @@ TEST_F(SetupFile, IsSavedInTheStartupDirectoryAsItsFile) {
 TEST_F(SetupFile, StaysWhereItCannotBeSaved) {
     constexpr const char* failure = "Could not save Orvik.setup";
     fs::create_directory(path());
-    Save_current_setup();
-    EXPECT_EQ(main_window().left_footer(), failure);
+    EXPECT_EQ(Save_current_setup(), failure);
     EXPECT_EQ(message_board().text.text(), path() + " not written: Is a directory\n");
     fs::remove(path());
     home_.write("start/Orvik.setup", "old");
     for (const std::string& value : {"a\nb"s, std::string(1023, 'x')}) {
         message_board().text.set_text("");
         environment_setup().working_directory_2.set_text(value);
-        main_window().set_left_footer("");
-        Save_current_setup();
-        EXPECT_EQ(main_window().left_footer(), failure);
+        EXPECT_EQ(Save_current_setup(), failure);
         EXPECT_EQ(message_board().text.text(),
                   path() + " not written: line 3 would be too long or hold a line end\n");
         EXPECT_EQ(read_file(fs::path(path())), "old");
@@ -350,8 +346,7 @@ TEST_F(SetupFile, IsLoadedFromTheFileListBrowser) {
         EXPECT_EQ(environment_setup().working_directory_1.text(), "");
         file_list_browser().directory.set_text(folder);
         file_list_browser().file_name.set_text(name);
-        FileListLoadSetup();
-        EXPECT_EQ(file_list_browser().left_footer(), footer);
+        EXPECT_EQ(FileListLoadSetup(), footer);
     }
     EXPECT_EQ(environment_setup().working_directory_1.text(), "value");
 }

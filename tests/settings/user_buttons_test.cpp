@@ -71,13 +71,11 @@ TEST_F(UserButtonsTest, ACommandIsTypedWithItsPlaceholderFilled) {
     std::string tree_name;
     set_tree_name_source([&tree_name] { return tree_name; });
     for (const auto& each : cases) {
-        main_window().set_left_footer("what was before");
         set_selection(each.selection);
         tree_name = each.tree_name;
         user_buttons().command_1.set_text(each.command);
-        UserButton1();
+        EXPECT_EQ(UserButton1(), each.footer) << each.name;
         EXPECT_EQ(typed(), each.typed) << each.name;
-        EXPECT_EQ(main_window().left_footer(), each.footer) << each.name;
     }
 }
 
@@ -97,14 +95,14 @@ TEST_F(UserButtonsTest, EachButtonTypesTheCommandOfItsNumber) {
 }
 
 TEST_F(UserButtonsTest, AFunctionKeyHasAMessageOfItsOwn) {
-    send_user_command(function_keys().function_key_7_command.text(), "Function key command not defined");
-    EXPECT_EQ(main_window().left_footer(), "Function key command not defined");
+    const std::string none = "Function key command not defined";
+    EXPECT_EQ(send_user_command(function_keys().function_key_7_command.text(), none), none);
     auto& field = control<QLineEdit>(function_keys(), "Function Key 9 Command:");
     field.setText(QStringLiteral("make"));
     press_return(field);
     EXPECT_EQ(typed(), "") << "Return accepts the value";
     status_display().status_file.set_text(home.write("status", "C:/there\n").native());
-    send_user_command(field.text().toStdString(), "none");
+    EXPECT_EQ(send_user_command(field.text().toStdString(), none), "");
     EXPECT_EQ(typed(), "make\n");
     EXPECT_TRUE(wait([] { return main_window().cwd.text() == "/there"; })) << "the status is read";
 }

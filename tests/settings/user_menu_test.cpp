@@ -53,7 +53,7 @@ TEST_F(UserMenuTest, ItemsAreTypedAsOneLine) {
     load_user_menu_at_startup();
     const std::tuple<std::string, std::string, std::string> cases[] = {
         {"Build", "make all,install\n", ""},
-        {"label", "", "old"},
+        {"label", "", ""},
         {"Bad", "", "Command holds control characters"},
     };
     for (const auto& [label, expected, footer] : cases) {

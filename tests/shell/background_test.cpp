@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/background.h"
 
+#include "shell/command_line.h"
 #include "tests/support/scratch_directory.h"
 #include "tests/support/wait_until.h"
 #include "ui/message_board.h"
@@ -42,7 +43,7 @@ class Background : public testing::Test {
 TEST_F(Background, TheLineIsShownAndRun) {
     setenv("ORVIK_TEST", "the user's own", 1);
     const std::string command = recorded("echo \"$ORVIK_TEST\"; pwd");
-    run_in_background(command);
+    run_in_background(CommandLine::of_user(command));
     EXPECT_EQ(message_board().text.text(), command + " &\n");
     EXPECT_EQ(result(), "the user's own\n" + home_.path().string() + "\n");
     unsetenv("ORVIK_TEST");
@@ -58,11 +59,11 @@ TEST_F(Background, NothingOfTheToolIsInherited) {
     sigprocmask(SIG_BLOCK, &blocked, nullptr);
 
     // Descriptors are looked at with what the shell has built in, before it opens anything itself.
-    run_in_background(
+    run_in_background(CommandLine::of_user(
         "n=3; open=none; while [ $n -lt 256 ]; do [ -e /proc/$$/fd/$n ] && open=$n; n=$((n+1)); done; " +
         recorded(fmt::format("grep -E 'Sig(Blk|Ign)' /proc/self/status; readlink /proc/self/fd/0; "
                              "ps -o tty= -p $$; [ $(ps -o sid= -p $$) != {} ]; echo $? $open",
-                             getsid(0))));
+                             getsid(0)))));
     EXPECT_EQ(result(), "SigBlk:\t0000000000000000\nSigIgn:\t0000000000000000\n/dev/null\n?\n0 none\n");
     sigprocmask(SIG_UNBLOCK, &blocked, nullptr);
     std::signal(SIGINT, SIG_DFL);
@@ -76,8 +77,8 @@ TEST_F(Background, NoChildIsLeftAndNobodyIsWaitedFor) {
     };
     ASSERT_FALSE(has_children());
     const auto start = std::chrono::steady_clock::now();
-    run_in_background("sleep 5; true");
-    run_in_background("exit 3");
+    run_in_background(CommandLine("sleep 5; true"));
+    run_in_background(CommandLine("exit 3"));
     EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds{4});
     EXPECT_FALSE(has_children());
 }
@@ -104,7 +105,7 @@ TEST_F(Background, AProgramOutlivesTheToolAndItsTerminal) {
 
 TEST_F(Background, AShellThatCannotBeStartedIsReported) {
     const std::string endless(200'000, 'x');  // more than one argument may hold
-    run_in_background(endless);
+    run_in_background(CommandLine::of_user(endless));
     EXPECT_EQ(message_board().text.text(),
               endless + " &\nNo shell could be started for it: Argument list too long\n");
 

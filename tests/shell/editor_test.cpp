@@ -42,10 +42,13 @@ TEST(Editor, CommandIsMadeOfTheSetup) {
         setup.font_size.set_value(font_size);
         setup.font_name.set_text(text);
         setup.user_editor.set_text(text);
-        EXPECT_EQ(editor_command("a\\ b"), command);
+        const std::optional<CommandLine> line = editor_line("a b");
+        EXPECT_EQ(line ? std::optional(line->read_by(ShellFamily::other).text) : std::nullopt, command);
     }
     setup.font_name.set_text("9x15");
-    EXPECT_EQ(gedit_command(), " -geometry 80x24+1+-2 -font 9x15");
+    CommandLine options;
+    gedit_command(options);
+    EXPECT_EQ(options.read_by(ShellFamily::other).text, "-geometry 80x24+1+-2 -font 9x15");
     destroy_windows();
 }
 

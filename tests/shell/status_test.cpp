@@ -59,17 +59,14 @@ TEST_F(StatusDisplayTest, NoAliasIsSetWithoutAStatusFileAndTheReasonIsTold) {
     begin_status_display();
     EXPECT_EQ(message_board().text.text(),
               "No status display: no file can be made in " + home_dir + ": No such file or directory\n");
-    BaseWindowSetAlias();
-    EXPECT_EQ(main_window().left_footer(), "Orvik status file not defined");
+    EXPECT_EQ(BaseWindowSetAlias(), "Orvik status file not defined");
 }
 
 TEST_F(StatusDisplayTest, ALaterTimerReplacesAPendingOneAndDisplayOffArmsNone) {
     constexpr int off = 1;
     shell_writes("C:/first\n");
-    status_display().set_left_footer("text");
     status_display().display.set_value(off);
-    StatusDisplayOnOff();
-    EXPECT_EQ(status_display().left_footer(), "");
+    EXPECT_EQ(StatusDisplayOnOff(), "");
     SetupTimer(1);
     status_display().display.set_value(0);
     const auto stays_empty_for = [](int milliseconds) {

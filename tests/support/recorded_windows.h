@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "shell/door.h"
 #include "shell/process.h"
-#include "shell/shell.h"
 #include "tests/support/scratch_directory.h"
 #include "tests/support/wait_until.h"
 #include "toolkit/text_conversion.h"

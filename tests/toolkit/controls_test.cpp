@@ -6,6 +6,7 @@
 #include "toolkit/frame.h"
 #include "toolkit/menu_button.h"
 #include "toolkit/message_item.h"
+#include "toolkit/scrolling_list.h"
 #include "toolkit/selection.h"
 #include "toolkit/text_pane.h"
 
@@ -28,7 +29,12 @@ namespace {
 int notified = 0;
 void note() { ++notified; }
 
+Message answer() { return "answer"; }
+Message answer_value(const std::string& value) { return value; }
+Message answer_row(const ListEvent& event) { return std::to_string(event.row); }
+
 constexpr MenuItem items[] = {{"First", note}, {"Second & third", note}};
+constexpr MenuItem answering_items[] = {{"First", note}, {"Answer", answer}};
 
 struct Sample : CommandFrame {
     Sample() : CommandFrame("Sample") {}
@@ -44,6 +50,19 @@ struct Sample : CommandFrame {
     Button button{row, "Push & go", note};
     MenuButton menu{row, "Menu", Menu("Title", items)};
     TextPane pane{panel, "Sample text"};
+};
+
+/// Controls whose procedures answer.
+struct Answering : CommandFrame {
+    Answering() : CommandFrame("Answering") {}
+    TextField text{panel, "Text:", answer};
+    NumberField number{panel, "Number:", 5, answer};
+    Choice choice{panel, "Choice", {"One", "Two"}, answer};
+    ScrollingList list{panel, "List", answer_row};
+    Button button{panel, "Push", answer};
+    ImageButton image{panel, "Image", answer};
+    MenuButton menu{panel, "Menu", Menu("Title", answering_items), answer};
+    PullRight pull_right{menu, "More", nullptr};
 };
 
 class Controls : public testing::Test {
@@ -182,6 +201,44 @@ TEST_F(Controls, ThePrimarySelectionIsText) {
     QApplication::clipboard()->clear(QClipboard::Selection);
     EXPECT_FALSE(selection_inquire());
     EXPECT_EQ(selection_ask(), std::nullopt);
+}
+
+TEST_F(Controls, WhatAProcedureAnswersIsShownInTheWindowOfItsControl) {
+    Answering window;
+    window.open();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window.widget()));
+    window.list.set_rows(std::vector<std::string>{"row"});
+    window.pull_right.menu().set_entries({{"Entry", "value"}}, answer_value);
+    const auto widget = [&](const char* name) { return find_widget<QWidget>(window.widget(), name); };
+    const auto item = [&](QMenu* menu, const char* label) {
+        for (QAction* action : menu->actions()) {
+            if (action->text() == QLatin1String(label)) {
+                action->trigger();
+            }
+        }
+    };
+    QMenu* menu = window.menu.menu().widget();
+    const std::pair<std::function<void()>, std::string> cases[] = {
+        {[&] { QTest::keyClick(widget("Text:"), Qt::Key_Return); }, "answer"},
+        {[&] { QTest::keyClick(widget("Number:"), Qt::Key_Up); }, "answer"},
+        {[&] { find_widget<QAbstractButton>(window.widget(), "Two")->click(); }, "answer"},
+        {[&] { find_widget<QAbstractButton>(window.widget(), "Push")->click(); }, "answer"},
+        {[&] { find_widget<QAbstractButton>(window.widget(), "Image")->click(); }, "answer"},
+        {[&] { QTest::keyClick(widget("List"), Qt::Key_Down); }, "0"},
+        {[&] { QTest::keyClick(widget("Menu"), Qt::Key_Space); }, "answer"},
+        {[&] { item(menu, "Answer"); }, "answer"},
+        {[&] { item(window.pull_right.menu().widget(), "Entry"); }, "value"},
+        {[&] { item(menu, "First"); }, "old"},
+    };
+    for (const auto& [act, footer] : cases) {
+        SCOPED_TRACE(&act - &cases[0].first);
+        window.set_left_footer("old");
+        sample.set_left_footer("sample");
+        act();
+        EXPECT_EQ(window.left_footer(), footer);
+        EXPECT_EQ(sample.left_footer(), "sample");
+    }
+    menu->close();
 }
 
 }  // namespace

@@ -125,13 +125,13 @@ TEST_F(FrameTest, PopupIsMovedBackOnTheScreen) {
 struct TwoFields : CommandFrame {
     TwoFields() : CommandFrame("Fields") {}
     TextField plain{panel, "Plain:"};
-    TextField acting{panel, "Acting:", [] { ++other_calls; }};
+    TextField acting{panel, "Acting:", +[] { ++other_calls; }};
 };
 
 struct WithDefaultButton : TwoFields {
     WithDefaultButton() { button.set_default(); }
-    Button other{panel, "Other", [] { ++other_calls; }};
-    Button button{panel, "Default", [] { ++calls; }};
+    Button other{panel, "Other", +[] { ++other_calls; }};
+    Button button{panel, "Default", +[] { ++calls; }};
 };
 
 TEST_F(FrameTest, ReturnPressesTheDefaultButtonElseGoesOn) {

@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: MIT
+#include "shell/selected_text.h"
+
+#include "shell/operands.h"
+#include "shell/quoting.h"
+#include "shell/text.h"
+#include "toolkit/selection.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+constexpr std::size_t longest_selection = 999;
+constexpr std::size_t longest_answered_selection = 1000;  ///< a longer one is called too long
+
+constexpr std::string_view holds_control_characters = "Selection holds control characters";
+
+/// The first line as it is.
+SelectedText first_line(const SelectionMessages& messages) {
+    const std::string selection = selection_ask().value_or(std::string());
+    if (selection.size() > longest_answered_selection) {
+        return {.refusal = Message(messages.too_long)};
+    }
+    SelectedText selected{.text =
+                              selection.size() <= longest_selection ? remove_nl(selection) : std::string()};
+    selected.refusal = selected.text.empty() ? messages.none : "";
+    return selected;
+}
+
+/// A line that may not be typed is refused.
+SelectedText checked(SelectedText selected) {
+    if (selected && has_control_characters(selected.text)) {
+        selected.refusal = holds_control_characters;
+    }
+    return selected;
+}
+
+}  // namespace
+
+std::string get_seln() {
+    std::string selection = selection_ask().value_or(std::string());
+    return selection.size() <= longest_selection ? selection : std::string();
+}
+
+SelectedText selected_text(const SelectionMessages& messages) {
+    SelectedText selected = first_line(messages);
+    std::ranges::replace(selected.text, '\t', ' ');
+    return checked(std::move(selected));
+}
+
+SelectedText selected_name(const SelectionMessages& messages) {
+    SelectedText selected = checked(first_line(messages));
+    selected.text = with_home_directory(selected.text);
+    return selected;
+}
