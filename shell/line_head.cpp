@@ -204,14 +204,13 @@ void LineHead::read_quote(char c) {
 
 /// Subscripts, character classes, "${...}" and lists of alternatives; not the command "[", nor "{".
 void LineHead::read_bracket(char c) {
-    if (c == bracket_) {
+    const bool is_command = is_blank(c) && bracket_begins_word_ && is_one_of(last_, "[{");
+    if (c == bracket_ || is_command) {
         bracket_ = 0;
     } else if (c == '[' || c == '{') {
         is_lost_ = is_lost_ || (bracket_ != 0 && (c != '[' || last_ != '['));
         bracket_begins_word_ = bracket_ != 0 ? bracket_begins_word_ : begins_word_ && name_ == Name::none;
         bracket_ = c == '[' ? ']' : '}';
-    } else if (is_blank(c) && bracket_begins_word_ && is_one_of(last_, "[{")) {
-        bracket_ = 0;
     }
 }
 
