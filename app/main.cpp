@@ -2,6 +2,7 @@
 #include "app/quit.h"
 #include "app/startup.h"
 #include "toolkit/application.h"
+#include "toolkit/long_work.h"
 #include "ui/main_window.h"
 #include "ui/windows.h"
 
@@ -11,6 +12,7 @@ int main(int argc, char** argv) {
     xv_main_loop(main_window());
     clean_up();
     destroy_windows();
+    await_stopped_work(std::chrono::seconds{1});
     xv_destroy();
     return 0;
 }

@@ -4,10 +4,12 @@
 #include "browsers/notify.h"
 #include "shell/operands.h"
 #include "shell/process.h"
+#include "toolkit/long_work.h"
 #include "toolkit/scrolling_list.h"
 #include "ui/file_list_browser.h"
 #include "ui/plot_setup.h"
 
+#include <functional>
 #include <utility>
 
 #include <fmt/printf.h>
@@ -19,21 +21,36 @@ ScanResult show(Scan scan, ScrollingList& list, int& count) {
     if (scan.result == SCAN_OK) {
         list.set_rows(std::move(scan.rows));
         count = scan.count;
-    } else if (scan.result != SCAN_OPEN_FAILED) {
+    } else if (scan.result != SCAN_OPEN_FAILED && scan.result != SCAN_STOPPED) {
         delete_all(list);
     }
     return scan.result;
 }
 
-/// Lists a directory in the browser, which then stands on it.
-ScanResult list_in_browser(const std::string& directory, int& count) {
-    FileListBrowser& browser = file_list_browser();
-    const BusyState busy(browser);
-    const ScanResult result = add_name_to_list(browser.list, directory, count);
-    if (result == SCAN_OK) {
-        browser.directory.set_text(directory);
-    }
-    return result;
+/// Lists a directory, written as its user likes, in the browser, which then stands on it. `listed` is called
+/// from the event loop: a server may take its time, or never answer.
+void list_in_browser(const std::string& directory,
+                     const std::function<void(ScanResult, const std::string& path, int count)>& listed) {
+    struct Listing {
+        std::string path;
+        Scan scan;
+    };
+    start_work(
+        file_list_browser(), "Names read",
+        [=](Progress& progress) {
+            std::string path = path_meant(directory);
+            Scan scan = scan_directory(path, &progress);
+            return Listing{std::move(path), std::move(scan)};
+        },
+        [=](Listing listing) {
+            FileListBrowser& browser = file_list_browser();
+            int count = 0;
+            const ScanResult result = show(std::move(listing.scan), browser.list, count);
+            if (result == SCAN_OK) {
+                browser.directory.set_text(listing.path);
+            }
+            listed(result, listing.path, count);
+        });
 }
 
 std::string number_of_files(int count) { return fmt::sprintf("Number of files displayed: %d", count); }
@@ -57,28 +74,31 @@ ScanResult add_dir_to_list(ScrollingList& list, const std::string& directory) {
 void delete_all(ScrollingList& list) { list.delete_rows(); }
 
 void list_files_at_startup(const std::string& directory) {
-    const std::string path = directory.empty() ? home_dir : path_meant(directory);
-    int count = 0;
-    const ScanResult result = list_in_browser(path, count);
-    if (result != SCAN_OK) {
-        file_list_browser().set_left_footer(scan_message(result));
-        return;
-    }
-    plot_setup().file_name.set_text(path);
-    file_list_browser().list.clear_selection();
-    file_list_browser().set_right_footer(number_of_files(count));
+    list_in_browser(directory.empty() ? home_dir : directory,
+                    [](ScanResult result, const std::string& path, int count) {
+                        if (result != SCAN_OK) {
+                            file_list_browser().set_left_footer(scan_message(result));
+                            return;
+                        }
+                        plot_setup().file_name.set_text(path);
+                        file_list_browser().list.clear_selection();
+                        file_list_browser().set_right_footer(number_of_files(count));
+                    });
 }
 
 Message SetBookmarkFileListDir(const std::string& path) {
     if (path.empty()) {
         return {};
     }
-    FileListBrowser& browser = file_list_browser();
-    int count = 0;
-    if (list_in_browser(path_meant(path), count) != SCAN_OK) {
-        return "Can't set directory";
-    }
-    browser.list.select(0);
-    browser.file_name.set_text("");
-    return number_of_files(count);
+    list_in_browser(path, [](ScanResult result, const std::string& /*path*/, int count) {
+        FileListBrowser& browser = file_list_browser();
+        if (result != SCAN_OK) {
+            browser.set_left_footer(result == SCAN_STOPPED ? scan_message(result) : "Can't set directory");
+            return;
+        }
+        browser.list.select(0);
+        browser.file_name.set_text("");
+        browser.set_left_footer(number_of_files(count));
+    });
+    return {};
 }

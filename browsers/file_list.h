@@ -20,6 +20,6 @@ ScanResult add_dir_to_list(ScrollingList& list, const std::string& directory);
 /// Deletes all rows.
 void delete_all(ScrollingList& list);
 
-/// Lists a directory, written as its user likes, in the "File List Browser"; the home directory when it is
-/// empty.
+/// Has a directory, written as its user likes, listed in the "File List Browser"; the home directory when it
+/// is empty. Returns at once.
 void list_files_at_startup(const std::string& directory);

@@ -24,9 +24,13 @@ std::optional<mode_t> type_of(const Directory& directory, const std::string& nam
 
 /// The names that `keeps` keeps, sorted; nothing when they are too many.
 template <typename Keeps>
-std::optional<std::vector<std::string>> sorted_names(Directory& directory, Keeps keeps) {
+std::optional<std::vector<std::string>> sorted_names(Directory& directory, Keeps keeps,
+                                                     const Progress* progress = nullptr) {
     std::vector<std::string> names;
     while (const char* name = directory.next()) {
+        if (progress != nullptr && progress->stopping()) {
+            break;
+        }
         if (!keeps(name)) {
             continue;
         }
@@ -39,12 +43,15 @@ std::optional<std::vector<std::string>> sorted_names(Directory& directory, Keeps
     return names;
 }
 
-/// The go-up row, the subdirectories, the files.
-std::vector<ListRow> rows_of(const Directory& directory, std::vector<std::string> names) {
+/// The go-up row, the subdirectories, the files; some of them when the work is to stop.
+std::vector<ListRow> rows_of(const Directory& directory, std::vector<std::string> names, Progress* progress) {
     std::vector<ListRow> rows{{std::string(go_up_row), Glyph::arrow}};
     std::vector<ListRow> files;
     rows.reserve(names.size() + 1);
     for (std::string& name : names) {
+        if (progress != nullptr && !progress->next()) {
+            break;
+        }
         const std::optional<mode_t> type = is_dots(name) ? std::nullopt : type_of(directory, name);
         if (type == S_IFDIR) {
             rows.push_back({std::move(name) + "/", Glyph::directory});
@@ -57,17 +64,20 @@ std::vector<ListRow> rows_of(const Directory& directory, std::vector<std::string
 }
 
 template <typename Keeps>
-Scan scan_names(const std::string& path, Keeps keeps) {
+Scan scan_names(const std::string& path, Keeps keeps, Progress* progress = nullptr) {
     Directory directory(path);
     if (!directory.is_open()) {
         return {.result = SCAN_OPEN_FAILED};
     }
-    std::optional<std::vector<std::string>> names = sorted_names(directory, keeps);
+    std::optional<std::vector<std::string>> names = sorted_names(directory, keeps, progress);
     if (!names) {
         return {.result = SCAN_TOO_MANY};
     }
     const int count = static_cast<int>(names->size());
-    Scan scan{.rows = rows_of(directory, std::move(*names)), .count = count};
+    Scan scan{.rows = rows_of(directory, std::move(*names), progress), .count = count};
+    if (progress != nullptr && progress->stopping()) {
+        return {.result = SCAN_STOPPED};
+    }
     scan.result = directory.close() ? SCAN_OK : SCAN_CLOSE_FAILED;
     return scan;
 }
@@ -75,20 +85,22 @@ Scan scan_names(const std::string& path, Keeps keeps) {
 }  // namespace
 
 std::string_view scan_message(ScanResult result) {
-    static constexpr std::array<std::string_view, 6> messages{
+    static constexpr std::array<std::string_view, 7> messages{
         "",
         "Can't open directory",
         "Directory read error",
         "To many files",
         "Directory close error",
         "No matching files found",
+        "Stopped",
     };
     return messages[static_cast<std::size_t>(result)];
 }
 
-Scan scan_directory(const std::string& directory) {
+Scan scan_directory(const std::string& directory, Progress* progress) {
     constexpr int dots = 2;
-    Scan scan = scan_names(directory, [](const char*) { return true; });
+    Scan scan = scan_names(
+        directory, [](const char*) { return true; }, progress);
     scan.count = std::max(scan.count - dots, 0);
     return scan;
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "toolkit/list_row.h"
+#include "toolkit/progress.h"
 
 #include <span>
 #include <string>
@@ -18,6 +19,7 @@ enum ScanResult {
     SCAN_TOO_MANY = 3,      ///< 10,000 names or more would have been kept
     SCAN_CLOSE_FAILED = 4,  ///< the directory could not be closed: the rows may be wrong
     SCAN_EMPTY = 5,         ///< no subdirectory, or no name that passes the filter
+    SCAN_STOPPED = 6,       ///< it was asked to stop
 };
 
 /// What a list's user is told of a result; empty for `SCAN_OK`.
@@ -42,8 +44,8 @@ struct NameFilter {
 
 /// A row for going up, then the subdirectories with a "/" behind the name, then everything else, each sorted
 /// by bytes. Links count as what they lead to; what cannot be examined gets no row. The count is that of all
-/// entries but "." and "..".
-Scan scan_directory(const std::string& directory);
+/// entries but "." and "..". The progress, if there is one, counts the names examined.
+Scan scan_directory(const std::string& directory, Progress* progress = nullptr);
 /// The same for the names that pass a filter. The count is that of the names that passed, "." and ".."
 /// included.
 Scan scan_filtered(const std::string& directory, const NameFilter& filter);

@@ -3,12 +3,14 @@
 
 #include <cstdlib>
 #include <optional>
+#include <vector>
 
 #include <pwd.h>
 
 namespace {
 
 constexpr std::string_view blanks = "\n \t";
+constexpr std::size_t longest_user_entry = 65'536;
 
 bool is_name_character(char c) {
     return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '_';
@@ -63,8 +65,12 @@ std::optional<std::string> home_of(const std::string& user) {
         const char* home = std::getenv("HOME");
         return home == nullptr ? std::nullopt : std::optional<std::string>(home);
     }
-    const passwd* entry = getpwnam(user.c_str());
-    return entry == nullptr ? std::nullopt : std::optional<std::string>(entry->pw_dir);
+    // Paths are expanded in threads, too.
+    std::vector<char> room(longest_user_entry);
+    passwd entry{};
+    passwd* found = nullptr;
+    getpwnam_r(user.c_str(), &entry, room.data(), room.size(), &found);
+    return found == nullptr ? std::nullopt : std::optional<std::string>(entry.pw_dir);
 }
 
 }  // namespace

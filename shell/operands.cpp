@@ -63,7 +63,9 @@ std::string with_home_directory(std::string_view name) {
 }
 
 std::string path_meant(const std::string& path) {
-    return access(path.c_str(), F_OK) == 0 ? path : expand_path(path);
+    std::string expanded = expand_path(path);
+    // No file is asked for in vain: its server may not answer.
+    return expanded == path || access(path.c_str(), F_OK) == 0 ? path : expanded;
 }
 
 std::string name_refusal(std::string_view name) {
