@@ -36,11 +36,21 @@ void file(const std::string& command) {
     default_settings().last_command.set_text(command);
 }
 
+/// The shown command without what the terminal itself has echoed before the shell's line editor was there to
+/// read it, and echo it again: "cecho", where the keys tell "echo".
+const std::string& without_early_echo(const std::string& shown, const std::string& typed) {
+    if (typed.empty() || !shown.ends_with(typed)) {
+        return shown;
+    }
+    const std::string before = shown.substr(0, shown.size() - typed.size());
+    return typed.find(before) == std::string::npos ? shown : typed;
+}
+
 /// The line at whose end Return was pressed is left: it holds the command, or tells that there is none.
 void file_from_prompt(const TerminalPane::CurrentLine& line) {
     const CurrentCommand command = command_on(line);
     if (command.problem == CommandProblem::none) {
-        file(command.text);
+        file(without_early_echo(command.text, awaited.front().typed));
     } else {
         main_window().set_left_footer(problem_message(command.problem, CommandAsker::return_key));
     }
