@@ -56,7 +56,7 @@ Message go_to_selected_directory() {
 }
 
 Message type_selection() {
-    const Message refusal = insert_selection();
+    Message refusal = insert_selection();
     SetupTimer(refresh_after_command);
     return refusal;
 }
