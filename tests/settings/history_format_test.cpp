@@ -1,20 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "settings/history_format.h"
 
-#include "shell/files.h"
-#include "tests/support/scratch_directory.h"
-#include "tests/support/wait_until.h"
-
-#include <array>
 #include <climits>
-#include <csignal>
 #include <ctime>
 #include <tuple>
 
 #include <gtest/gtest.h>
-#include <sys/stat.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 namespace {
 
@@ -74,41 +65,6 @@ TEST(HistoryFormat, CommandsAreRecordedByTheirLength) {
     for (const auto& [length, longer_than, recorded] : cases) {
         EXPECT_EQ(is_recorded(length, longer_than, Recording::on), recorded) << length << '>' << longer_than;
         EXPECT_FALSE(is_recorded(length, longer_than, Recording::off)) << length;
-    }
-}
-
-/// Saves two contents in turn until it is killed.
-[[noreturn]] void save_without_end(const std::string& path, const std::array<std::string, 2>& contents) {
-    for (std::size_t turn = 0;; ++turn) {
-        (void)save_file(path, contents[turn % contents.size()],
-                        {.exact_mode = 0600, .durability = Durability::renamed});
-    }
-}
-
-TEST(HistoryFile, IsWholeWheneverItsWriterIsKilled) {
-    const ScratchDirectory home;
-    const std::array contents{format_history(Rows(5000, "first " + xs(40))),
-                              format_history(Rows(8000, "second " + xs(60)))};
-    const std::string path = home.write("history", contents[0]);
-    const auto inode = [&] {
-        struct stat info {};
-        return stat(path.c_str(), &info) == 0 ? info.st_ino : 0;
-    };
-    for (int kill_number = 0; kill_number < 100; ++kill_number) {
-        const auto before = inode();
-        const pid_t child = fork();
-        ASSERT_GE(child, 0);
-        if (child == 0) {
-            save_without_end(path, contents);
-        }
-        const bool saving = wait_until([&] { return inode() != before; });
-        std::this_thread::sleep_for(
-            std::chrono::microseconds{37 * kill_number});  // to kill at varying moments
-        ASSERT_EQ(kill(child, SIGKILL), 0);
-        ASSERT_EQ(waitpid(child, nullptr, 0), child);
-        ASSERT_TRUE(saving);
-        const std::string found = read_file(path);
-        ASSERT_TRUE(found == contents[0] || found == contents[1]) << found.size() << " bytes";
     }
 }
 

@@ -5,7 +5,6 @@
 #include "shell/operands.h"
 #include "tests/support/recorded_windows.h"
 #include "ui/function_keys.h"
-#include "ui/status_display.h"
 #include "ui/user_buttons.h"
 
 #include <QLineEdit>
@@ -90,21 +89,6 @@ TEST_F(UserButtonsTest, EachButtonTypesTheCommandOfItsNumber) {
         button->click();
     }
     EXPECT_EQ(typed(), "command 1\ncommand 2\ncommand 3\ncommand 4\ncommand 5\ncommand 6\n");
-    press_return(control<QLineEdit>(user_buttons(), "Command1:"));
-    EXPECT_EQ(typed(), "") << "Return accepts the value";
-}
-
-TEST_F(UserButtonsTest, AFunctionKeyHasAMessageOfItsOwn) {
-    const std::string none = "Function key command not defined";
-    EXPECT_EQ(send_user_command(function_keys().function_key_7_command.text(), none), none);
-    auto& field = control<QLineEdit>(function_keys(), "Function Key 9 Command:");
-    field.setText(QStringLiteral("make"));
-    press_return(field);
-    EXPECT_EQ(typed(), "") << "Return accepts the value";
-    status_display().status_file.set_text(home.write("status", "C:/there\n").native());
-    EXPECT_EQ(send_user_command(field.text().toStdString(), none), "");
-    EXPECT_EQ(typed(), "make\n");
-    EXPECT_TRUE(wait([] { return main_window().cwd.text() == "/there"; })) << "the status is read";
 }
 
 TEST_F(UserButtonsTest, ALabelIsAppliedWhenItsFieldIsConfirmedOrByUpdateUnlessItIsEmpty) {
