@@ -186,11 +186,15 @@ std::string line_behind_cursor_text(const Terminal& terminal) {
     const Position begin = line_to_cursor(terminal).end;
     const Range line = logical_line(terminal, begin.row);
     std::string out = text_between(terminal, {begin, line.end});
-    // A prompt at the right edge (zsh's RPROMPT) leaves one column free; a gap parts it from the command.
+    // A prompt at the right edge (zsh's RPROMPT) leaves exactly one column free; a gap on its row, which the
+    // shell never lets the command come near, parts it from that.
     const std::size_t used = without_trailing_blanks(terminal.row(line.end.row)).size();
-    const std::size_t gap = out.rfind("  ");
-    if (gap != std::string::npos && static_cast<int>(used) >= terminal.size().columns - 1) {
-        out.erase(out.find_last_not_of(' ', gap) + 1);
+    const Position row_begin = std::max(begin, Position{line.end.row, 0});
+    const std::string in_row = text_between(terminal, {row_begin, line.end});
+    const std::size_t gap = in_row.rfind("  ");
+    if (gap != std::string::npos && static_cast<int>(used) == terminal.size().columns - 1) {
+        out.erase(out.size() - in_row.size() + gap);
+        out.erase(out.find_last_not_of(' ') + 1);
     }
     return out;
 }

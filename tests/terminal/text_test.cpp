@@ -103,6 +103,8 @@ TEST(Text, LineToCursor) {
         {"cursor on an earlier row", "$ 0123456789abc  \033[A", "$ 01234", "56789abc"},
         {"prompt at the right edge", "$ ls  me>\r\033[4C", "$ ls"},
         {"the same behind more text", "$ ls  me>\r\033[3C", "$ l", "s"},
+        {"command with a gap that fills the row", "$ e 'a  b'\r\033[2C", "$ ", "e 'a  b'"},
+        {"gap in an earlier row", "$ e 'a  b' 12345678\r\033[A\033[2C", "$ ", "e 'a  b' 12345678"},
         {"wrapped", "$ 0123456789abc", "$ 0123456789abc"},
         {"wrapped into the scrollback", "$ 0123456789abcdefghijABCDEFGHIJ0123456789abcdefghij",
          "$ 0123456789abcdefghijABCDEFGHIJ0123456789abcdefghij"},
