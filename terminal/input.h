@@ -105,7 +105,11 @@ std::string encode_focus(bool focused, const Modes& modes);
 /// (`line_discipline`: the c_cc values in force), C1 and end markers of a bracketed paste, however they hide,
 /// are made harmless; line ends become CR. In brackets when the program asked for them.
 std::string encode_paste(std::string_view text, std::string_view line_discipline, const Modes& modes);
-/// Whether a paste should be shown to the user before it is sent: it holds a line end or a control character.
+/// Whether a character is not seen but changes how others look or read: Unicode's format characters (Cf),
+/// such as overrides of the direction and zero-width spaces, and its line and paragraph separators.
+bool is_unseen(char32_t code);
+/// Whether a paste should be shown to the user before it is sent: it holds a line end, a control character or
+/// one that is not seen.
 bool paste_needs_review(std::string_view text);
 
 }  // namespace terminal

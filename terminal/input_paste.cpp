@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <vector>
 
+#include <utf8proc.h>
+
 namespace terminal {
 namespace {
 
@@ -123,10 +125,16 @@ std::string encode_paste(std::string_view text, std::string_view line_discipline
     return std::string(paste_begin).append(filtered).append(paste_end);
 }
 
+bool is_unseen(char32_t code) {
+    const utf8proc_category_t category = utf8proc_category(static_cast<utf8proc_int32_t>(code));
+    return category == UTF8PROC_CATEGORY_CF || category == UTF8PROC_CATEGORY_ZL ||
+           category == UTF8PROC_CATEGORY_ZP;
+}
+
 bool paste_needs_review(std::string_view text) {
     for (std::size_t at = 0; at < text.size();) {
         const Character character = character_at(text, at);
-        if (is_control(character.code)) {
+        if (is_control(character.code) || is_unseen(character.code)) {
             return true;
         }
         at += character.size;

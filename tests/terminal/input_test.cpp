@@ -173,6 +173,8 @@ const PasteCase paste_cases[] = {
     {"end_markers_of_both_kinds_nested", "\033[20\x9b"s + "201~1~\x9b"s + "2\033[201~01~b", "b", true},
     {"end_marker_hidden_by_a_control", "\033[2\00101~", " [2 01~", true},
     {"end_marker_tail_after_a_character", "\u66db201~", "\u66db201~", false},
+    {"override_of_the_direction", "a\u202eb", "a\u202eb", true},
+    {"zero_width", "a\u200bb", "a\u200bb", true},
     {"begin_marker", "\033[200~a", " [200~a", true},
 };
 

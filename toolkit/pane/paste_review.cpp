@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "toolkit/pane/paste_review.h"
 
+#include "terminal/input.h"
 #include "toolkit/text_conversion.h"
 
 #include <QDialog>
@@ -13,44 +14,45 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
 // Enough to see what it is; laying out a huge text would hold up everything else.
 constexpr std::size_t shown_bytes = 32'768;
 
-/// What stands for a control character: "^C" as the terminal would echo it, and an arrow for a line end.
-QString picture(char16_t control) {
-    if (control == u'\n' || control == u'\r') {
+/// What stands for a character that is not seen: "^C" as the terminal would echo it, an arrow for a line end,
+/// "<U+202E>" for what turns the text round it.
+QString picture(char32_t character) {
+    if (character == U'\n' || character == U'\r') {
         return QStringLiteral("\u21b5");
     }
-    if (control < 0x20 || control == 0x7f) {
-        return QStringLiteral("^%1").arg(QChar(static_cast<char16_t>(control ^ 0x40)));
+    if (character < 0x20 || character == 0x7f) {
+        return QStringLiteral("^%1").arg(QChar(static_cast<char16_t>(character ^ 0x40)));
     }
-    return QStringLiteral("<%1>").arg(control, 2, 16, QChar(u'0'));
+    return character < 0xa0 ? QStringLiteral("<%1>").arg(character, 2, 16, QChar(u'0'))
+                            : QStringLiteral("<U+%1>").arg(QString::number(character, 16).toUpper());
 }
 
-bool is_control(QChar c) { return c.unicode() < 0x20 || (c.unicode() >= 0x7f && c.unicode() < 0xa0); }
+bool is_control(char32_t c) { return c < 0x20 || (c >= 0x7f && c < 0xa0); }
 
-/// Fills the view with the beginning of the text. Pictures of control characters are marked by colour, so
-/// that they cannot be mistaken for the characters they are made of.
+/// Fills the view with the beginning of the text. Pictures are marked by colour, so that they cannot be
+/// mistaken for the characters they are made of.
 void show_text(QPlainTextEdit& view, const std::string& text) {
     QTextCharFormat mark;
     mark.setBackground(QColor(0xff, 0xd9, 0x80));
-    const QString shown = to_qstring(std::string_view(text).substr(0, shown_bytes));
     QTextCursor cursor = view.textCursor();
-    qsizetype plain_from = 0;
-    for (qsizetype at = 0; at <= shown.size(); ++at) {
-        if (at < shown.size() && !is_control(shown[at])) {
+    QString plain;
+    for (const uint character : to_qstring(std::string_view(text).substr(0, shown_bytes)).toUcs4()) {
+        if (!is_control(character) && !terminal::is_unseen(character)) {
+            plain += QChar::fromUcs4(character);
             continue;
         }
-        cursor.insertText(shown.mid(plain_from, at - plain_from), QTextCharFormat());
-        plain_from = at + 1;
-        if (at < shown.size()) {
-            cursor.insertText(picture(shown[at].unicode()), mark);
-            cursor.insertText(shown[at] == u'\n' ? QStringLiteral("\n") : QString(), QTextCharFormat());
-        }
+        cursor.insertText(std::exchange(plain, {}), QTextCharFormat());
+        cursor.insertText(picture(character), mark);
+        plain = character == U'\n' ? QStringLiteral("\n") : QString();
     }
+    cursor.insertText(plain, QTextCharFormat());
     if (text.size() > shown_bytes) {
         cursor.insertText(QStringLiteral("\n... and %1 bytes more").arg(text.size() - shown_bytes), mark);
     }
@@ -59,11 +61,11 @@ void show_text(QPlainTextEdit& view, const std::string& text) {
 
 QString summary(const std::string& text) {
     const auto line_ends = std::count_if(text.begin(), text.end(), [](char c) { return c == '\n'; });
-    const QString lines = line_ends == 0 ? QStringLiteral("control characters")
-                                         : QStringLiteral("%1 line end%2")
-                                               .arg(line_ends)
-                                               .arg(line_ends == 1 ? QString() : QStringLiteral("s"));
-    return QStringLiteral("The text to be pasted holds %1. A line end may run a command at once.").arg(lines);
+    const QString held = line_ends == 0 ? QStringLiteral("characters that are not seen")
+                                        : QStringLiteral("%1 line end%2")
+                                              .arg(line_ends)
+                                              .arg(line_ends == 1 ? QString() : QStringLiteral("s"));
+    return QStringLiteral("The text to be pasted holds %1. A line end may run a command at once.").arg(held);
 }
 
 }  // namespace

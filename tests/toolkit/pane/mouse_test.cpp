@@ -149,9 +149,10 @@ TEST_F(TerminalMouseTest, MiddleClickPastesThePrimarySelectionAndKeysTheClipboar
 
 TEST_F(TerminalMouseTest, PasteWithControlCharactersIsShownFirst) {
     start_echo();
-    set_clipboard("a\003b\033[201~\nc");
+    set_clipboard("a\003b\033[201~\nc\u202e");
     ASSERT_TRUE(asks_before_paste());
-    EXPECT_EQ(from_qstring(review()->findChild<QPlainTextEdit*>()->toPlainText()), "a^Cb^[[201~\u21b5\nc");
+    EXPECT_EQ(from_qstring(review()->findChild<QPlainTextEdit*>()->toPlainText()),
+              "a^Cb^[[201~\u21b5\nc<U+202E>");
     QTest::keyClick(review(), Qt::Key_Escape);
     ASSERT_TRUE(wait([] { return review() == nullptr; }));
 
@@ -161,7 +162,8 @@ TEST_F(TerminalMouseTest, PasteWithControlCharactersIsShownFirst) {
 
     ASSERT_TRUE(asks_before_paste());
     click_button("Paste");
-    EXPECT_TRUE(wait_for_echo("a b^Mc")) << echoed() << ": pasted once, and nothing of what was cancelled";
+    EXPECT_TRUE(wait_for_echo("a b^McM-bM-^@M-."))
+        << echoed() << ": pasted once, and nothing of what was cancelled";
 }
 
 TEST_F(TerminalMouseTest, HugePasteIsShownInPartAndSentWhole) {
