@@ -28,6 +28,15 @@ const Cell& cell_at(const terminal::Row& row, int column) {
                                                                : blank;
 }
 
+/// A program may have put the cursor on a wide character's second cell: it covers both all the same.
+RowMarks with_cursor_on_character(const terminal::Row& row, const RowMarks& marks, int columns) {
+    RowMarks moved = marks;
+    moved.cursor_column = std::min(marks.cursor_column, columns - 1);
+    moved.cursor_column -=
+        moved.cursor_column > 0 && cell_at(row, moved.cursor_column).is_wide_tail() ? 1 : 0;
+    return moved;
+}
+
 }  // namespace
 
 TerminalPainter::TerminalPainter(QPainter& painter, const terminal::Terminal& terminal, TerminalFont& font,
@@ -118,7 +127,8 @@ void TerminalPainter::find_runs(const terminal::Row& row, const RowMarks& marks,
     }
 }
 
-void TerminalPainter::draw_row(const terminal::Row& row, const RowMarks& marks, QPoint origin, int columns) {
+void TerminalPainter::draw_row(const terminal::Row& row, const RowMarks& given, QPoint origin, int columns) {
+    const RowMarks marks = with_cursor_on_character(row, given, columns);
     find_runs(row, marks, columns);
     draw_backgrounds(origin);
     for (const Run& run : runs_) {
@@ -127,7 +137,7 @@ void TerminalPainter::draw_row(const terminal::Row& row, const RowMarks& marks, 
             draw_lines(run, origin);
         }
     }
-    draw_cursor(row, marks, origin, columns);
+    draw_cursor(row, marks, origin);
     draw_preedit(marks, origin, columns);
 }
 
@@ -270,9 +280,8 @@ void TerminalPainter::draw_underline(const Look& look, int x, int y, int width) 
     }
 }
 
-void TerminalPainter::draw_cursor(const terminal::Row& row, const RowMarks& marks, QPoint origin,
-                                  int columns) {
-    const int column = std::min(marks.cursor_column, columns - 1);
+void TerminalPainter::draw_cursor(const terminal::Row& row, const RowMarks& marks, QPoint origin) {
+    const int column = marks.cursor_column;
     const int line = 2 * font_.line_width();
     const int cells = cell_at(row, column).is_wide() ? 2 : 1;
     const QRect cell(origin.x() + column * font_.cell_width(), origin.y(), cells * font_.cell_width(),

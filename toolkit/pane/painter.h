@@ -79,7 +79,7 @@ class TerminalPainter {
     void flush_glyphs(const Look& look);
     void draw_lines(const Run& run, QPoint origin);
     void draw_underline(const Look& look, int x, int y, int width);
-    void draw_cursor(const terminal::Row& row, const RowMarks& marks, QPoint origin, int columns);
+    void draw_cursor(const terminal::Row& row, const RowMarks& marks, QPoint origin);
     void draw_preedit(const RowMarks& marks, QPoint origin, int columns);
 
     QPainter& painter_;

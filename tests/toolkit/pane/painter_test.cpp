@@ -198,16 +198,19 @@ TEST_F(TerminalPainterTest, CursorHasTheShapeAskedFor) {
         const char* name;
         const char* shape;  ///< DECSCUSR, then the character under the cursor
         bool top_left, top_right, bottom_right;
+        const char* move = "\033[H";
     } const rows[]{
         {"block", "2 q ", true, true, true},
         {"underline", "4 q ", false, false, true},
         {"bar", "6 q ", true, false, false},
         {"wide_block", "2 q\u4e2d", true, true, true},
         {"wide_underline", "4 q\u4e2d", false, false, true},
+        {"wide_block_on_its_second_cell", "2 q\u4e2d", true, true, true, "\033[;2H"},
+        {"wide_bar_on_its_second_cell", "6 q\u4e2d", true, false, false, "\033[;2H"},
     };
     const QRgb colour = to_qrgb(terminal_colours::cursor);
     for (const auto& row : rows) {
-        look_at(std::string("\033[?25h\033[") + row.shape + "\033[H");
+        look_at(std::string("\033[?25h\033[") + row.shape + row.move);
         const bool wide = std::string_view(row.name).starts_with("wide");
         const QRect place = area(0, 0) | area(wide ? 1 : 0, 0);
         EXPECT_EQ(pixel(place.topLeft()) == colour, row.top_left) << row.name;
