@@ -14,6 +14,7 @@
 #include <QPushButton>
 #include <QSysInfo>
 #include <QUrl>
+#include <QUrlQuery>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -36,6 +37,15 @@ bool is_document(const std::string& path) {
     return std::any_of(document_classes.begin(), document_classes.end(),
                        [&](std::string_view start) { return type.starts_with(start); }) ||
            std::find(document_types.begin(), document_types.end(), type) != document_types.end();
+}
+
+/// Mail programs know further fields than RFC 6068's, such as "attach", which names a file to be sent.
+bool only_words_a_mail(const QUrl& url) {
+    constexpr std::array<std::string_view, 5> fields{"to", "cc", "bcc", "subject", "body"};
+    const auto items = QUrlQuery(url).queryItems(QUrl::FullyDecoded);
+    return std::all_of(items.begin(), items.end(), [&](const auto& item) {
+        return std::ranges::find(fields, from_qstring(item.first.toLower())) != fields.end();
+    });
 }
 
 std::string file_refusal(const QUrl& url, std::string_view host) {
@@ -116,7 +126,11 @@ std::string link_refusal(std::string_view address, std::string_view host) {
     if (std::find(schemes.begin(), schemes.end(), scheme) == schemes.end()) {
         return fmt::format("Links to \"{}:\" are not opened: they could start a program.", scheme);
     }
-    return scheme != "mailto" && url.host().isEmpty() ? "The address names no host." : std::string();
+    if (scheme == "mailto") {
+        return only_words_a_mail(url) ? std::string()
+                                      : "The mail would hold more than text: it could take a file along.";
+    }
+    return url.host().isEmpty() ? "The address names no host." : std::string();
 }
 
 void offer_link(QWidget* parent, const std::string& address) {

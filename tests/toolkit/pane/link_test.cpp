@@ -28,7 +28,9 @@ TEST(TerminalLink, OnlyWhatShowsSomethingIsOpened) {
     } rows[]{
         {"https://example.org/a?b=c#d", ""},
         {"HTTP://example.org", ""},
-        {"mailto:user@example.org", ""},
+        {"mailto:user@example.org?Subject=a%20b&cc=x@example.org&body=c", ""},
+        {"mailto:user@example.org?subject=a&attach=/etc/passwd", "take a file along"},
+        {"mailto:user@example.org?%41ttachment=/etc/passwd", "take a file along"},
         {"file://" + here, ""},
         {"file://" + here + "/notes.txt", ""},
         {"file:" + here + "/notes.txt", ""},
