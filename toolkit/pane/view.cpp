@@ -38,6 +38,7 @@ TerminalView::TerminalView(TerminalSession& session, QScrollBar& scroll_bar, QWi
                  .text = [this] { blink_text(); },
                  .flash = [this] { update(flash_area()); }}),
       frames_([this] { frame(); }),
+      match_(session.terminal()),
       menu_(new QMenu(this)) {
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_OpaquePaintEvent);
@@ -74,13 +75,18 @@ void TerminalView::resizeEvent(QResizeEvent* /*event*/) {
 void TerminalView::fit_to_size() {
     const terminal::Size size = viewport_.room_for_text();
     if (laid_out_ && size != terminal().size() && !settle_timer_.isActive()) {
-        std::vector<Position> anchors(selection_.anchors().begin(), selection_.anchors().end());
-        anchors.insert(anchors.end(), {match_.begin, match_.end, Position{viewport_.top_row(), 0}});
+        std::vector<Position> anchors{{viewport_.top_row(), 0}};
+        for (TerminalSelection* marked : {&selection_, &match_}) {
+            anchors.insert(anchors.end(), marked->anchors().begin(), marked->anchors().end());
+        }
         session_.resize(size, size.columns * font_->cell_width(), size.rows * font_->cell_height(), anchors);
-        std::copy_n(anchors.begin(), selection_.anchors().size(), selection_.anchors().begin());
-        selection_.anchors_moved();
-        match_ = {anchors[anchors.size() - 3], anchors[anchors.size() - 2]};
-        viewport_.top_row_moved(anchors.back().row);
+        viewport_.top_row_moved(anchors.front().row);
+        auto moved = std::next(anchors.begin());
+        for (TerminalSelection* marked : {&selection_, &match_}) {
+            std::copy_n(moved, marked->anchors().size(), marked->anchors().begin());
+            moved += std::ssize(marked->anchors());
+            marked->anchors_moved();
+        }
     }
     refresh_all();
 }
@@ -131,7 +137,7 @@ TerminalView::Picture TerminalView::picture_of(RowId row) const {
     Picture picture{row, shown.stamp, {}};
     picture.marks.link = mouse_.hovered_link_in(shown);
     picture.marks.selection = columns_of(selection_.range());
-    picture.marks.match = columns_of(match_);
+    picture.marks.match = columns_of(match_.range());
     const terminal::Cursor cursor = terminal().cursor();
     if (cursor.position.row == row) {
         picture.marks.cursor = cursor_look();
@@ -213,6 +219,7 @@ void TerminalView::refresh() {
     if (selection_.drop_if_changed()) {
         mouse_.stop_selecting();
     }
+    match_.drop_if_changed();
     viewport_.keep_to_text();
     update_scroll_bar();
     repaint_all_if_colours_changed();
@@ -231,6 +238,10 @@ void TerminalView::refresh() {
         }
     }
     blinking_.follow_cursor(terminal().cursor(), hasFocus());
+    if (const QRect area = cell_area(terminal().cursor().position); hasFocus() && area != cursor_area_) {
+        cursor_area_ = area;
+        updateMicroFocus(Qt::ImCursorRectangle);  // what is being composed stands there
+    }
 }
 
 void TerminalView::paintEvent(QPaintEvent* event) {

@@ -61,9 +61,9 @@ class TerminalView final : public QWidget {
     enum class PasteSource : std::uint8_t { clipboard, primary };
     void paste(PasteSource source);
 
-    /// The find bar's match, shown in a colour of its own; an empty range for none.
+    /// The find bar's match, shown in a colour of its own until its text changes; an empty range for none.
     void set_match(terminal::Range match);
-    [[nodiscard]] terminal::Range match() const { return match_; }
+    [[nodiscard]] terminal::Range match() const { return match_.range(); }
 
     // Geometry, in the widget's coordinates.
     [[nodiscard]] terminal::Position position_at(QPointF point) const { return viewport_.position_at(point); }
@@ -149,16 +149,17 @@ class TerminalView final : public QWidget {
     Blinking blinking_;
     FramePacer frames_;
 
-    terminal::Range match_;
-    QTimer settle_timer_;    ///< runs while the window follows the terminal's size
-    QSize settled_size_;     ///< ours when it has
-    bool laid_out_ = false;  ///< has a size of its own; till then the terminal keeps the standard one
+    TerminalSelection match_;  ///< the find bar's
+    QTimer settle_timer_;      ///< runs while the window follows the terminal's size
+    QSize settled_size_;       ///< ours when it has
+    bool laid_out_ = false;    ///< has a size of its own; till then the terminal keeps the standard one
 
     std::function<bool(KeyEvent&)> interposer_;
     QMenu* menu_;
     std::function<void(QPoint)> show_menu_;
     std::function<void()> show_find_;
     QString preedit_;
+    QRect cursor_area_;        ///< as the input method was told
     bool publishing_ = false;  ///< the change of the primary selection is our own doing
 
     std::vector<Picture> pictures_;

@@ -63,7 +63,7 @@ void TerminalView::type_paste(const std::string& text) {
 }
 
 void TerminalView::set_match(terminal::Range match) {
-    match_ = match;
+    match_.select(match);
     if (!match.empty()) {
         show_row(match.begin.row);
     }

@@ -5,6 +5,7 @@
 #include "toolkit/resource_database.h"
 
 #include <QAction>
+#include <QInputMethod>
 #include <QLineEdit>
 #include <QScrollBar>
 
@@ -54,6 +55,17 @@ TEST_F(TerminalPaneTest, InputBeforeTheStartWaitsAndOutputOfTheToolIsShownAtOnce
     ttysw_output(pane, "shown\n");
     EXPECT_TRUE(wait_for_text("got one two")) << text();
     EXPECT_TRUE(text().starts_with("shown\n")) << text();
+}
+
+TEST_F(TerminalPaneTest, InputMethodIsToldWhereTheCursorMoves) {
+    int told = 0;
+    QObject::connect(QGuiApplication::inputMethod(), &QInputMethod::cursorRectangleChanged, &window,
+                     [&told] { ++told; });
+    ASSERT_TRUE(wait([&] { return QGuiApplication::focusObject() == &view(); }));
+    QTest::qWait(50);
+    told = 0;
+    ttysw_output(pane, "moved");
+    EXPECT_TRUE(wait([&] { return told > 0; }));
 }
 
 TEST_F(TerminalPaneTest, InterposerSeesConsumesAndRecodesKeys) {
@@ -219,6 +231,9 @@ TEST_F(TerminalPaneTest, StateOfTheShellIsKnown) {
     ASSERT_TRUE(wait_for_text("prompt> "));
     EXPECT_EQ(bells, 1);
     EXPECT_EQ(pane.current_line().before, "prompt> ");
+    view().clearFocus();
+    view().setFocus();
+    EXPECT_TRUE(pane.current_line().settled) << "no key was typed";
     EXPECT_TRUE(pane.reads_lines());
     press(Qt::Key_Return);
     ASSERT_TRUE(wait_for_text("raw"));

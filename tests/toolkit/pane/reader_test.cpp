@@ -201,6 +201,8 @@ TEST_F(TerminalFindTest, FindsTheLatestMatchAndGoesRound) {
     EXPECT_EQ(matched_column(), 2) << "round to the first";
     field->parentWidget()->findChild<QCheckBox*>()->click();
     EXPECT_EQ(result(), "2 matches");
+    show_text("\033[1;3HT");
+    EXPECT_TRUE(wait([this] { return view().match().empty(); })) << "its text has changed";
     type("nowhere");
     EXPECT_EQ(result(), "Not found");
     EXPECT_TRUE(view().match().empty());
