@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "toolkit/pane/pty_stream.h"
 
-#include <array>
 #include <utility>
 
 #include <poll.h>
@@ -10,11 +9,11 @@ namespace {
 
 using terminal::Pty;
 
-// One turn of the event loop takes at most this much output, so that keys and painting get their turn.
-constexpr std::size_t slice_bytes = 262'144;
-constexpr std::size_t read_bytes = 16'384;
+// One turn of the event loop works for so long, so that keys and painting get their turn. A few bytes can ask
+// for much work, such as one that repeats a character does: the clock is looked at every so many.
 constexpr int slice_milliseconds = 3;
-constexpr int hung_up_interval_milliseconds = 100;
+constexpr std::size_t piece_bytes = 1024;
+constexpr std::size_t last_words_limit = 262'144;
 // How long an echo may take, and how long nothing more follows once it has come.
 constexpr int echo_limit_milliseconds = 100;
 constexpr int echo_quiet_milliseconds = 20;
@@ -27,21 +26,19 @@ constexpr std::size_t unread_replies_limit = 1'048'576;
 
 PtyStream::PtyStream(std::unique_ptr<Pty> pty, Events events)
     : pty_(std::move(pty)),
+      reader_(std::make_unique<PtyReader>(*pty_)),
       events_(std::move(events)),
-      readable_(pty_->descriptor(), QSocketNotifier::Read),
+      readable_(reader_->descriptor(), QSocketNotifier::Read),
       writable_(pty_->descriptor(), QSocketNotifier::Write) {
     writable_.setEnabled(false);
-    hung_up_.setInterval(hung_up_interval_milliseconds);
-    hung_up_.setSingleShot(true);
     connect(&readable_, &QSocketNotifier::activated, this, [this] { read_slice(); });
     connect(&writable_, &QSocketNotifier::activated, this, [this] { write_pending(); });
-    connect(&hung_up_, &QTimer::timeout, this, [this] { readable_.setEnabled(true); });
 }
 
 void PtyStream::close() {
     readable_.setEnabled(false);
     writable_.setEnabled(false);
-    hung_up_.stop();
+    reader_.reset();
     pty_.reset();
 }
 
@@ -51,6 +48,9 @@ void PtyStream::write(std::string_view bytes) {
 }
 
 void PtyStream::type(std::string_view bytes) {
+    if (bytes.empty()) {
+        return;  // there is nothing to answer
+    }
     write(bytes);
     since_key_.start();
     echo_due_ = true;
@@ -75,8 +75,8 @@ void PtyStream::await_echo() {
     QElapsedTimer clock;
     clock.start();
     while (pty_ && clock.elapsed() <= echo_limit_milliseconds) {
-        pollfd output{.fd = pty_->descriptor(), .events = POLLIN, .revents = 0};
-        if (poll(&output, 1, wait) <= 0 || (output.revents & POLLIN) == 0) {
+        pollfd output{.fd = reader_->descriptor(), .events = POLLIN, .revents = 0};
+        if (poll(&output, 1, wait) <= 0) {
             return;
         }
         read_slice();
@@ -85,39 +85,50 @@ void PtyStream::await_echo() {
 }
 
 void PtyStream::read_slice() {
-    QElapsedTimer clock;
-    clock.start();
-    std::array<char, read_bytes> buffer;
-    std::size_t total = 0;
-    auto state = Pty::ReadState::data;
-    while (total < slice_bytes && !clock.hasExpired(slice_milliseconds)) {
-        const Pty::ReadResult result = pty_->read(buffer);
-        state = result.state;
-        if (state != Pty::ReadState::data) {
-            break;
-        }
-        events_.output({buffer.data(), result.size});
-        total += result.size;
-    }
+    reader_->acknowledge();
+    const std::size_t total = read_pieces();
     if (total > 0) {
         echo_due_ = false;
         events_.slice_read();
     }
-    if (state == Pty::ReadState::hung_up) {
-        // Most likely the program has ended; else somebody may open the terminal again.
-        readable_.setEnabled(false);
-        hung_up_.start();
-        events_.hung_up();
+    end_slice();
+}
+
+/// Until the slice's time is over, or there is nothing more.
+std::size_t PtyStream::read_pieces() {
+    QElapsedTimer clock;
+    clock.start();
+    std::size_t total = 0;
+    while (!clock.hasExpired(slice_milliseconds)) {
+        const std::string_view piece = reader_->unread().substr(0, piece_bytes);
+        if (piece.empty()) {
+            break;
+        }
+        events_.output(piece);
+        reader_->consume(piece.size());
+        total += piece.size();
+    }
+    return total;
+}
+
+void PtyStream::end_slice() {
+    if (!reader_->unread().empty()) {
+        reader_->call_again();
+    } else if (last_words_) {
+        const bool more = *last_words_ < last_words_limit && reader_->fill() == Pty::ReadState::data;
+        if (!more) {
+            return events_.last_words_read();
+        }
+        *last_words_ += reader_->unread().size();
+    } else if (reader_->hung_up()) {
+        events_.hung_up();  // most likely the program has ended; else somebody may open the terminal again
     }
 }
 
 void PtyStream::read_last_words() {
-    std::array<char, read_bytes> buffer;
-    std::size_t total = 0;
-    auto result = pty_->read(buffer);
-    while (result.state == Pty::ReadState::data && total < slice_bytes) {
-        events_.output({buffer.data(), result.size});
-        total += result.size;
-        result = pty_->read(buffer);
+    if (!last_words_) {
+        last_words_ = 0;
+        reader_->stop();
+        reader_->call_again();
     }
 }

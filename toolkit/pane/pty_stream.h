@@ -2,14 +2,15 @@
 #pragma once
 
 #include "terminal/pty.h"
+#include "toolkit/pane/pty_reader.h"
 
 #include <QElapsedTimer>
 #include <QObject>
 #include <QSocketNotifier>
-#include <QTimer>
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string_view>
 
 /// Moves bytes between a program on a pty and its terminal: what the program writes in bounded slices of the
@@ -21,6 +22,7 @@ class PtyStream final : public QObject {
         std::function<void(std::string_view)> output;  ///< some of what the program has written
         std::function<void()> slice_read;              ///< the output of a slice has been given
         std::function<void()> hung_up;                 ///< nobody holds the terminal open just now
+        std::function<void()> last_words_read;         ///< of a program that has ended
     };
 
     PtyStream(std::unique_ptr<terminal::Pty> pty, Events events);
@@ -31,7 +33,7 @@ class PtyStream final : public QObject {
 
     /// Queues bytes for the program, in order and without loss.
     void write(std::string_view bytes);
-    /// The same for a key, which the program is expected to answer.
+    /// The same for keys, which the program is expected to answer.
     void type(std::string_view bytes);
     /// The same for the terminal's own answers: they are dropped where a program asks and asks and does not
     /// read them.
@@ -42,18 +44,22 @@ class PtyStream final : public QObject {
     void await_echo();
     /// The program has not answered the last key yet.
     [[nodiscard]] bool echo_is_due() const { return echo_due_; }
-    /// Reads the last words of a program that has ended. Jobs it left behind must not keep us here.
+    /// Goes on with the last words of a program that has ended, and then tells so. Jobs it left behind must
+    /// not keep us here.
     void read_last_words();
 
   private:
     void read_slice();
+    [[nodiscard]] std::size_t read_pieces();
+    void end_slice();
     void write_pending();
 
     std::unique_ptr<terminal::Pty> pty_;
+    std::unique_ptr<PtyReader> reader_;
     Events events_;
     QSocketNotifier readable_;
     QSocketNotifier writable_;
-    QTimer hung_up_;  ///< looks after a program that has closed its terminal but not ended
+    std::optional<std::size_t> last_words_;  ///< of a program that has ended: so much was read
     QElapsedTimer since_key_;
     bool echo_due_ = false;  ///< a key was typed and nothing has been read since
 };

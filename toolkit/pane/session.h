@@ -50,10 +50,11 @@ class TerminalSession final : private terminal::Client {
     void start(const terminal::Program& program) { life_.start(program, room_); }
     void restart() { life_.restart(room_); }
 
-    /// Gives the program what the user types; the tool's own commands once it is ready for them
-    /// (`ShellLife`).
+    /// Gives the program what the user types, the tool's own commands once it is ready for them, and what it
+    /// has asked to be told (`ShellLife`).
     void type(std::string_view bytes);
     void submit(std::string_view bytes);
+    void report(std::string_view bytes) { life_.report(bytes); }
     /// Reads what the program is about to echo of keys (`PtyStream::await_echo`).
     void await_echo();
     /// The program has not answered the last key yet.

@@ -66,14 +66,16 @@ void ShellLife::open(std::unique_ptr<terminal::Pty> pty) {
         exited_ = std::make_unique<QSocketNotifier>(pty->exit_descriptor(), QSocketNotifier::Read);
         QObject::connect(exited_.get(), &QSocketNotifier::activated, [this] { check_for_end(); });
     }
-    stream_ = std::make_unique<PtyStream>(std::move(pty),
-                                          PtyStream::Events{.output = events_.output,
-                                                            .slice_read =
-                                                                [this] {
-                                                                    readiness_.output_came();
-                                                                    events_.slice_read();
-                                                                },
-                                                            .hung_up = [this] { check_for_end(); }});
+    stream_ = std::make_unique<PtyStream>(
+        std::move(pty),
+        PtyStream::Events{.output = events_.output,
+                          .slice_read =
+                              [this] {
+                                  readiness_.output_came();
+                                  events_.slice_read();
+                              },
+                          .hung_up = [this] { check_for_end(); },
+                          .last_words_read = [this] { finish(end_text(*stream_->pty().exit_status())); }});
 }
 
 /// May be called by what is dropped: that is destroyed later.
@@ -101,11 +103,17 @@ void ShellLife::type(std::string_view bytes) {
     }
 }
 
+void ShellLife::report(std::string_view bytes) {
+    if (stream_) {
+        stream_->write(bytes);
+    }
+}
+
 void ShellLife::submit(std::string_view bytes) {
     if (state_ == State::idle || state_ == State::starting) {
         held_back_.append(bytes);
-    } else if (stream_) {
-        stream_->write(bytes);
+    } else {
+        report(bytes);
     }
 }
 
@@ -127,9 +135,11 @@ void ShellLife::watch_readiness() {
 }
 
 void ShellLife::check_for_end() {
-    if (const std::optional<int> status = stream_ ? stream_->pty().exit_status() : std::nullopt) {
+    if (stream_ && stream_->pty().exit_status()) {
+        if (exited_) {
+            exited_->setEnabled(false);
+        }
         stream_->read_last_words();
-        finish(end_text(*status));
     }
 }
 

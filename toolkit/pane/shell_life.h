@@ -44,6 +44,8 @@ class ShellLife {
     /// Bytes for the program. After it has ended they are dropped: the announcement is still the last line to
     /// be seen, and a later shell must not run what was meant for an earlier one.
     void type(std::string_view bytes);
+    /// The same for what the program need not answer.
+    void report(std::string_view bytes);
     /// The same for the tool's own commands: while the program is still busy with its start-up files they are
     /// held back, so that no question asked there takes them for the answer.
     void submit(std::string_view bytes);

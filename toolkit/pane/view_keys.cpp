@@ -189,7 +189,7 @@ void TerminalView::focusInEvent(QFocusEvent* /*event*/) { focus_changed(true); }
 void TerminalView::focusOutEvent(QFocusEvent* /*event*/) { focus_changed(false); }
 
 void TerminalView::focus_changed(bool has_focus) {
-    session_.type(terminal::encode_focus(has_focus, terminal().modes()));
+    session_.report(terminal::encode_focus(has_focus, terminal().modes()));
     blinking_.restart_cursor(terminal().cursor(), has_focus);
     content_changed();
 }
