@@ -15,15 +15,19 @@ constexpr std::size_t longest_selection = 999;
 constexpr std::size_t longest_answered_selection = 1000;  ///< a longer one is called too long
 
 constexpr std::string_view holds_control_characters = "Selection holds control characters";
+constexpr std::string_view did_not_answer = "Selection did not answer";
 
 /// The first line as it is.
 SelectedText first_line(const SelectionMessages& messages) {
-    const std::string selection = selection_ask().value_or(std::string());
-    if (selection.size() > longest_answered_selection) {
+    const SelectionAnswer answer = selection_ask(longest_answered_selection);
+    if (answer.kind == SelectionAnswer::Kind::silent) {
+        return {.refusal = Message(did_not_answer)};
+    }
+    if (answer.kind == SelectionAnswer::Kind::too_long) {
         return {.refusal = Message(messages.too_long)};
     }
-    SelectedText selected{.text =
-                              selection.size() <= longest_selection ? remove_nl(selection) : std::string()};
+    SelectedText selected{.text = answer.text.size() <= longest_selection ? remove_nl(answer.text)
+                                                                          : std::string()};
     selected.refusal = selected.text.empty() ? messages.none : "";
     return selected;
 }
@@ -38,10 +42,7 @@ SelectedText checked(SelectedText selected) {
 
 }  // namespace
 
-std::string get_seln() {
-    std::string selection = selection_ask().value_or(std::string());
-    return selection.size() <= longest_selection ? selection : std::string();
-}
+std::string get_seln() { return selection_ask(longest_selection).text; }
 
 SelectedText selected_text(const SelectionMessages& messages) {
     SelectedText selected = first_line(messages);

@@ -7,13 +7,11 @@
 #include "toolkit/menu_button.h"
 #include "toolkit/message_item.h"
 #include "toolkit/scrolling_list.h"
-#include "toolkit/selection.h"
 #include "toolkit/text_pane.h"
 
 #include <QAbstractButton>
 #include <QAccessible>
 #include <QApplication>
-#include <QClipboard>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -192,15 +190,6 @@ TEST_F(Controls, TextGoesInAtTheInsertionPoint) {
     EXPECT_EQ(sample.pane.text(), "one\ntwo\nthree\nfour");
     textsw_reset(sample.pane);
     EXPECT_EQ(sample.pane.text(), "");
-}
-
-TEST_F(Controls, ThePrimarySelectionIsText) {
-    QApplication::clipboard()->setText(QStringLiteral("a\nb \u00e9"), QClipboard::Selection);
-    EXPECT_TRUE(selection_inquire());
-    EXPECT_EQ(selection_ask(), "a\nb \xC3\xA9");
-    QApplication::clipboard()->clear(QClipboard::Selection);
-    EXPECT_FALSE(selection_inquire());
-    EXPECT_EQ(selection_ask(), std::nullopt);
 }
 
 TEST_F(Controls, WhatAProcedureAnswersIsShownInTheWindowOfItsControl) {

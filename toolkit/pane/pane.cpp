@@ -149,8 +149,8 @@ void PaneWidget::fill_menu(const std::string& link) {
         menu.addSeparator();
     }
     add("Copy", "Ctrl+Shift+C", [this] { view_->copy(); })->setEnabled(!view_->selection().empty());
-    add("Paste", "Ctrl+Shift+V", [this] { view_->paste(TerminalView::PasteSource::clipboard); });
-    add("Paste Selection", "Shift+Ins", [this] { view_->paste(TerminalView::PasteSource::primary); });
+    add("Paste", "Ctrl+Shift+V", [this] { view_->paste(SelectionName::clipboard); });
+    add("Paste Selection", "Shift+Ins", [this] { view_->paste(SelectionName::primary); });
     menu.addSeparator();
     add("Find...", "Ctrl+Shift+F", [this] { find_bar_->open(); });
     add("Clear", "", [this] { session_.clear(); });

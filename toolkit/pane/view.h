@@ -10,6 +10,7 @@
 #include "toolkit/pane/selection.h"
 #include "toolkit/pane/session.h"
 #include "toolkit/pane/viewport.h"
+#include "toolkit/selection.h"
 
 #include <QTimer>
 #include <QWidget>
@@ -58,8 +59,7 @@ class TerminalView final : public QWidget {
     void select(terminal::Range range);
     void clear_selection();
     void copy();
-    enum class PasteSource : std::uint8_t { clipboard, primary };
-    void paste(PasteSource source);
+    void paste(SelectionName source);
 
     /// The find bar's match, shown in a colour of its own until its text changes; an empty range for none.
     void set_match(terminal::Range match);
@@ -163,6 +163,7 @@ class TerminalView final : public QWidget {
     bool publishing_ = false;  ///< the change of the primary selection is our own doing
 
     std::vector<Picture> pictures_;
+    std::size_t next_line_ = 0;           ///< to be painted after the cursor's
     std::vector<terminal::Rgb> colours_;  ///< painted with
     bool reverse_video_ = false;          ///< painted so
 };

@@ -42,9 +42,9 @@ void TerminalView::copy() {
     }
 }
 
-void TerminalView::paste(PasteSource source) {
-    const auto mode = source == PasteSource::primary ? QClipboard::Selection : QClipboard::Clipboard;
-    const std::string text = from_qstring(QGuiApplication::clipboard()->text(mode));
+void TerminalView::paste(SelectionName source) {
+    constexpr std::size_t longest = 16'777'216;
+    const std::string text = selection_ask(longest, source).text;
     if (text.empty() || session_.has_ended()) {
         return;
     }

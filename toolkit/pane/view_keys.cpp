@@ -74,7 +74,7 @@ bool TerminalView::handle_own_key(const QKeyEvent& event) {
                 copy();
                 return true;
             case Qt::Key_V:
-                paste(PasteSource::clipboard);
+                paste(SelectionName::clipboard);
                 return true;
             case Qt::Key_F:
                 show_find_();
@@ -98,7 +98,7 @@ bool TerminalView::handle_own_key(const QKeyEvent& event) {
         return true;
     }
     if (event.key() == Qt::Key_Insert && modifiers == Qt::ShiftModifier) {
-        paste(PasteSource::primary);
+        paste(SelectionName::primary);
         return true;
     }
     return modifiers == Qt::ShiftModifier && handle_scroll_key(event);
