@@ -43,6 +43,8 @@
 #include <cstdio>
 #include <cstdlib>
 #include <ctime>
+#include <memory>
+#include <utility>
 
 #include <unistd.h>
 
@@ -56,15 +58,22 @@ void send_with_path(CommandLine line, const std::string& path) {
     (void)send_at_startup(line, refresh_after_command);
 }
 
-void connect_to_display(std::vector<std::string>& arguments) {
-    const std::string failure = xv_init(arguments);
+/// The shell is started as soon as the display has answered: its start-up files take longest of all. A
+/// failure is met again, and shown, when there is a terminal.
+std::unique_ptr<terminal::Pty> connect_to_display(std::vector<std::string>& arguments) {
+    std::unique_ptr<terminal::Pty> shell;
+    const std::string failure = xv_init(arguments, [&shell] {
+        std::string error;
+        shell = terminal::Pty::start(login_shell(), {}, error);
+    });
     if (!failure.empty()) {
         std::fprintf(stderr, "%s\n", failure.c_str());
         std::exit(1);
     }
+    return shell;
 }
 
-void make_windows() {
+void make_windows(std::unique_ptr<terminal::Pty> shell) {
     ImageButton::set_picture_directory(orvik_home + "/icons");
     create_main_window();
     apply_geometry_option(main_window());
@@ -72,7 +81,7 @@ void make_windows() {
     // yet.
     main_window().termpane.set_events(
         {.ready = [] { SetupTimer(refresh_after_login); }, .restarted = [] { (void)type_prompt_hooks(); }});
-    main_window().termpane.start(login_shell());
+    main_window().termpane.start(login_shell(), std::move(shell));
     create_popups();  // while the shell starts
 }
 
@@ -165,8 +174,7 @@ void log_in_to(const std::string& host) {
 void start_up(std::vector<std::string> arguments) {
     std::signal(SIGPIPE, SIG_IGN);  // nobody may be reading the standard error
     read_process_values();
-    connect_to_display(arguments);
-    make_windows();
+    make_windows(connect_to_display(arguments));
     find_fonts();
     interpose_terminal_keys();
     main_window().on_close(Quit_button);

@@ -162,11 +162,14 @@ std::string display_failure(const std::string& name) {
 
 }  // namespace
 
-std::string xv_init(std::vector<std::string>& arguments) {
+std::string xv_init(std::vector<std::string>& arguments, const std::function<void()>& display_answered) {
     const ToolkitOptions options = take_options(arguments);
     Display* display = XOpenDisplay(options.display.empty() ? nullptr : options.display.c_str());
     if (display == nullptr) {
         return display_failure(options.display);
+    }
+    if (display_answered) {
+        display_answered();
     }
     load_resource_database(XResourceManagerString(display), options.resources);
 

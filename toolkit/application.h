@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -9,8 +10,10 @@ class Frame;
 /// Connects to the X server and readies the toolkit. The toolkit's own options are taken out of `arguments`:
 /// "-display NAME", "-geometry GEOMETRY" (X's form; pixels; for the main window) and "-xrm RESOURCE". On
 /// failure the result says why in one line, else it is empty. Called once, before anything else of the
-/// toolkit.
-[[nodiscard]] std::string xv_init(std::vector<std::string>& arguments);
+/// toolkit. Once the display has answered, and before the toolkit takes its time, `display_answered` is
+/// called: for what needs no toolkit.
+[[nodiscard]] std::string xv_init(std::vector<std::string>& arguments,
+                                  const std::function<void()>& display_answered = {});
 
 /// Gives the main window the size and place of the -geometry option, if there was one.
 void apply_geometry_option(Frame& main_window);

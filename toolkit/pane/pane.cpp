@@ -173,7 +173,9 @@ TerminalPane::TerminalPane(QWidget* parent, std::string_view accessible_name)
     pane_->view().setAccessibleName(to_qstring(accessible_name));
 }
 
-void TerminalPane::start(const terminal::Program& program) { pane_->session().start(program); }
+void TerminalPane::start(const terminal::Program& program, std::unique_ptr<terminal::Pty> started) {
+    pane_->session().start(program, std::move(started));
+}
 
 QWidget* TerminalPane::widget() const { return pane_; }
 

@@ -9,6 +9,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -28,8 +29,9 @@ class TerminalPane {
     TerminalPane(Container& parent, std::string_view accessible_name);
     TerminalPane(QWidget* parent, std::string_view accessible_name);
 
-    /// Starts the program. When it has ended, the pane says so, and Return starts it again.
-    void start(const terminal::Program& program);
+    /// Starts the program, or takes over one that was started already. When it has ended, the pane says so,
+    /// and Return starts it again.
+    void start(const terminal::Program& program, std::unique_ptr<terminal::Pty> started = {});
 
     [[nodiscard]] QWidget* widget() const;
     void set_font(const Font& font);

@@ -46,8 +46,11 @@ class TerminalSession final : private terminal::Client {
     void set_surroundings(Surroundings surroundings) { surroundings_ = std::move(surroundings); }
     void permit(const terminal::Permissions& permissions) { terminal_.permit(permissions); }
 
-    /// Starts the program, and after it has ended starts it anew. A failure is shown in the terminal.
-    void start(const terminal::Program& program) { life_.start(program, room_); }
+    /// Starts the program, and after it has ended starts it anew (`ShellLife`). A failure is shown in the
+    /// terminal.
+    void start(const terminal::Program& program, std::unique_ptr<terminal::Pty> started) {
+        life_.start(program, room_, std::move(started));
+    }
     void restart() { life_.restart(room_); }
 
     /// Gives the program what the user types, the tool's own commands once it is ready for them, and what it

@@ -32,25 +32,28 @@ ShellLife::ShellLife(Events events)
     QObject::connect(&readiness_timer_, &QTimer::timeout, [this] { watch_readiness(); });
 }
 
-void ShellLife::start(const terminal::Program& program, const Room& room) {
+void ShellLife::start(const terminal::Program& program, const Room& room,
+                      std::unique_ptr<terminal::Pty> started) {
     program_ = program;
-    run(room);
+    run(room, std::move(started));
 }
 
 void ShellLife::restart(const Room& room) {
-    run(room);
+    run(room, {});
     if (state_ == State::starting) {
         events_.restarted();
     }
 }
 
-void ShellLife::run(const Room& room) {
+void ShellLife::run(const Room& room, std::unique_ptr<terminal::Pty> pty) {
     if (!program_) {
         return;
     }
     drop_stream();
     std::string error;
-    std::unique_ptr<terminal::Pty> pty = terminal::Pty::start(*program_, room.size, error);
+    if (!pty) {
+        pty = terminal::Pty::start(*program_, room.size, error);
+    }
     if (!pty) {
         return finish(fmt::format("[shell can't be started: {}; press Return to try again]", error));
     }

@@ -36,8 +36,8 @@ class ShellLife {
 
     explicit ShellLife(Events events);
 
-    /// Starts the program, and after it has ended starts it anew.
-    void start(const terminal::Program& program, const Room& room);
+    /// Starts the program, or takes over one that was started already, and after it has ended starts it anew.
+    void start(const terminal::Program& program, const Room& room, std::unique_ptr<terminal::Pty> started);
     void restart(const Room& room);
     void resize(const Room& room);
 
@@ -58,7 +58,7 @@ class ShellLife {
   private:
     enum class State : std::uint8_t { idle, starting, running, ended };
 
-    void run(const Room& room);
+    void run(const Room& room, std::unique_ptr<terminal::Pty> pty);
     void open(std::unique_ptr<terminal::Pty> pty);
     void drop_stream();
     void watch_readiness();

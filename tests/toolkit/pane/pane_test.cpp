@@ -57,6 +57,16 @@ TEST_F(TerminalPaneTest, InputBeforeTheStartWaitsAndOutputOfTheToolIsShownAtOnce
     EXPECT_TRUE(text().starts_with("shown\n")) << text();
 }
 
+TEST_F(TerminalPaneTest, ProgramThatWasStartedAlreadyIsTakenOver) {
+    const terminal::Program program{
+        "/bin/sh", {"sh", "-c", "echo early; read a; stty size"}, {"PATH=/usr/bin:/bin"}, "/"};
+    std::string error;
+    pane.start(program, terminal::Pty::start(program, {}, error));
+    ASSERT_TRUE(wait_for_text("early"));
+    press(Qt::Key_Return);
+    EXPECT_TRUE(wait_for_text(std::to_string(pane.rows()) + " " + std::to_string(pane.columns()))) << text();
+}
+
 TEST_F(TerminalPaneTest, InputMethodIsToldWhereTheCursorMoves) {
     int told = 0;
     QObject::connect(QGuiApplication::inputMethod(), &QInputMethod::cursorRectangleChanged, &window,
