@@ -112,13 +112,35 @@ void key_to_echo_idle(benchmark::State& state) {
     press_keys(state, typist, 30);
 }
 
+std::string coloured_line(int number) {
+    return "\x1b[1;3" + std::to_string(number % 8) + "mline " + std::to_string(number) +
+           "\x1b[0m the quick brown fox jumps over the lazy dog\r\n";
+}
+
+std::string utf8(int code) {
+    return {static_cast<char>(0xc0 | code >> 6), static_cast<char>(0x80 | (code & 0x3f))};
+}
+
+/// Letters with marks over them, ever others: each is laid out anew.
+std::string line_of_clusters(int number) {
+    std::string line;
+    for (int cell = 0; cell < 60; ++cell) {
+        const int serial = number * 60 + cell;
+        line += static_cast<char>('a' + serial % 26);
+        line += utf8(0x300 + serial / 26 % 112) + utf8(0x300 + serial / 2912 % 112);
+    }
+    return line + "\r\n";
+}
+
+/// Few bytes that are much work: a character, 65,535 times over.
+std::string repeated_character(int /*number*/) { return "x\x1b[65535b\r\n"; }
+
 /// While another program shows a large file over and over in the same terminal.
-void key_to_echo_in_a_flood(benchmark::State& state) {
+void key_to_echo_in_a_flood(benchmark::State& state, std::string (*line)(int)) {
     const ScratchDirectory directory;
     std::string text;
-    for (int line = 0; text.size() < 32'000'000; ++line) {
-        text += "\x1b[1;3" + std::to_string(line % 8) + "mline " + std::to_string(line) +
-                "\x1b[0m the quick brown fox jumps over the lazy dog\r\n";
+    for (int number = 0; text.size() < 32'000'000; ++number) {
+        text += line(number);
     }
     directory.write("large", text);
     Typist typist;
@@ -133,4 +155,15 @@ void key_to_echo_in_a_flood(benchmark::State& state) {
 }  // namespace
 
 BENCHMARK(key_to_echo_idle)->UseManualTime()->Iterations(presses)->Unit(benchmark::kMillisecond);
-BENCHMARK(key_to_echo_in_a_flood)->UseManualTime()->Iterations(presses)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(key_to_echo_in_a_flood, coloured, coloured_line)
+    ->UseManualTime()
+    ->Iterations(presses)
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(key_to_echo_in_a_flood, clusters, line_of_clusters)
+    ->UseManualTime()
+    ->Iterations(presses)
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(key_to_echo_in_a_flood, repeated, repeated_character)
+    ->UseManualTime()
+    ->Iterations(presses)
+    ->Unit(benchmark::kMillisecond);

@@ -41,6 +41,10 @@ class TerminalFont {
     [[nodiscard]] quint32 glyph(char32_t character, Face face);
     /// `cells` is 2 for wide characters: emoji are taken from a font that has them in colour.
     [[nodiscard]] const ShapedCell& shaped(const QString& text, Face face, int cells);
+    /// Whether that has been laid out already, which takes long.
+    [[nodiscard]] bool knows(const QString& text, Face face) const {
+        return shaped_[static_cast<std::size_t>(face)].contains(text);
+    }
     /// The characters that are not taken from the font.
     [[nodiscard]] BoxGlyphs& boxes() { return boxes_; }
 

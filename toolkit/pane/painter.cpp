@@ -10,6 +10,8 @@
 
 namespace {
 
+constexpr int frame_milliseconds = 30;  // so long a key may wait while a frame is drawn
+
 using terminal::Cell;
 using terminal::Underline;
 
@@ -41,7 +43,11 @@ RowMarks with_cursor_on_character(const terminal::Row& row, const RowMarks& mark
 
 TerminalPainter::TerminalPainter(QPainter& painter, const terminal::Terminal& terminal, TerminalFont& font,
                                  ScreenLook look)
-    : painter_(painter), terminal_(terminal), font_(font), screen_(look) {}
+    : painter_(painter), terminal_(terminal), font_(font), screen_(look) {
+    clock_.start();
+}
+
+bool TerminalPainter::time_is_over() const { return clock_.hasExpired(frame_milliseconds); }
 
 QRgb TerminalPainter::rgb(terminal::Colour colour, QRgb standard, bool brighten) const {
     switch (colour.kind) {
@@ -129,6 +135,7 @@ void TerminalPainter::find_runs(const terminal::Row& row, const RowMarks& marks,
 
 void TerminalPainter::draw_row(const terminal::Row& row, const RowMarks& given, QPoint origin, int columns) {
     const RowMarks marks = with_cursor_on_character(row, given, columns);
+    row_is_unfinished_ = false;
     find_runs(row, marks, columns);
     draw_backgrounds(origin);
     for (const Run& run : runs_) {
@@ -188,6 +195,10 @@ void TerminalPainter::draw_cell(const Cell& cell, const Look& look, int column, 
 
 /// Text of a cell in whatever font has it: centred when it is narrower than the cell, squeezed when wider.
 void TerminalPainter::draw_shaped(const QString& text, const Look& look, int cells, QPointF base) {
+    if (time_is_over() && !font_.knows(text, look.face)) {
+        row_is_unfinished_ = true;
+        return;
+    }
     const ShapedCell& shaped = font_.shaped(text, look.face, cells);
     const qreal room = cells * font_.cell_width();
     if (shaped.width <= room + 1) {

@@ -4,6 +4,7 @@
 #include "terminal/terminal.h"
 #include "toolkit/pane/font.h"
 
+#include <QElapsedTimer>
 #include <QPoint>
 #include <QRgb>
 #include <QString>
@@ -48,6 +49,11 @@ class TerminalPainter {
                     ScreenLook look);
 
     void draw_row(const terminal::Row& row, const RowMarks& marks, QPoint origin, int columns);
+    /// So much was drawn that what is left should wait for the next frame: laying out text that the font
+    /// itself does not have takes long.
+    [[nodiscard]] bool time_is_over() const;
+    /// The last row drawn lacks some of its text for that reason.
+    [[nodiscard]] bool row_is_unfinished() const { return row_is_unfinished_; }
     /// Whether a row drawn so far holds blinking text.
     [[nodiscard]] bool has_blinking_text() const { return has_blinking_text_; }
 
@@ -91,4 +97,6 @@ class TerminalPainter {
     std::vector<QPointF> positions_;
     std::string text_;
     bool has_blinking_text_ = false;
+    bool row_is_unfinished_ = false;
+    QElapsedTimer clock_;  ///< since the frame was begun
 };

@@ -19,9 +19,16 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 using terminal::Position;
 using terminal::RowId;
+
+namespace {
+
+constexpr std::uint64_t not_painted = std::numeric_limits<std::uint64_t>::max();  // no row's stamp
+
+}  // namespace
 
 TerminalView::TerminalView(TerminalSession& session, QScrollBar& scroll_bar, QWidget* parent)
     : QWidget(parent),
@@ -33,7 +40,7 @@ TerminalView::TerminalView(TerminalSession& session, QScrollBar& scroll_bar, QWi
       mouse_(*this, session, viewport_, selection_,
              {.changed = [this] { content_changed(); },
               .selected = [this] { publish_selection(); },
-              .paste = [this] { paste(PasteSource::primary); }}),
+              .paste = [this] { paste(SelectionName::primary); }}),
       blinking_({.cursor = [this] { content_changed(); },
                  .text = [this] { blink_text(); },
                  .flash = [this] { update(flash_area()); }}),
@@ -262,14 +269,23 @@ void TerminalView::paintEvent(QPaintEvent* event) {
     for (const QRect& area : event->region() - cells) {
         painter.fillRect(area, background);
     }
-    for (std::size_t line = 0; line < pictures_.size(); ++line) {
+    bool unfinished = false;
+    for (const std::size_t line : lines_in_turn()) {
         const QRect area = viewport_.line_area(static_cast<int>(line)) & cells;
         if (!event->region().intersects(area)) {
             continue;
         }
-        const Picture& picture = pictures_[line];
-        painter.setClipRect(area);
-        rows.draw_row(terminal().row(picture.row), picture.marks, {Viewport::margin, area.y()}, columns);
+        Picture& picture = pictures_[line];
+        if (!rows.time_is_over()) {
+            painter.setClipRect(area);
+            rows.draw_row(terminal().row(picture.row), picture.marks, {Viewport::margin, area.y()}, columns);
+            if (!rows.row_is_unfinished()) {
+                continue;
+            }
+        }
+        next_line_ = unfinished ? next_line_ : line;
+        unfinished = true;
+        picture.stamp = not_painted;
     }
     painter.setClipping(false);
     if (blinking_.flashes()) {
@@ -279,6 +295,25 @@ void TerminalView::paintEvent(QPaintEvent* event) {
         blinking_.await_text();
     }
     frames_.painting_ends();
+    if (unfinished) {
+        content_changed();
+    }
+}
+
+/// First the cursor's line, where keys are echoed; then on from where the last frame ran out of time.
+std::vector<std::size_t> TerminalView::lines_in_turn() const {
+    const std::size_t count = pictures_.size();
+    std::vector<std::size_t> lines;
+    const auto cursor = static_cast<std::size_t>(terminal().cursor().position.row - viewport_.top_row());
+    if (cursor < count) {
+        lines.push_back(cursor);
+    }
+    for (std::size_t step = 0; step < count; ++step) {
+        if (const std::size_t line = (next_line_ + step) % count; line != cursor) {
+            lines.push_back(line);
+        }
+    }
+    return lines;
 }
 
 /// A frame in the margin round the text, which need not be painted anew.

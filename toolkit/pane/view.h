@@ -119,6 +119,7 @@ class TerminalView final : public QWidget {
     [[nodiscard]] Picture picture_of(terminal::RowId row) const;
     [[nodiscard]] CursorLook cursor_look() const;
     [[nodiscard]] ScreenLook look() const { return {reverse_video_, blinking_.text_hidden()}; }
+    [[nodiscard]] std::vector<std::size_t> lines_in_turn() const;
     void paint_flash(QPainter& painter) const;
     [[nodiscard]] QRegion flash_area() const;
     void blink_text();

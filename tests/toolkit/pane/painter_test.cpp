@@ -17,9 +17,11 @@ QRgb to_qrgb(terminal::Rgb colour) { return qRgb(colour.red, colour.green, colou
 class PaintedArea : public QObject {
   public:
     QRegion region;
+    int count = 0;
     bool eventFilter(QObject* object, QEvent* event) override {
         if (event->type() == QEvent::Paint) {
             region += static_cast<QPaintEvent*>(event)->region();
+            ++count;
         }
         return QObject::eventFilter(object, event);
     }
@@ -174,6 +176,42 @@ TEST_F(TerminalPainterTest, OnlyRowsThatBlinkArePaintedAnewAndOnlyWhileTheyAreSe
         painted.region = {};
         return !QTest::qWaitFor([&] { return !painted.region.isEmpty(); }, 1300);
     })) << "two turns without painting";
+}
+
+TEST_F(TerminalPainterTest, TextThatTakesLongIsPaintedInPartsAndWhole) {
+    window.resize(1500, 1100);  // 10,000 characters, so that no machine is done with it at once
+    ASSERT_TRUE(wait([this] { return pane.columns() > 150 && pane.rows() > 50; }));
+    std::string text = "\033[?25l\033[H";
+    const int cells = pane.rows() * pane.columns();
+    for (int cell = 0; cell < cells; ++cell) {
+        std::string cluster(1, static_cast<char>('a' + cell % 26));
+        for (int rest = cell / 26, mark = 0; mark < 3; ++mark, rest /= 16) {
+            cluster += from_qstring(QChar(0x300 + rest % 16));
+        }
+        text += cluster;
+    }
+    const auto is_shown = [this](QRect cell) {  // without painting it
+        const QRect place(view().mapTo(&window, cell.topLeft()), cell.size());
+        const QImage shown =
+            window.screen()
+                ->grabWindow(window.winId(), place.x(), place.y(), place.width(), place.height())
+                .toImage();
+        for (int pixel = 0; pixel < shown.width() * shown.height(); ++pixel) {
+            if (qRed(shown.pixel(pixel % shown.width(), pixel / shown.width())) > 150) {
+                return true;
+            }
+        }
+        return false;
+    };
+    ASSERT_TRUE(wait([&] { return !is_shown(area(pane.columns() - 1, pane.rows() - 1)); }));
+    PaintedArea painted;
+    view().installEventFilter(&painted);
+    ttysw_output(pane, text);
+    EXPECT_TRUE(wait([&] {
+        return is_shown(area(0, 0)) && is_shown(area(pane.columns() - 1, pane.rows() - 1)) &&
+               is_shown(area(pane.columns() - 1, pane.rows() / 2));
+    }));
+    EXPECT_GT(painted.count, 1);
 }
 
 TEST_F(TerminalPainterTest, BellFlashesInTheMarginUnlessSwitchedOff) {
