@@ -23,7 +23,6 @@
 
 namespace {
 
-using namespace std::string_literals;
 namespace fs = std::filesystem;
 
 const std::string discard = "The text is not saved. Discard it ?";
@@ -44,47 +43,51 @@ class NotebookTest : public testing::Test {
     [[nodiscard]] std::string contents(std::string_view name) const { return read_file(home_ / name); }
     static void type(std::string_view text) { textsw_insert(notebook().text, text); }
 
-    /// Calls a notify procedure and gives the question that it asks; empty when it asks none.
-    std::string asked(Message (*procedure)(), const QString& choice = QStringLiteral("Yes")) {
+    /// Presses a button of a window and gives the question that is asked; empty when none is.
+    static std::string asked(const Frame& window, const char* button, const QString& answer = "Yes") {
         std::string question;
         QTimer timer;
         QObject::connect(&timer, &QTimer::timeout, [&] {
             auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-            for (QAbstractButton* button : box != nullptr ? box->buttons() : QList<QAbstractButton*>()) {
-                if (button->text() == choice) {
-                    question += box->text().toStdString();
-                    button->click();
-                    return;
-                }
+            if (box != nullptr) {
+                question += box->text().toStdString();
+                press(*box, answer);
             }
         });
         timer.start();
-        answer_ = procedure();
+        press(*window.widget(), button);
         return question;
+    }
+    static void press(const QWidget& window, const QString& label) {
+        for (QAbstractButton* button : window.findChildren<QAbstractButton*>()) {
+            if (button->accessibleName() == label) {
+                return button->click();
+            }
+        }
+        ADD_FAILURE() << "no " << label.toStdString();
     }
 
     ScratchDirectory home_;
-    Message answer_;  ///< of the procedure called last
 
   private:
     std::string old_home_ = std::getenv("HOME");
 };
 
 TEST_F(NotebookTest, SavesWithoutAQuestionWhatIsItsOwn) {
-    for (const std::string text : {"one\n", "one\ntwo"}) {
+    for (const std::string text : {"one\n", "one\r\n\xFFtwo"}) {
         notebook().text.set_text("");
         type(text);
-        EXPECT_EQ(asked(NotebookSave), "");
+        EXPECT_EQ(asked(notebook(), "Save"), "");
         EXPECT_EQ(contents("notebook.txt"), text);
-        EXPECT_EQ(answer_, "Saved to " + path("notebook.txt"));
+        EXPECT_EQ(notebook().left_footer(), "Saved to " + path("notebook.txt"));
         EXPECT_FALSE(notebook().text.modified());
     }
-    home_.write("loaded", "");
+    home_.write("loaded", "file\r\n");
     notebook().file_name.set_text("loaded");
-    NotebookLoad();
+    EXPECT_EQ(asked(notebook(), "Load"), "");
     type("text");
-    EXPECT_EQ(asked(NotebookSave), "");
-    EXPECT_EQ(contents("loaded"), "text");
+    EXPECT_EQ(asked(notebook(), "Save"), "");
+    EXPECT_EQ(contents("loaded"), "textfile\r\n");
 }
 
 TEST_F(NotebookTest, AsksBeforeItReplacesAnotherFileAndTellsWhyItCouldNot) {
@@ -92,63 +95,35 @@ TEST_F(NotebookTest, AsksBeforeItReplacesAnotherFileAndTellsWhyItCouldNot) {
     notebook().file_name.set_text("theirs");
     type("ours");
     const std::string question = path("theirs") + " exists. Replace it ?";
-    EXPECT_EQ(asked(NotebookSave, "Cancel"), question);
+    EXPECT_EQ(asked(notebook(), "Save", "Cancel"), question);
     EXPECT_EQ(contents("theirs"), "theirs");
-    EXPECT_EQ(answer_, "");
+    EXPECT_EQ(notebook().left_footer(), "");
     fs::create_directory(home_ / "directory");
     notebook().file_name.set_text("directory");
-    EXPECT_EQ(asked(NotebookSave), path("directory") + " exists. Replace it ?");
-    EXPECT_EQ(answer_, "Could not save " + path("directory") + ": Is a directory");
+    EXPECT_EQ(asked(notebook(), "Save"), path("directory") + " exists. Replace it ?");
+    EXPECT_EQ(notebook().left_footer(), "Could not save " + path("directory") + ": Is a directory");
     EXPECT_TRUE(notebook().text.modified());
     notebook().file_name.set_text("theirs");
-    EXPECT_EQ(asked(NotebookSave), question);
+    EXPECT_EQ(asked(notebook(), "Save"), question);
     EXPECT_EQ(contents("theirs"), "ours");
 }
 
 TEST_F(NotebookTest, AsksBeforeUnsavedTextIsLost) {
     home_.write("notebook.txt", "file");
-    for (const auto& [procedure, text] : {std::pair{&NotebookLoad, "file"}, {&NotebookClear, ""}}) {
+    for (const auto& [button, text] : {std::pair{"Load", "file"}, {"Clear", ""}}) {
         notebook().text.set_text("");
         type("typed");
-        EXPECT_EQ(asked(procedure, "Cancel"), discard);
+        EXPECT_EQ(asked(notebook(), button, "Cancel"), discard);
         EXPECT_EQ(notebook().text.text(), "typed");
-        EXPECT_EQ(asked(procedure), discard);
+        EXPECT_EQ(asked(notebook(), button), discard);
         EXPECT_EQ(notebook().text.text(), text);
-        EXPECT_EQ(asked(procedure), "");
+        EXPECT_EQ(asked(notebook(), button), "");
     }
     type("kept");
     notebook().file_name.set_text("missing");
-    EXPECT_EQ(asked(NotebookLoad), discard);
-    EXPECT_EQ(answer_, "Could not load " + path("missing") + ": No such file or directory");
+    EXPECT_EQ(asked(notebook(), "Load"), discard);
+    EXPECT_EQ(notebook().left_footer(), "Could not load " + path("missing") + ": No such file or directory");
     EXPECT_EQ(notebook().text.text(), "kept");
-}
-
-TEST_F(NotebookTest, GivesEveryTextBackByteForByte) {
-    const std::string texts[] = {
-        "",
-        "\n",
-        "\n\nempty lines\n\n\n no line feed",
-        "caf\xC3\xA9 \xE4\xBD\xA0 \xF0\x9F\x98\x80 no\xC2\xA0 break",
-        "\xFF\x80 cut \xE4\xBD",
-        "dos\r\nand\rmac\r",
-        "\xEF\xBB\xBF byte order mark",
-        "line\xE2\x80\xA8paragraph\xE2\x80\xA9 end",
-        "\xEF\xB7\x90\xEF\xB7\x91\xEF\xBF\xBC\xEF\xBF\xBE",
-        "\xF0\x90\x80\x8D pair",
-        "\0\x01\t\v\f\x1B\x7F\xC2\x85"s,
-    };
-    for (const std::string& text : texts) {
-        home_.write("notebook.txt", text);
-        NotebookLoad();
-        EXPECT_EQ(notebook().text.text(), text);
-        fs::remove(home_ / "notebook.txt");
-        NotebookSave();
-        EXPECT_EQ(contents("notebook.txt"), text);
-        textsw_reset(notebook().text);
-        type(text);
-        EXPECT_EQ(notebook().text.text(), text);
-        notebook().text.set_unmodified();
-    }
 }
 
 TEST_F(NotebookTest, PrintsWithTheUsersCommand) {
@@ -156,10 +131,12 @@ TEST_F(NotebookTest, PrintsWithTheUsersCommand) {
     notebook_print_file = path("notebook.txt");  // the real one may be somebody's
     const std::string command = "cp " + path("notebook.txt") + " " + path("printed");
     default_settings().print_command.set_text("cp $PATH_NAME " + path("printed"));
-    EXPECT_EQ(NotebookPrint(), "Nothing to print");
+    EXPECT_EQ(asked(notebook(), "Print"), "");
+    EXPECT_EQ(notebook().left_footer(), "Nothing to print");
     EXPECT_EQ(message_board().text.text(), "");
     type("caf\xC3\xA9\n");
-    EXPECT_EQ(NotebookPrint(), "Printing: " + command);
+    EXPECT_EQ(asked(notebook(), "Print"), "");
+    EXPECT_EQ(notebook().left_footer(), "Printing: " + command);
     EXPECT_EQ(message_board().text.text(), command + " &\n");
     EXPECT_TRUE(QTest::qWaitFor([&] { return contents("printed") == "caf\xC3\xA9\n"; }, 20'000));
     EXPECT_EQ(fs::status(notebook_print_file).permissions(), fs::perms::owner_read | fs::perms::owner_write);
@@ -169,13 +146,13 @@ TEST_F(NotebookTest, PrintsWithTheUsersCommand) {
 TEST_F(NotebookTest, HasAMessageBoardThatIsSavedAndCleared) {
     textsw_insert(message_board().text, "message\n");
     environment_setup().messageboard_directory.set_text("~/");
-    EXPECT_EQ(asked(MessageBoardSave), "");
+    EXPECT_EQ(asked(message_board(), "Save"), "");
     EXPECT_EQ(contents("messageboard.txt"), "message\n");
-    EXPECT_EQ(answer_, "Saved to " + path("messageboard.txt"));
+    EXPECT_EQ(message_board().left_footer(), "Saved to " + path("messageboard.txt"));
     textsw_insert(message_board().text, "more\n");
-    EXPECT_EQ(asked(MessageBoardClear), "");
+    EXPECT_EQ(asked(message_board(), "Clear"), "");
     EXPECT_EQ(message_board().text.text(), "");
-    EXPECT_EQ(answer_, "");
+    EXPECT_EQ(message_board().left_footer(), "");
 }
 
 TEST_F(NotebookTest, ExpandsDirectoryAndName) {

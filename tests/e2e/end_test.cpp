@@ -108,6 +108,7 @@ TEST_F(End, ADisplayThatDiesSavesTheHistory) {
     const auto number = [this] { return read_file(home_ / "number"); };
     ASSERT_TRUE(wait_until([&] { return number().ends_with('\n'); }));
     setup_.options = {"-display", ":" + number().substr(0, number().find('\n'))};
+    setup_.without = {"DISPLAY"};
     start();
     ASSERT_TRUE(wait_until([this] { return fs::exists(status_path()) && terminal_.showing(); }));
     fs::remove(home_ / ".orvik-history");

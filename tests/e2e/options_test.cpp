@@ -71,11 +71,4 @@ TEST_F(Options, FontNameIsAResource) {
     EXPECT_LE(std::abs(rows - pane.height / 22), 2);
 }
 
-TEST_F(Options, DisplayIsNamed) {
-    setup_.options = {"-display", std::getenv("DISPLAY")};
-    setup_.without = {"DISPLAY"};
-    start();
-    EXPECT_EQ(display().title(x_window()), own_title);
-}
-
 }  // namespace

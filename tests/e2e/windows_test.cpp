@@ -107,24 +107,4 @@ TEST_F(Windows, HelpIsWalkedByItsLinksAndBack) {
     EXPECT_TRUE(wait_until([&] { return page.text().starts_with("To Get Started\n"); }));
 }
 
-TEST_F(Windows, NotebookKeepsWhatIsNotSaved) {
-    start();
-    const Accessible notebook = open_window("Notebook");
-    const auto question = [this] {
-        return program_->application().find({"label", "The text is not saved. Discard it ?"});
-    };
-    ASSERT_TRUE(focus(notebook, "Notebook text"));
-    display().type("a note");
-    expect_awaited([&] { return field(notebook, "Notebook text"); }, std::string("a note"));
-    EXPECT_TRUE(notebook.find({"push button", "Clear"}).press());
-    ASSERT_TRUE(wait_until([&] { return question().parent().active(); })) << program_->application().tree();
-    display().press_key("Escape");
-    EXPECT_TRUE(wait_until([&] { return !question(); }));
-    EXPECT_EQ(field(notebook, "Notebook text"), "a note");
-    EXPECT_TRUE(notebook.find({"push button", "Save"}).press());
-    const std::string file = home_ / "notebook.txt";
-    expect_awaited([&] { return footer(notebook, "left footer"); }, "Saved to " + file);
-    EXPECT_EQ(read_file(file), "a note");
-}
-
 }  // namespace
