@@ -42,8 +42,6 @@ SelectedText checked(SelectedText selected) {
 
 }  // namespace
 
-std::string get_seln() { return selection_ask(longest_selection).text; }
-
 SelectedText selected_text(const SelectionMessages& messages) {
     SelectedText selected = first_line(messages);
     std::ranges::replace(selected.text, '\t', ' ');

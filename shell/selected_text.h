@@ -8,9 +8,6 @@
 
 // The primary selection, fit to be typed.
 
-/// The primary selection as text; empty when there is none or it is longer than 999 characters.
-std::string get_seln();
-
 /// The selection's first line, tabs as blanks; or why there is none that may be typed.
 struct SelectedText {
     std::string text;

@@ -3,7 +3,9 @@
 
 #include "app/notify.h"
 #include "shell/process.h"
+#include "shell/send.h"
 #include "tests/support/recorded_windows.h"
+#include "ui/default_settings.h"
 #include "ui/notebook.h"
 #include "ui/text_editor_setup.h"
 
@@ -85,6 +87,12 @@ TEST_F(SelectionCommands, TypeNoLineThatKshMightCut) {
     EXPECT_EQ(type_line(longest + "x"), "Command is too long for the shell");
     user_shell.family = ShellFamily::bash;
     EXPECT_EQ(typed(), longest + "x\n" + longest + "\n");
+}
+
+TEST_F(SelectionCommands, ALineMayBeginWithALineFeedAndIsRemembered) {
+    EXPECT_EQ(send(CommandLine("make").path("a b").behind_line_feed(), Remember::last_command), "");
+    EXPECT_EQ(typed(), "\nmake 'a b'\n");
+    EXPECT_EQ(default_settings().last_command.text(), "make 'a b'");
 }
 
 TEST_F(SelectionCommands, TheNotebookTakesTheSelection) {

@@ -104,9 +104,9 @@ std::size_t PtyStream::read_pieces() {
         if (piece.empty()) {
             break;
         }
-        events_.output(piece);
-        reader_->consume(piece.size());
-        total += piece.size();
+        const std::size_t taken = events_.output(piece);
+        reader_->consume(taken);
+        total += taken;
     }
     return total;
 }

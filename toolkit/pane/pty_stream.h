@@ -19,10 +19,11 @@ class PtyStream final : public QObject {
   public:
     /// What it tells its owner, from the event loop or from `await_echo`.
     struct Events {
-        std::function<void(std::string_view)> output;  ///< some of what the program has written
-        std::function<void()> slice_read;              ///< the output of a slice has been given
-        std::function<void()> hung_up;                 ///< nobody holds the terminal open just now
-        std::function<void()> last_words_read;         ///< of a program that has ended
+        /// Some of what the program has written; returns how many bytes of it were taken, at least one.
+        std::function<std::size_t(std::string_view)> output;
+        std::function<void()> slice_read;       ///< the output of a slice has been given
+        std::function<void()> hung_up;          ///< nobody holds the terminal open just now
+        std::function<void()> last_words_read;  ///< of a program that has ended
     };
 
     PtyStream(std::unique_ptr<terminal::Pty> pty, Events events);

@@ -9,6 +9,9 @@ namespace {
 
 constexpr int update_limit_milliseconds = 150;
 constexpr std::size_t window_requests_limit = 16;  // in one piece of output
+// Cells that a piece of output may have written, erased or moved before the clock is looked at again: about a
+// millisecond's work.
+constexpr std::int64_t piece_work = 100'000;
 
 /// Callbacks that the owner has not set are nobody's business.
 template <typename... Parameters, typename... Arguments>
@@ -22,7 +25,7 @@ void call(const std::function<void(Parameters...)>& callback, Arguments&&... arg
 
 TerminalSession::TerminalSession(std::size_t scrollback_rows)
     : terminal_({.size = {}, .scrollback_rows = scrollback_rows}, *this),
-      life_({.output = [this](std::string_view bytes) { feed(bytes); },
+      life_({.output = [this](std::string_view bytes) { return feed(bytes); },
              .slice_read = [this] { call(events_.changed); },
              .ready = [this] { call(events_.ready); },
              .ended = [this](const std::string& text) { announce(text); },
@@ -123,7 +126,7 @@ void TerminalSession::selection_written(Selection selection, std::string_view te
 }
 
 /// A carriage return before the line feed does not count: the cursor's place on the line is still to be seen.
-void TerminalSession::feed_line_by_line(std::string_view bytes) {
+std::size_t TerminalSession::feed_line_by_line(std::string_view bytes) {
     std::size_t begin = 0;
     std::size_t end = 0;
     while (line_left_ && (end = bytes.find('\n', begin)) != std::string_view::npos) {
@@ -137,16 +140,17 @@ void TerminalSession::feed_line_by_line(std::string_view bytes) {
         terminal_.write(bytes.substr(text_end, end + 1 - text_end));
         begin = end + 1;
     }
-    terminal_.write(bytes.substr(begin));
+    return begin + terminal_.write_within(bytes.substr(begin), piece_work);
 }
 
 /// Shows what the program has written, and then does what it has asked for.
-void TerminalSession::feed(std::string_view bytes) {
-    feed_line_by_line(bytes);
+std::size_t TerminalSession::feed(std::string_view bytes) {
+    const std::size_t taken = feed_line_by_line(bytes);
     note_update_state();
     if (requests_.resized || !requests_.window.empty() || requests_.selection) {
         do_requests();
     }
+    return taken;
 }
 
 void TerminalSession::do_requests() {

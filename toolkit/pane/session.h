@@ -97,8 +97,8 @@ class TerminalSession final : private terminal::Client {
     std::optional<terminal::Rgb> named_colour(std::string_view name) override;
     void selection_written(Selection selection, std::string_view text) override;
 
-    void feed_line_by_line(std::string_view bytes);
-    void feed(std::string_view bytes);
+    std::size_t feed_line_by_line(std::string_view bytes);
+    [[nodiscard]] std::size_t feed(std::string_view bytes);
     void do_requests();
     void announce(const std::string& text);
     void note_update_state();

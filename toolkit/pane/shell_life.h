@@ -20,9 +20,10 @@ class ShellLife {
   public:
     /// What it tells its owner, from the event loop.
     struct Events {
-        std::function<void(std::string_view)> output;  ///< some of what the program has written
-        std::function<void()> slice_read;              ///< the output of a slice has been given
-        std::function<void()> ready;                   ///< a program that was started is ready for commands
+        /// Some of what the program has written; returns how many bytes of it were taken, at least one.
+        std::function<std::size_t(std::string_view)> output;
+        std::function<void()> slice_read;  ///< the output of a slice has been given
+        std::function<void()> ready;       ///< a program that was started is ready for commands
         /// The program has ended or could not be started, as the text, for the user, says.
         std::function<void(const std::string&)> ended;
         std::function<void()> restarted;  ///< the user has started it anew

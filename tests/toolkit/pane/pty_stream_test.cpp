@@ -19,9 +19,11 @@ struct Listener {
         : stream(pty(script),
                  {.output =
                       [=, this](std::string_view bytes) {
-                          text += bytes;
-                          slice += bytes.size();
+                          const std::size_t taken = (bytes.size() + 1) / 2;  // the rest comes again
+                          text += bytes.substr(0, taken);
+                          slice += taken;
                           QThread::msleep(static_cast<unsigned long>(milliseconds_a_piece));
+                          return taken;
                       },
                   .slice_read = [this] { longest_slice = std::max(longest_slice, std::exchange(slice, 0)); },
                   .hung_up = [this] { ++hang_ups; },
