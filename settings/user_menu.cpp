@@ -16,7 +16,7 @@
 namespace {
 
 /// More is not read of a file: no menu is of use that long.
-constexpr std::size_t most_bytes = std::size_t{4} * 1024 * 1024;
+constexpr std::size_t most_bytes = std::size_t{1536} * 1024;
 
 std::string menu_path() { return fmt::sprintf("%s/.orvik-menu", home_dir); }
 
