@@ -102,6 +102,7 @@ TEST(BookmarkFormat, RefusesWhatItCouldNotReadBack) {
         {{directory, "a", "/a\nb"}, "Bookmark holds a line end"},
         {{directory, std::string("a\0", 2), "/a"}, "Bookmark holds a line end"},
         {{directory, "$$HT", "/a"}, "Bookmark name begins like a section of the file"},
+        {{directory, "a", std::string(1021, 'x')}, ""},
         {{directory, "a", std::string(1022, 'x')}, "Bookmark is too long"},
     };
     for (const auto& [bookmark, refusal] : cases) {

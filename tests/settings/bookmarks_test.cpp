@@ -8,8 +8,10 @@
 #include "ui/bookmarks.h"
 #include "ui/file_list_browser.h"
 
+#include <csignal>
 #include <tuple>
 
+#include <sys/resource.h>
 #include <sys/stat.h>
 
 namespace {
@@ -82,6 +84,16 @@ TEST_F(BookmarksTest, AreAddedToTheFileAndTheMenus) {
     EXPECT_EQ(written.substr(0, 28), "ORVIK_BOOKMARKS\nDirectory:2\n");
     EXPECT_NE(written.find("$$DIRECTORY\nalpha,/a\nbeta,/b\n$$SOURCE"), std::string::npos);
     EXPECT_EQ(on_list_button(), (Rows{"alpha", "beta"}));
+    rlimit before{};
+    ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &before), 0);
+    const rlimit full{written.size(), before.rlim_max};
+    const auto old_action = std::signal(SIGXFSZ, SIG_IGN);
+    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &full), 0);
+    const std::string failure = add("c", "/c", 0);
+    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &before), 0);
+    std::signal(SIGXFSZ, old_action);
+    EXPECT_EQ(failure, "Could not save " + file() + ": File too large");
+    EXPECT_EQ(read_file(file()), written);
     home.write("bookmarks", "no\n");
     EXPECT_EQ(add("c", "/c", 0), "Not a valid bookmarks file");
     EXPECT_EQ(read_file(file()), "no\n");
