@@ -72,7 +72,7 @@ TEST_F(TerminalPaneTest, InputMethodIsToldWhereTheCursorMoves) {
     QObject::connect(QGuiApplication::inputMethod(), &QInputMethod::cursorRectangleChanged, &window,
                      [&told] { ++told; });
     ASSERT_TRUE(wait([&] { return QGuiApplication::focusObject() == &view(); }));
-    QTest::qWait(50);
+    paint();
     told = 0;
     ttysw_output(pane, "moved");
     EXPECT_TRUE(wait([&] { return told > 0; }));
