@@ -34,14 +34,12 @@ enum MenuAction { execute, move_to_command_line, both };
 ScrollingList& history() { return command_history_manager().list; }
 
 /// The files that may be replaced by the list without a loss: their commands are in it, or there were none.
-std::set<std::string>& replaceable_files() {
-    static std::set<std::string> paths;
-    return paths;
-}
+/// Made before the program begins: they are asked for while it ends, too.
+std::set<std::string> replaceable_files;
 
 /// Whether a history file may be replaced without its user's order.
 bool is_replaceable(const std::string& path) {
-    return replaceable_files().contains(path) || (access(path.c_str(), F_OK) != 0 && errno == ENOENT);
+    return replaceable_files.contains(path) || (access(path.c_str(), F_OK) != 0 && errno == ENOENT);
 }
 
 /// Nobody but its owner may read what somebody has typed.
@@ -50,7 +48,7 @@ int write_history(const ScrollingList& list, const std::string& path, Durability
     const int error = save_file(path, format_history(list.all_rows()),
                                 {.exact_mode = owner_only, .durability = durability});
     if (error == 0) {
-        replaceable_files().insert(path);
+        replaceable_files.insert(path);
     }
     return error;
 }
@@ -122,7 +120,7 @@ bool make_history_menu(int entries) {
 int load_history(ScrollingList& list, const std::string& path) {
     const LoadedFile file = load_file(path, most_bytes);
     if (file.error == ENOENT) {
-        replaceable_files().insert(path);
+        replaceable_files.insert(path);
     }
     if (!file.text) {
         return 0;
@@ -134,7 +132,7 @@ int load_history(ScrollingList& list, const std::string& path) {
     list.append(std::move(*commands));
     command_history_manager().position.set_value(list.rows());
     if (file.error == 0) {
-        replaceable_files().insert(path);
+        replaceable_files.insert(path);
     }
     return 1;
 }
@@ -149,7 +147,7 @@ int save_history(const ScrollingList& list, const std::string& path) {
 
 void clear_history(ScrollingList& list) {
     list.delete_rows();
-    replaceable_files().clear();
+    replaceable_files.clear();
 }
 
 std::optional<std::vector<std::string>> add_history_to_menu(const ScrollingList& list, int count) {

@@ -99,11 +99,13 @@ void check_end() {
     }
 }
 
-/// What Qt has to say of a lost display is said in our own line.
+/// What Qt has to say of a lost display is said in our own line. It says so before it calls exit, while
+/// everything that lives as long as the process is still there.
 void pass_message(QtMsgType type, const QMessageLogContext& context, const QString& text) {
-    if (!display_is_lost()) {
-        usual_messages(type, context, text);
+    if (display_is_lost()) {
+        end_without_display();
     }
+    usual_messages(type, context, text);
 }
 
 /// A display that goes ends the process from within, by way of Qt's exit or of Xlib's error handler.
