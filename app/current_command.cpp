@@ -31,11 +31,17 @@ CurrentCommand find_command(std::string_view line, const PromptSettings& setting
                                            : CurrentCommand{.problem = CommandProblem::delimiter_not_found};
 }
 
-bool shows_command(std::string_view line, const PromptSettings& settings, std::string_view command) {
+std::optional<std::string> text_before_command(std::string_view line, const PromptSettings& settings,
+                                               std::string_view command) {
     const std::string_view mark = settings.look_for_delimiter ? settings.delimiter : settings.prompt;
     if (mark.empty() || !line.ends_with(command)) {
-        return false;
+        return std::nullopt;
     }
     line.remove_suffix(command.size());
-    return !line.empty() && line.substr(0, line.size() - 1).ends_with(mark);
+    const std::size_t prompt = line.rfind(mark);
+    const std::size_t behind_blank = prompt + mark.size() + 1;
+    if (prompt == std::string_view::npos || behind_blank > line.size()) {
+        return std::nullopt;
+    }
+    return std::string(line.substr(behind_blank));
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -32,6 +33,8 @@ struct CurrentCommand {
 /// What follows the prompt, and the one character behind it, on a line.
 CurrentCommand find_command(std::string_view line, const PromptSettings& settings);
 
-/// Whether a line ends with the prompt's mark, the one character behind it, and this command. What stands
-/// before the mark may be anything: a shell prompts behind what was typed ahead of its prompt.
-bool shows_command(std::string_view line, const PromptSettings& settings, std::string_view command);
+/// What stands between the prompt, with the one character behind it, and this command at the end of a line:
+/// usually nothing. No text where there is no prompt before the command. What stands before the prompt may be
+/// anything: a shell prompts behind what was typed ahead of its prompt.
+std::optional<std::string> text_before_command(std::string_view line, const PromptSettings& settings,
+                                               std::string_view command);

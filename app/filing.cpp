@@ -36,14 +36,27 @@ void file(const std::string& command) {
     default_settings().last_command.set_text(command);
 }
 
-/// The shown command without what the terminal itself has echoed before the shell's line editor was there to
-/// read it, and echo it again: "cecho", where the keys tell "echo".
-const std::string& without_early_echo(const std::string& shown, const std::string& typed) {
-    if (typed.empty() || !shown.ends_with(typed)) {
-        return shown;
+/// Whether a text before a command may be what the terminal itself has echoed of the keys, before the shell's
+/// line editor was there to read them and echo them again: "cecho" is shown where the keys tell "echo".
+bool is_early_echo(std::string_view text) {
+    std::string keys;
+    for (const Awaited& command : awaited) {
+        keys += command.typed;
     }
-    const std::string before = shown.substr(0, shown.size() - typed.size());
-    return typed.find(before) == std::string::npos ? shown : typed;
+    keys += main_window().termpane.typed_line().value_or(std::string());
+    return keys.find(text) != std::string::npos;
+}
+
+/// The shown command, or what the keys tell where an early echo stands before it.
+const std::string& without_early_echo(const std::string& shown, const std::string& typed) {
+    const bool ends_so = !typed.empty() && shown.ends_with(typed);
+    return ends_so && is_early_echo(shown.substr(0, shown.size() - typed.size())) ? typed : shown;
+}
+
+/// Whether a line shows what the keys tell behind the prompt.
+bool shows(const TerminalPane::CurrentLine& line, const Awaited& command) {
+    const std::optional<std::string> before = text_before_command(line, command.typed);
+    return before && is_early_echo(*before);
 }
 
 /// The line at whose end Return was pressed is left: it holds the command, or tells that there is none.
@@ -67,8 +80,8 @@ void line_left(const TerminalPane::CurrentLine& line) {
         file_from_prompt(line);
     } else {
         // Those before the one that is shown were another program's input.
-        const auto shown = std::ranges::find_if(
-            awaited, [&](const Awaited& command) { return shows_command(line, command.typed); });
+        const auto shown =
+            std::ranges::find_if(awaited, [&](const Awaited& command) { return shows(line, command); });
         if (shown != awaited.end()) {
             file(shown->typed);
             awaited.erase(awaited.begin(), shown + 1);

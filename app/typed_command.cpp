@@ -42,9 +42,10 @@ CurrentCommand command_on(const TerminalPane::CurrentLine& line) {
         [&](const PromptSettings& settings) { return find_command(line.before + line.behind, settings); });
 }
 
-bool shows_command(const TerminalPane::CurrentLine& line, std::string_view command) {
+std::optional<std::string> text_before_command(const TerminalPane::CurrentLine& line,
+                                               std::string_view command) {
     return with_prompt_settings([&](const PromptSettings& settings) {
-        return shows_command(line.before + line.behind, settings, command);
+        return text_before_command(line.before + line.behind, settings, command);
     });
 }
 

@@ -14,8 +14,9 @@ enum class CommandAsker : std::uint8_t { return_key, move_button, copy_button };
 
 /// The command on a line of the terminal, as far as "Default Settings" tell where it begins.
 CurrentCommand command_on(const TerminalPane::CurrentLine& line);
-/// Whether a line of the terminal shows this command behind the prompt.
-bool shows_command(const TerminalPane::CurrentLine& line, std::string_view command);
+/// What stands between the prompt and this command at the end of a line of the terminal.
+std::optional<std::string> text_before_command(const TerminalPane::CurrentLine& line,
+                                               std::string_view command);
 /// Why there is no command, in the words of the asker.
 Message problem_message(CommandProblem problem, CommandAsker asker);
 
