@@ -43,6 +43,21 @@ Cell cell_at(const Terminal& terminal, Position at) {
     return cell;
 }
 
+/// Whether a text holds this beginning, wherever it stands, and behind it as much of the rest as there is
+/// room for. Empty rows at the end are no text.
+bool keeps(std::string now, std::string_view beginning, std::string_view rest) {
+    const std::size_t end_of_text = beginning.find_last_not_of('\n') + 1;  // 0 behind npos
+    now.append(beginning.size() - end_of_text, '\n');
+    for (std::size_t at = now.find(beginning); at != now.npos; at = now.find(beginning, at + 1)) {
+        std::string behind = now.substr(at + beginning.size());
+        behind.erase(behind.find_last_not_of('\n') + 1);
+        if (rest.starts_with(behind)) {
+            return true;
+        }
+    }
+    return false;
+}
+
 /// Another size loses no text, but for what has no room below the cursor, and positions stay with theirs. The
 /// beginning of a line that was cut at the scrollback's limit may come back.
 void resize(Terminal& terminal, std::uint8_t columns, std::uint8_t rows) {
@@ -58,11 +73,8 @@ void resize(Terminal& terminal, std::uint8_t columns, std::uint8_t rows) {
         return;
     }
     const std::string now = all_text(terminal);
-    const std::size_t kept = now.rfind(above_cursor);
-    require(now.ends_with(text) || kept != std::string::npos, "a resize changes the text");
-    require(now.ends_with(text) ||
-                text.substr(above_cursor.size()).starts_with(now.substr(kept + above_cursor.size())),
-            "a resize changes the text behind the cursor");
+    require(now.ends_with(text) || keeps(now, above_cursor, text.substr(above_cursor.size())),
+            "a resize changes the text");
     require(!now.ends_with(text) || anchored.glyph == 0 || cell_at(terminal, anchors[0]) == anchored,
             "an anchor left its text");
 }
