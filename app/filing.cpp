@@ -92,6 +92,18 @@ void line_left(const TerminalPane::CurrentLine& line) {
     }
 }
 
+/// Whether the shell has come to read the command whose Return is pressed: it shows what was typed behind its
+/// prompt, or has answered the keys where they do not tell what that is.
+bool is_at_prompt(const CurrentCommand& shown, const std::optional<std::string>& typed, bool settled) {
+    if (shown.problem != CommandProblem::none && shown.problem != CommandProblem::nothing_typed) {
+        return false;
+    }
+    if (awaited.empty()) {
+        return true;
+    }
+    return !awaited.front().at_prompt && (typed ? shown.text == *typed : settled);
+}
+
 }  // namespace
 
 void file_typed_command() {
@@ -100,15 +112,18 @@ void file_typed_command() {
     if (command_history_setup().history_list.value() != history_on || terminal.child() < 0) {
         return;
     }
-    const CommandProblem problem = command_on(terminal.shown_line()).problem;
-    const bool at_prompt =
-        awaited.empty() && (problem == CommandProblem::none || problem == CommandProblem::nothing_typed);
-    const std::string typed = terminal.typed_line().value_or(std::string());
-    if (!at_prompt && problem != CommandProblem::none) {
-        main_window().set_left_footer(problem_message(problem, CommandAsker::return_key));
+    const TerminalPane::CurrentLine line = terminal.shown_line();
+    const CurrentCommand shown = command_on(line);
+    const std::optional<std::string> typed = terminal.typed_line();
+    const bool at_prompt = is_at_prompt(shown, typed, line.settled);
+    if (at_prompt) {
+        awaited.clear();  // was another program's input
+    } else if (shown.problem != CommandProblem::none) {
+        main_window().set_left_footer(problem_message(shown.problem, CommandAsker::return_key));
     }
-    if ((at_prompt || !typed.empty()) && awaited.size() < most_awaited) {
-        awaited.push_back({.shell = terminal.child(), .at_prompt = at_prompt, .typed = typed});
+    if ((at_prompt || (typed && !typed->empty())) && awaited.size() < most_awaited) {
+        awaited.push_back(
+            {.shell = terminal.child(), .at_prompt = at_prompt, .typed = typed.value_or(std::string())});
         terminal.watch_lines(line_left);
     }
 }

@@ -106,10 +106,21 @@ TEST_F(Keys, CommandsTypedFasterThanTheirEchoAreFiled) {
 /// What a program reads is no command, and what it writes is none either.
 TEST_F(Keys, OnlyWhatTheShellShowsIsFiledOfWhatWasTypedAhead) {
     start_bash();
-    type("read answer; echo 'ready> fake'; read -s secret; printf 'ready> %s ' fake\n");
-    type("input\nhidden\necho after\n");
+    type("echo asks; read answer; echo 'ready> fake'; read more\n");
+    expect_in_terminal("\nasks\n");
+    type("input\nother\necho after\n");
     expect_prompt("\nafter\nready> ");
-    expect_history("read answer; echo 'ready> fake'; read -s secret; printf 'ready> %s ' fake\necho after\n");
+    type("echo more; read it\n");
+    expect_in_terminal("\nmore\n");
+    type("its input\n");
+    expect_prompt("\nits input\nready> ");
+    type("cho kept");  // the keys alone do not tell what this becomes
+    press("Home");
+    type("e");
+    expect_prompt("\nready> echo kept");
+    type("\n");
+    expect_history(
+        "echo asks; read answer; echo 'ready> fake'; read more\necho after\necho more; read it\necho kept\n");
 }
 
 TEST_F(Keys, ArrowsWalkTheHistoryWithoutCommandLineEditing) {
