@@ -24,17 +24,34 @@ class Choice {
     QButtonGroup* buttons_;
 };
 
+/// Where the items of check boxes are named for those who see them.
+enum class ItemLabels : bool { beside, above };
+
 /// Any of several items; the value is a bit mask, bit 0 for the first item.
 class CheckBoxes {
   public:
     CheckBoxes(Container& parent, Label label, std::initializer_list<std::string_view> items,
                Notify notify = nullptr);
+    /// Boxes that stand under `ColumnHeadings` of the same items.
+    CheckBoxes(Container& parent, Label label, std::initializer_list<std::string_view> items,
+               ItemLabels labels);
     [[nodiscard]] unsigned value() const;
     /// Bits without an item are ignored.
     void set_value(unsigned value);
 
   private:
     QButtonGroup* buttons_;
+};
+
+/// The names of the columns of boxes below.
+class ColumnHeadings {
+  public:
+    struct Heading {
+        std::string_view text;
+        int column;
+    };
+    /// In the order in which assistive programs read them.
+    ColumnHeadings(Container& parent, std::initializer_list<Heading> headings);
 };
 
 /// A single box with its label behind it; off until it is set.

@@ -1,0 +1,112 @@
+// SPDX-License-Identifier: MIT
+#include "browsers/file_status.h"
+
+#include "browsers/notify.h"
+#include "shell/send.h"
+#include "toolkit/long_work.h"
+#include "ui/file_status.h"
+
+#include <sys/stat.h>
+
+namespace {
+
+constexpr std::string_view items_label = "Files examined";
+
+void say_illegal(Frame& frame) { frame.set_left_footer("Illegal file"); }
+
+void set_boxes(const PermissionBoxes& boxes) {
+    FileStatus& window = file_status();
+    window.owner.set_value(boxes.owner);
+    window.group.set_value(boxes.group);
+    window.world.set_value(boxes.world);
+}
+
+mode_t chosen_mode() {
+    const FileStatus& window = file_status();
+    return mode_of(
+        {.owner = window.owner.value(), .group = window.group.value(), .world = window.world.value()});
+}
+
+bool in_version_control() { return file_status().file_system.value() == FileStatus::clearcase_vob; }
+
+Message protect(const std::string& path, mode_t mode) {
+    return send(CommandLine("cleartool protect").numbers("-chmod {:o}", mode).path(path));
+}
+
+}  // namespace
+
+void show_file_status(Frame& frame, const std::string& path, const std::string& name) {
+    file_status().file_name.set_text(path);
+    start_work(
+        file_status(), items_label, [path](Progress& /*progress*/) { return examine_file(path); },
+        [&frame, name](const FileFacts& facts) {
+            GetFilePermissions(frame, facts);
+            GetFileStatus(frame, facts, name);
+        });
+}
+
+void GetFileStatus(Frame& frame, const FileFacts& facts, const std::string& name) {
+    if (!facts) {
+        say_illegal(frame);
+        return;
+    }
+    FileStatus& window = file_status();
+    window.file_name_line.set_text(std::string(bare_name_line) + name);
+    window.file_type_line.set_text(facts.type);
+    window.file_owner_line.set_text(facts.owner);
+    window.file_group_line.set_text(facts.group);
+    window.file_size_line.set_text(facts.size);
+    window.last_accessed_line.set_text(facts.accessed);
+    window.last_modified_line.set_text(facts.modified);
+    window.status_changed_line.set_text(facts.changed);
+}
+
+void GetFilePermissions(Frame& frame, const FileFacts& facts) {
+    if (facts) {
+        set_boxes(facts.permissions);
+    } else {
+        say_illegal(frame);
+    }
+}
+
+void ClearFileStatus() {
+    FileStatus& window = file_status();
+    window.file_name_line.set_text(bare_name_line);
+    window.file_type_line.set_text(bare_type_line);
+    window.file_owner_line.set_text(bare_owner_line);
+    window.file_group_line.set_text(bare_group_line);
+    window.file_size_line.set_text(bare_size_line);
+    window.last_accessed_line.set_text(bare_accessed_line);
+    window.last_modified_line.set_text(bare_modified_line);
+    window.status_changed_line.set_text(bare_changed_line);
+    set_boxes({});
+}
+
+Message Set_permissions() {
+    const std::string path = file_status().file_name.text();
+    if (path.empty()) {
+        return "No file selected";
+    }
+    const mode_t mode = chosen_mode();
+    if (in_version_control()) {
+        return protect(path, mode);
+    }
+    struct Change {
+        bool done = false;
+        FileFacts facts_otherwise;
+    };
+    start_work(
+        file_status(), items_label,
+        [=](Progress& /*progress*/) {
+            const bool done = path.find('\0') == std::string::npos && chmod(path.c_str(), mode) == 0;
+            return Change{done, done ? FileFacts{} : examine_file(path)};
+        },
+        [](const Change& change) {
+            if (!change.done) {
+                GetFilePermissions(file_status(), change.facts_otherwise);
+            }
+            file_status().set_left_footer(change.done ? "Permissions changed"
+                                                      : "Couldn't change permissions");
+        });
+    return {};
+}
