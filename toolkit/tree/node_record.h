@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+#include <utility>
+
+/// What a client keeps of a node; it derives from this. The node owns it.
+struct NodeRecord {
+    explicit NodeRecord(std::string shown) : label(std::move(shown)) {}
+    virtual ~NodeRecord() = default;
+    NodeRecord(const NodeRecord&) = delete;
+    NodeRecord& operator=(const NodeRecord&) = delete;
+
+    /// Asked only when somebody wants to know; empty for nothing.
+    [[nodiscard]] virtual std::string tool_tip() const { return {}; }
+    /// What assistive programs are told beside the label.
+    [[nodiscard]] virtual std::string description() const { return {}; }
+
+    std::string label;  ///< bytes of any kind; what is no text is shown visibly
+};
+
+enum class NodeKind : bool { file, directory };
