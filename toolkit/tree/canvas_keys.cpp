@@ -8,7 +8,9 @@
 #include <QKeyEvent>
 
 void CanvasWidget::keyPressEvent(QKeyEvent* event) {
-    if (!press_key(*event) && !move_by_key(event->key()) && !jump(event->text())) {
+    constexpr auto commands = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
+    const QString letters = (event->modifiers() & commands) == 0 ? event->text() : QString();
+    if (!press_key(*event) && !move_by_key(event->key()) && !jump(letters)) {
         QAbstractScrollArea::keyPressEvent(event);
     }
 }
@@ -16,6 +18,7 @@ void CanvasWidget::keyPressEvent(QKeyEvent* event) {
 /// The keys that act. Whether it was one.
 bool CanvasWidget::press_key(const QKeyEvent& event) {
     const bool control = (event.modifiers() & Qt::ControlModifier) != 0;
+    const bool shift = (event.modifiers() & Qt::ShiftModifier) != 0;
     if (event.key() == Qt::Key_Escape && band_) {
         band_scrolling_.stop();
         band_.reset();
@@ -24,6 +27,8 @@ bool CanvasWidget::press_key(const QKeyEvent& event) {
         click(current_, control ? Qt::ControlModifier : Qt::NoModifier);
     } else if (is_return(event) && current_ != nullptr) {
         activate(current_);
+    } else if (event.key() == Qt::Key_Menu || (event.key() == Qt::Key_F10 && shift)) {
+        open_menu_at_current();
     } else if (event.key() == Qt::Key_F5) {
         tell(procedures_.refresh);
     } else if (event.key() == Qt::Key_F2) {
@@ -90,10 +95,11 @@ bool CanvasWidget::jump(const QString& letters) {
 }
 
 void CanvasWidget::focusInEvent(QFocusEvent* event) {
-    if (current_ == nullptr && tree_.size() > 0) {
+    if (current_ == nullptr && tree_.size() > 0 && event->reason() != Qt::MouseFocusReason) {
         current_ = tree_.child(nullptr, 0);
     }
     QAbstractScrollArea::focusInEvent(event);
+    tell_focus();
     viewport()->update();
 }
 

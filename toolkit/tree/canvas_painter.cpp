@@ -154,13 +154,12 @@ void CanvasPainter::paint_node(const TreeNode& node, const TreeArea& label) {
         const double inside = selected ? 1.5 : 0.5;
         painter_.drawRoundedRect(box.adjusted(inside, inside, -inside, -inside), corner, corner);
     }
-    const NodeKind kind = node.directory ? NodeKind::directory : NodeKind::file;
-    const LabelFont& font = fonts_.of(node.font_size, kind);
+    const LabelFont& font = fonts_.of(node);
     painter_.setPen(text);
     painter_.setFont(font.font);
     painter_.drawText(QPointF(label.x + LabelFonts::padding, label.y + LabelFonts::line_room + font.ascent),
                       shown_label(node.record->label));
-    if (node.directory && !node.opened) {
+    if (node.is_marked()) {
         paint_mark(label, text);
     }
     painter_.restore();

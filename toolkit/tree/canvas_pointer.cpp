@@ -123,9 +123,11 @@ void CanvasWidget::end_band() {
     }
     const QRect area = band.area();
     bool changes = false;
+    hold();
     for (TreeNode* node : tree_.touched_by({area.x(), area.y(), area.width(), area.height()})) {
         changes = select(node) || changes;
     }
+    release();
     if (changes) {
         tell_selection();
     }
@@ -133,8 +135,7 @@ void CanvasWidget::end_band() {
 
 void CanvasWidget::contextMenuEvent(QContextMenuEvent* event) {
     if (event->reason() == QContextMenuEvent::Keyboard) {
-        open_menu_at_current();
-        return;
+        return;  // the menu key comes as a key, too
     }
     TreeNode* node = node_at(event->pos());
     const QPoint place = event->globalPos();

@@ -36,19 +36,24 @@ CanvasWidget::CanvasWidget(TreeCanvas& canvas, const TreeProcedures& procedures,
 TreeNode* CanvasWidget::add(TreeNode* parent, std::unique_ptr<NodeRecord> record, int font_size,
                             NodeKind kind, int position) {
     auto node = std::make_unique<TreeNode>(std::move(record));
-    const int known_size = std::clamp(font_size, 0, LabelFonts::sizes - 1);
-    node->font_size = static_cast<std::uint8_t>(known_size);
+    node->font_size = static_cast<std::uint8_t>(std::clamp(font_size, 0, LabelFonts::sizes - 1));
     node->directory = kind == NodeKind::directory;
-    const QSize size = fonts_.size(node->record->label, known_size, kind);
+    const QSize size = fonts_.size(*node);
     node->width = size.width();
     node->height = size.height();
     TreeNode* added = tree_.add(std::move(node), parent, position);
+    observer_->added(added);
     changed();
     return added;
 }
 
 void CanvasWidget::destroy(TreeNode* node) {
+    TreeNode* parent = tree_.parent(node);
+    const bool had_current = current_ != nullptr;
     tree_.destroy(node, [this](TreeNode* gone) { forget(gone); });
+    if (had_current && current_ == nullptr) {
+        set_current(parent);
+    }
     changed();
 }
 
@@ -56,31 +61,39 @@ void CanvasWidget::destroy(TreeNode* node) {
 void CanvasWidget::forget(TreeNode* node) {
     current_ = current_ == node ? nullptr : current_;
     last_click_.node = last_click_.node == node ? nullptr : last_click_.node;
+    observer_->forgotten(node);
 }
 
 void CanvasWidget::move(TreeNode* node, TreeNode* parent, int position) {
     if (tree_.move(node, parent, position)) {
+        observer_->added(node);
         changed();
     }
 }
 
 void CanvasWidget::set_record(TreeNode* node, std::unique_ptr<NodeRecord> record) {
     node->record = std::move(record);
-    const NodeKind kind = node->directory ? NodeKind::directory : NodeKind::file;
-    const QSize size = fonts_.size(node->record->label, node->font_size, kind);
-    tree_.resize(node, size.width(), size.height());
-    changed();
+    observer_->renamed(node);
+    measure(node);
 }
 
 void CanvasWidget::set_opened(TreeNode* node, bool opened) {
     node->opened = opened;
+    measure(node);
+}
+
+/// The label may take more or less room now.
+void CanvasWidget::measure(TreeNode* node) {
+    const QSize size = fonts_.size(*node);
+    tree_.resize(node, size.width(), size.height());
     changed();
 }
 
 bool CanvasWidget::select(TreeNode* node) {
     const bool changes = tree_.select(node);
     if (changes) {
-        viewport()->update();
+        observer_->selection_changed(node);
+        settle();
     }
     return changes;
 }
@@ -88,17 +101,20 @@ bool CanvasWidget::select(TreeNode* node) {
 bool CanvasWidget::deselect(TreeNode* node) {
     const bool changes = tree_.deselect(node);
     if (changes) {
-        viewport()->update();
+        observer_->selection_changed(node);
+        settle();
     }
     return changes;
 }
 
 bool CanvasWidget::clear_selection() {
-    const bool changes = tree_.clear_selection();
-    if (changes) {
-        viewport()->update();
+    const std::vector<TreeNode*> selected = tree_.selected();
+    hold();
+    for (TreeNode* node : selected) {
+        deselect(node);
     }
-    return changes;
+    release();
+    return !selected.empty();
 }
 
 void CanvasWidget::select_alone(TreeNode* node) {
@@ -114,7 +130,14 @@ void CanvasWidget::toggle(TreeNode* node) {
 
 void CanvasWidget::set_current(TreeNode* node) {
     if (std::exchange(current_, node) != node) {
+        tell_focus();
         viewport()->update();
+    }
+}
+
+void CanvasWidget::tell_focus() {
+    if (current_ != nullptr && hasFocus()) {
+        observer_->focused(current_);
     }
 }
 
@@ -219,12 +242,19 @@ void CanvasWidget::release() {
 
 /// The nodes or their places have changed.
 void CanvasWidget::changed() {
+    if (holds_ == 0) {
+        update_scroll_bars();
+    }
+    settle();
+}
+
+void CanvasWidget::settle() {
     if (holds_ > 0) {
         changed_while_held_ = true;
         return;
     }
-    update_scroll_bars();
     viewport()->update();
+    observer_->settled();
 }
 
 void CanvasWidget::resizeEvent(QResizeEvent* event) {

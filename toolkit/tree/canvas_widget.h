@@ -2,6 +2,7 @@
 #pragma once
 
 #include "toolkit/menu.h"
+#include "toolkit/tree/canvas_observer.h"
 #include "toolkit/tree/label_fonts.h"
 #include "toolkit/tree/node_tree.h"
 #include "toolkit/tree/tree_procedures.h"
@@ -12,8 +13,10 @@
 #include <QPoint>
 #include <QRect>
 
+#include <memory>
 #include <optional>
-#include <string>
+#include <string_view>
+#include <utility>
 
 class QHelpEvent;
 
@@ -26,6 +29,9 @@ class CanvasWidget final : public QAbstractScrollArea {
     CanvasWidget(TreeCanvas& canvas, const TreeProcedures& procedures, Menu menu, std::string_view empty_text,
                  QWidget* parent);
 
+    /// Set before there are nodes.
+    void set_observer(std::unique_ptr<CanvasObserver> observer) { observer_ = std::move(observer); }
+    [[nodiscard]] CanvasObserver& observer() const { return *observer_; }
     [[nodiscard]] const NodeTree& tree() const { return tree_; }
     [[nodiscard]] LabelFonts& fonts() { return fonts_; }
     [[nodiscard]] Menu& menu() { return menu_; }
@@ -58,6 +64,8 @@ class CanvasWidget final : public QAbstractScrollArea {
     [[nodiscard]] int object_units(Qt::Orientation orientation) const;
     void show_area(const QRect& area);
     [[nodiscard]] QRect area(const TreeNode* node) const;
+    /// Null where none is.
+    [[nodiscard]] TreeNode* node_at(QPoint in_view) const;
     /// What part of the tree is in view.
     [[nodiscard]] QRect visible_area() const;
 
@@ -100,7 +108,11 @@ class CanvasWidget final : public QAbstractScrollArea {
     };
 
     void forget(TreeNode* node);
+    void measure(TreeNode* node);
     void changed();
+    /// To be called when something looks different.
+    void settle();
+    void tell_focus();
     void update_scroll_bars();
     void select_alone(TreeNode* node);
     void toggle(TreeNode* node);
@@ -109,7 +121,6 @@ class CanvasWidget final : public QAbstractScrollArea {
 
     [[nodiscard]] QPoint view_origin() const;
     [[nodiscard]] QPoint in_tree(QPoint in_view) const { return in_view + view_origin(); }
-    [[nodiscard]] TreeNode* node_at(QPoint in_view) const;
     void press_left(const QMouseEvent& event);
     void click(TreeNode* node, Qt::KeyboardModifiers modifiers);
     void drag_band(QPoint in_view);
@@ -129,6 +140,7 @@ class CanvasWidget final : public QAbstractScrollArea {
     QString empty_text_;
     LabelFonts fonts_;
     NodeTree tree_;
+    std::unique_ptr<CanvasObserver> observer_;
     QSize tree_size_{500, 300};
     TreeNode* current_ = nullptr;
     LastClick last_click_;

@@ -45,21 +45,20 @@ void LabelFonts::set(int font_size, const Font& file, const Font& directory) {
     found_[2 * index + 1].reset();
 }
 
-const LabelFont& LabelFonts::of(int font_size, NodeKind kind) {
-    const auto index = static_cast<std::size_t>(font_size);
-    const bool directory = kind == NodeKind::directory;
-    std::unique_ptr<LabelFont>& found = found_[2 * index + (directory ? 1 : 0)];
+const LabelFont& LabelFonts::of(const TreeNode& node) {
+    const std::size_t size = node.font_size;
+    std::unique_ptr<LabelFont>& found = found_[2 * size + (node.directory ? 1 : 0)];
     if (found == nullptr) {
-        const Font& wanted = directory ? wanted_[index].directory : wanted_[index].file;
-        const Font font =
-            wanted ? wanted : standard_font(font_size, directory ? FontStyle::bold : FontStyle::normal);
-        found = std::make_unique<LabelFont>(font.qt());
+        const Font& wanted = node.directory ? wanted_[size].directory : wanted_[size].file;
+        const FontStyle style = node.directory ? FontStyle::bold : FontStyle::normal;
+        found = std::make_unique<LabelFont>((wanted ? wanted : standard_font(node.font_size, style)).qt());
     }
     return *found;
 }
 
-QSize LabelFonts::size(std::string_view label, int font_size, NodeKind kind) {
-    const LabelFont& font = of(font_size, kind);
+QSize LabelFonts::size(const TreeNode& node) {
+    const LabelFont& font = of(node);
+    const std::string& label = node.record->label;
     double width = 0;
     if (is_plain(label)) {
         for (const char c : label) {
@@ -68,6 +67,8 @@ QSize LabelFonts::size(std::string_view label, int font_size, NodeKind kind) {
     } else {
         width = QFontMetricsF(font.font).horizontalAdvance(shown_label(label));
     }
-    const int mark = kind == NodeKind::directory ? mark_room : 0;
-    return {static_cast<int>(std::ceil(width)) + 2 * padding + mark, font.height + 2 * line_room};
+    const int least = static_cast<int>(font.advances['m']);  // for a click
+    const int mark = node.is_marked() ? mark_room : 0;
+    return {std::max(static_cast<int>(std::ceil(width)), least) + 2 * padding + mark,
+            font.height + 2 * line_room};
 }

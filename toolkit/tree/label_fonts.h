@@ -2,14 +2,13 @@
 #pragma once
 
 #include "toolkit/font.h"
-#include "toolkit/tree/node_record.h"
+#include "toolkit/tree/node_tree.h"
 
 #include <QFont>
 #include <QSize>
 
 #include <array>
 #include <memory>
-#include <string_view>
 
 /// A font for labels, measured.
 struct LabelFont {
@@ -26,13 +25,13 @@ class LabelFonts {
   public:
     static constexpr int sizes = 4;      ///< extra small, small, medium and large
     static constexpr int padding = 5;    ///< left and right of the text
-    static constexpr int mark_room = 9;  ///< at the right edge of a directory
+    static constexpr int mark_room = 9;  ///< at the right edge of a directory that has not been opened
     static constexpr int line_room = 1;  ///< above and below the text
 
     void set(int font_size, const Font& file, const Font& directory);
-    [[nodiscard]] const LabelFont& of(int font_size, NodeKind kind);
-    /// How much room a label takes.
-    [[nodiscard]] QSize size(std::string_view label, int font_size, NodeKind kind);
+    [[nodiscard]] const LabelFont& of(const TreeNode& node);
+    /// How much room a node's label takes.
+    [[nodiscard]] QSize size(const TreeNode& node);
 
   private:
     struct Pair {

@@ -2,26 +2,9 @@
 #pragma once
 
 #include "toolkit/tree/layout_node.h"
+#include "toolkit/tree/tree_area.h"
 
 #include <functional>
-
-/// A rectangle in pixels, from the upper left corner of the tree.
-struct TreeArea {
-    int x = 0;
-    int y = 0;
-    int width = 0;
-    int height = 0;
-
-    [[nodiscard]] int right() const { return x + width; }
-    [[nodiscard]] int bottom() const { return y + height; }
-    [[nodiscard]] bool holds(int px, int py) const {
-        return px >= x && px < right() && py >= y && py < bottom();
-    }
-    [[nodiscard]] bool touches(const TreeArea& other) const {
-        return x < other.right() && other.x < right() && y < other.bottom() && other.y < bottom();
-    }
-    bool operator==(const TreeArea&) const = default;
-};
 
 /// Where the nodes of a tree stand: roots at the left below each other, the children of a node in a column to
 /// its right, the node centred on them. It owns no nodes. A change costs what the depth of the tree and the

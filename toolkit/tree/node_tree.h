@@ -14,6 +14,9 @@ class TreeNode : public LayoutNode {
   public:
     explicit TreeNode(std::unique_ptr<NodeRecord> kept) : record(std::move(kept)) {}
 
+    /// A directory of which nobody knows yet what is in it.
+    [[nodiscard]] bool is_marked() const { return directory && !opened; }
+
     std::unique_ptr<NodeRecord> record;
     TreeNode* selected_before = nullptr;
     TreeNode* selected_after = nullptr;
@@ -21,7 +24,8 @@ class TreeNode : public LayoutNode {
     bool directory = false;
     bool opened = false;
     bool selected = false;
-    bool accessible = false;  ///< an assistive program has asked for it
+    bool accessible = false;      ///< assistive programs have been told of it
+    bool children_known = false;  ///< and have asked how many children it has
 };
 
 /// The nodes of a canvas with their places, and which of them are selected, in what order. It knows no

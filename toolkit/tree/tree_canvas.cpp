@@ -2,6 +2,7 @@
 #include "toolkit/tree/tree_canvas.h"
 
 #include "toolkit/text_conversion.h"
+#include "toolkit/tree/accessible.h"
 #include "toolkit/tree/canvas_widget.h"
 
 #include <QScrollBar>
@@ -9,6 +10,7 @@
 TreeCanvas::TreeCanvas(Container& parent, std::string_view accessible_name, const Procedures& procedures,
                        Menu menu, std::string_view empty_text)
     : widget_(new CanvasWidget(*this, procedures, std::move(menu), empty_text, parent.widget())) {
+    make_accessible(*widget_);
     widget_->setAccessibleName(to_qstring(accessible_name));
     parent.add({}, widget_, Place::line);
 }
@@ -96,7 +98,7 @@ void TreeCanvas::set_view_start(int horizontal, int vertical) {
 
 void TreeCanvas::show(TreeNode* node) { widget_->show_area(widget_->area(node)); }
 
-TreeCanvas::Area TreeCanvas::area(const TreeNode* node) const {
+TreeArea TreeCanvas::area(const TreeNode* node) const {
     const QRect area = widget_->area(node);
     return {area.x(), area.y(), area.width(), area.height()};
 }

@@ -5,6 +5,7 @@
 #include "toolkit/menu.h"
 #include "toolkit/panel.h"
 #include "toolkit/tree/node_record.h"
+#include "toolkit/tree/tree_area.h"
 #include "toolkit/tree/tree_procedures.h"
 
 #include <memory>
@@ -27,7 +28,7 @@ class TreeCanvas {
     TreeCanvas(Container& parent, std::string_view accessible_name, const Procedures& procedures, Menu menu,
                std::string_view empty_text);
 
-    /// The fonts of nodes that are added later, for files and for directories.
+    /// The fonts of a size, for files and for directories; to be set before there are nodes.
     void set_fonts(int font_size, const Font& file, const Font& directory);
     [[nodiscard]] Menu& menu();
     void set_focus();
@@ -36,7 +37,7 @@ class TreeCanvas {
     /// A position beyond the siblings is the end.
     TreeNode* add(TreeNode* parent, std::unique_ptr<NodeRecord> record, int font_size, NodeKind kind,
                   int position = at_end);
-    /// Destroys a node with all below it.
+    /// Destroys a node with all below it. Where the current node is one of them, its parent is it then.
     void destroy(TreeNode* node);
     void destroy_children(TreeNode* node);
     /// Puts a node with all below it elsewhere, but not below itself.
@@ -82,14 +83,8 @@ class TreeCanvas {
     /// Scrolls no farther than is needed to see the node.
     void show(TreeNode* node);
 
-    struct Area {
-        int x;
-        int y;
-        int width;
-        int height;
-    };
     /// A node's label, in pixels from the upper left corner of what can be scrolled.
-    [[nodiscard]] Area area(const TreeNode* node) const;
+    [[nodiscard]] TreeArea area(const TreeNode* node) const;
     /// The room that the tree takes, in pixels; at least what was set.
     [[nodiscard]] int width() const;
     [[nodiscard]] int height() const;
@@ -105,7 +100,7 @@ class TreeCanvas {
 /// The selected nodes in the order in which they were selected.
 [[nodiscard]] std::vector<TreeNode*> rectobj_get_selected_list(const TreeCanvas& canvas);
 
-/// While it lives, a canvas is not painted and its scroll bars stay as they are. Nests.
+/// While it lives, changes of the nodes are not painted and the scroll bars stay as they are. Nests.
 class RepaintHold {
   public:
     explicit RepaintHold(TreeCanvas& canvas);
