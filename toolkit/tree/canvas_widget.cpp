@@ -71,8 +71,7 @@ void CanvasWidget::move(TreeNode* node, TreeNode* parent, int position) {
     }
 }
 
-void CanvasWidget::set_record(TreeNode* node, std::unique_ptr<NodeRecord> record) {
-    node->record = std::move(record);
+void CanvasWidget::relabelled(TreeNode* node) {
     observer_->renamed(node);
     measure(node);
 }

@@ -40,7 +40,8 @@ class CanvasWidget final : public QAbstractScrollArea {
                   int position);
     void destroy(TreeNode* node);
     void move(TreeNode* node, TreeNode* parent, int position);
-    void set_record(TreeNode* node, std::unique_ptr<NodeRecord> record);
+    /// To be called when the label has changed.
+    void relabelled(TreeNode* node);
     void set_opened(TreeNode* node, bool opened);
 
     // Each tells whether it changed anything.

@@ -45,8 +45,8 @@ void NodeTree::destroy(TreeNode* node, const std::function<void(TreeNode*)>& for
     }
     layout_.remove(*node);
     size_ -= static_cast<int>(branch.size());
-    for (TreeNode* gone : branch) {
-        delete gone;
+    for (auto gone = branch.rbegin(); gone != branch.rend(); ++gone) {
+        delete *gone;
     }
 }
 

@@ -41,8 +41,14 @@ void TreeCanvas::move(TreeNode* node, TreeNode* parent, int position) {
     widget_->move(node, parent, position);
 }
 
+void TreeCanvas::relabel(TreeNode* node, std::string label) {
+    node->record->label = std::move(label);
+    widget_->relabelled(node);
+}
+
 void TreeCanvas::set_record(TreeNode* node, std::unique_ptr<NodeRecord> record) {
-    widget_->set_record(node, std::move(record));
+    node->record = std::move(record);
+    widget_->relabelled(node);
 }
 
 void TreeCanvas::set_opened(TreeNode* node, bool opened) { widget_->set_opened(node, opened); }
@@ -98,7 +104,7 @@ void TreeCanvas::set_view_start(int horizontal, int vertical) {
 
 void TreeCanvas::show(TreeNode* node) { widget_->show_area(widget_->area(node)); }
 
-TreeArea TreeCanvas::area(const TreeNode* node) const {
+TreeCanvas::Area TreeCanvas::area(const TreeNode* node) const {
     const QRect area = widget_->area(node);
     return {area.x(), area.y(), area.width(), area.height()};
 }

@@ -9,6 +9,7 @@
 #include "toolkit/tree/tree_procedures.h"
 
 #include <memory>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -22,6 +23,7 @@ class TreeNode;
 class TreeCanvas {
   public:
     using Procedures = TreeProcedures;
+    using Area = TreeArea;
     static constexpr int at_end = -1;  ///< as a position
 
     /// `menu` is opened by the right button; `empty_text` stands there when there are no nodes.
@@ -37,12 +39,14 @@ class TreeCanvas {
     /// A position beyond the siblings is the end.
     TreeNode* add(TreeNode* parent, std::unique_ptr<NodeRecord> record, int font_size, NodeKind kind,
                   int position = at_end);
-    /// Destroys a node with all below it. Where the current node is one of them, its parent is it then.
+    /// Destroys a node with all below it, the lower ones first. Where the current node is one of them, its
+    /// parent is it then.
     void destroy(TreeNode* node);
     void destroy_children(TreeNode* node);
     /// Puts a node with all below it elsewhere, but not below itself.
     void move(TreeNode* node, TreeNode* parent, int position = at_end);
-    /// Replaces the record, and with it the label. The selection stays.
+    /// Gives a node another label, or another record with its label. The selection stays.
+    void relabel(TreeNode* node, std::string label);
     void set_record(TreeNode* node, std::unique_ptr<NodeRecord> record);
     /// A directory that has not been opened bears a mark.
     void set_opened(TreeNode* node, bool opened = true);
@@ -84,7 +88,7 @@ class TreeCanvas {
     void show(TreeNode* node);
 
     /// A node's label, in pixels from the upper left corner of what can be scrolled.
-    [[nodiscard]] TreeArea area(const TreeNode* node) const;
+    [[nodiscard]] Area area(const TreeNode* node) const;
     /// The room that the tree takes, in pixels; at least what was set.
     [[nodiscard]] int width() const;
     [[nodiscard]] int height() const;

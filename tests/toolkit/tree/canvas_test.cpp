@@ -268,6 +268,8 @@ TEST_F(CanvasNodes, TakeTheRoomOfTheirLabels) {
     canvas.select(one);
     canvas.set_record(one, std::make_unique<SampleRecord>("a longer label", "/x"));
     EXPECT_GT(canvas.area(one).width, width);
+    canvas.relabel(one, "one");
+    EXPECT_EQ(canvas.area(one).width, width);
     EXPECT_EQ(canvas.area(deep).x, canvas.area(two).right() + 50);
     const TreeArea marked = canvas.area(two);
     canvas.set_opened(two);
