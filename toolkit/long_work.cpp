@@ -25,6 +25,8 @@ class LongWork final : public QObject {
   public:
     /// Nobody waits for the frame's work any longer; the footer is as before.
     static void forget(const Frame& frame);
+    /// Null when there is none.
+    static LongWork* of(const Frame& frame);
 
     LongWork(Frame& frame, std::string_view items_label, std::function<void()> done);
     ~LongWork() override;
@@ -34,6 +36,7 @@ class LongWork final : public QObject {
     void start_thread(std::function<void(Progress&)> work);
     void show_count();
     void finish();
+    [[nodiscard]] const std::string& items_label() const { return items_label_; }
 
   private:
     void restore_footer();
@@ -45,7 +48,7 @@ class LongWork final : public QObject {
     std::string items_label_;
     std::string footer_before_;
     std::string footer_;  ///< ours
-    int shown_items_ = 0;
+    std::int64_t shown_items_ = 0;
     std::function<void()> done_;
     std::shared_ptr<Shared> shared_;
     QTimer count_timer_;  ///< the next count is shown when it has run down
@@ -104,11 +107,15 @@ void run(std::shared_ptr<Shared> shared, std::function<void(Progress&)> work) {
 
 }  // namespace
 
+LongWork* LongWork::of(const Frame& frame) {
+    return static_cast<LongWork*>(
+        frame.widget()->findChild<QObject*>(object_name, Qt::FindDirectChildrenOnly));
+}
+
 void LongWork::forget(const Frame& frame) {
-    auto* const child = frame.widget()->findChild<QObject*>(object_name, Qt::FindDirectChildrenOnly);
-    if (child != nullptr) {
-        static_cast<LongWork*>(child)->restore_footer();
-        delete child;
+    if (LongWork* const work = of(frame)) {
+        work->restore_footer();
+        delete work;
     }
 }
 
@@ -205,6 +212,11 @@ void start_work(Frame& frame, std::string_view items_label, std::function<void(P
     LongWork::forget(frame);
     auto* const waiting = new LongWork(frame, items_label, std::move(done));
     waiting->start_thread(std::move(work));
+}
+
+bool waits_for_work(const Frame& frame, std::string_view items_label) {
+    const LongWork* const work = LongWork::of(frame);
+    return work != nullptr && work->items_label() == items_label;
 }
 
 void await_stopped_work(std::chrono::milliseconds limit) {

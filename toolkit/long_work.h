@@ -36,5 +36,8 @@ requires(!std::is_void_v<std::invoke_result_t<Work, Progress&>>) void start_work
                std::function<void()>([=] { done(std::move(*result)); }));
 }
 
+/// Whether a frame waits for work with items of that label.
+[[nodiscard]] bool waits_for_work(const Frame& frame, std::string_view items_label);
+
 /// Waits until all threads that were asked to stop have ended, but no longer than that.
 void await_stopped_work(std::chrono::milliseconds limit);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <atomic>
+#include <cstdint>
 #include <functional>
 #include <utility>
 
@@ -16,9 +17,9 @@ class Progress {
     // The working thread.
 
     [[nodiscard]] bool stopping() const { return stop_.load(std::memory_order_relaxed); }
-    /// Another item is done; whether to go on with the next.
-    [[nodiscard]] bool next() {
-        items_.fetch_add(1, std::memory_order_relaxed);
+    /// Another item is done, or so many; whether to go on with the next.
+    [[nodiscard]] bool next(std::int64_t items = 1) {
+        items_.fetch_add(items, std::memory_order_relaxed);
         if (tell_ && !telling_.load(std::memory_order_relaxed) && !telling_.exchange(true)) {
             tell_();
         }
@@ -29,12 +30,12 @@ class Progress {
 
     /// Asks the work to stop after the current item.
     void stop() { stop_ = true; }
-    [[nodiscard]] int items() const { return items_; }
+    [[nodiscard]] std::int64_t items() const { return items_; }
     void told() { telling_ = false; }
 
   private:
     std::function<void()> tell_;
     std::atomic<bool> telling_ = false;
     std::atomic<bool> stop_ = false;
-    std::atomic<int> items_ = 0;
+    std::atomic<std::int64_t> items_ = 0;
 };

@@ -1,23 +1,19 @@
 // SPDX-License-Identifier: MIT
 #include "shell/files.h"
 
+#include "tests/support/other_process.h"
 #include "tests/support/scratch_directory.h"
 
 #include <algorithm>
 #include <array>
 #include <cerrno>
 #include <csignal>
-#include <fstream>
-#include <functional>
 #include <tuple>
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
-#include <sched.h>
-#include <sys/mount.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 namespace {
@@ -25,42 +21,12 @@ namespace {
 using namespace std::string_literals;
 namespace fs = std::filesystem;
 
-constexpr uid_t nobody = 65534;
-constexpr int cannot_be_tried = 77;
-
-/// What stands in a directory, links with their targets: what a replacement must not add to.
-std::vector<std::string> listing(const fs::path& directory) {
-    std::vector<std::string> names;
-    for (const fs::directory_entry& entry : fs::directory_iterator(directory)) {
-        names.push_back(entry.path().filename().string() +
-                        (entry.is_symlink() ? " -> " + fs::read_symlink(entry.path()).string() : ""));
-    }
-    std::ranges::sort(names);
-    return names;
-}
-
 using Names = std::vector<std::string>;
 
 mode_t mode_of(const fs::path& path) {
     struct stat info {};
     return lstat(path.c_str(), &info) == 0 ? info.st_mode & 07777U : 0;
 }
-
-/// Runs expectations in a process of their own, which may change what belongs to a process. Gives 0, 1 when
-/// one failed, or what the body itself returned.
-int in_child(const std::function<int()>& body) {
-    const pid_t child = fork();
-    if (child == 0) {
-        const int result = body();
-        std::fflush(nullptr);
-        _exit(testing::Test::HasFailure() ? 1 : result);
-    }
-    int status = 0;
-    return waitpid(child, &status, 0) == child && WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-}
-
-/// Makes root an ordinary user; anybody else is one.
-bool become_ordinary() { return geteuid() != 0 || (setgid(nobody) == 0 && setuid(nobody) == 0); }
 
 /// Replaces a file in a process that root has left; anybody else is one who is not root.
 int replace_as_ordinary(const std::string& path) {
@@ -157,7 +123,8 @@ TEST(SaveFile, LeavesNoTemporaryFileThatWouldNotBeFoundLater) {
                   return save_file(home / "file", std::string(1000, 'x'));  // killed by a signal in the write
               }),
               -1);
-    EXPECT_EQ(listing(home.path()).size(), 1U);
+    // None at all where the file system has files without names.
+    EXPECT_LE(listing(home.path()).size(), 1U);
     remove_stale_temporary_files(home.path(), std::time(nullptr) + 100'000);
     EXPECT_EQ(listing(home.path()), Names{});
 }
@@ -272,25 +239,10 @@ TEST(SaveFile, GivesNobodyMoreRightsWhereTheGroupIsLost) {
     EXPECT_EQ(std::pair(info.st_uid, info.st_gid), std::pair(nobody, gid_t{nobody}));
 }
 
-bool write_to(const char* path, const std::string& text) {
-    return static_cast<bool>(std::ofstream(path) << text << std::flush);
-}
-
-/// Gives the process mounts of its own: as root at once, else as the root of a user namespace.
-bool have_own_mounts() {
-    const std::string user = "0 " + std::to_string(geteuid()) + " 1";
-    const std::string group = "0 " + std::to_string(getegid()) + " 1";
-    const bool unshared =
-        unshare(CLONE_NEWNS) == 0 ||
-        (unshare(CLONE_NEWUSER | CLONE_NEWNS) == 0 && write_to("/proc/self/setgroups", "deny") &&
-         write_to("/proc/self/uid_map", user) && write_to("/proc/self/gid_map", group));
-    return unshared && mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0;
-}
-
 TEST(SaveFile, LeavesTheOldFileOnAFullDisk) {
     const ScratchDirectory home;
     const auto fill_disk = [&] {
-        if (!have_own_mounts() || mount("none", home.path().c_str(), "tmpfs", 0, "size=64k") != 0) {
+        if (!mount_small_disk(home.path(), "64k")) {
             return cannot_be_tried;
         }
         const std::string old(20'000, 'o');
