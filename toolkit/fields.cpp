@@ -12,14 +12,20 @@
 #include <limits>
 #include <utility>
 
-namespace {
-
-constexpr int usual_length = 24;  ///< characters
-
-/// A line edit that keeps Return to itself when it acts on it; else the window takes the key.
+/// A line edit that keeps Return to itself when it acts on it; else the window takes the key. What it shows
+/// may stand for a name that holds characters which cannot be shown.
 class LineEdit : public QLineEdit {
   public:
     LineEdit(Notify notify, QWidget* parent) : QLineEdit(parent), notify_(notify) {}
+
+    [[nodiscard]] QString name() const { return text() == shown_ ? name_ : text(); }
+    void set_name(const QString& name, const QString& shown) {
+        name_ = name;
+        shown_ = shown;
+        if (shown != text()) {
+            setText(shown);
+        }
+    }
 
   protected:
     void keyPressEvent(QKeyEvent* event) override {
@@ -32,7 +38,13 @@ class LineEdit : public QLineEdit {
 
   private:
     Notify notify_;
+    QString name_;
+    QString shown_;
 };
+
+namespace {
+
+constexpr int usual_length = 24;  ///< characters
 
 /// A spin box that tells of Return and of steps. Leaving it is no act: a window that is closed or taken down
 /// leaves all its fields.
@@ -71,13 +83,12 @@ TextField::TextField(Container& parent, Label label, Notify notify, Place place)
     parent.add(label.text, widget_, place);
 }
 
-std::string TextField::text() const { return from_qstring(widget_->text()); }
+std::string TextField::text() const { return from_qstring(widget_->name()); }
 
-void TextField::set_text(std::string_view text) {
-    const QString wanted = to_qstring(text);
-    if (wanted != widget_->text()) {
-        widget_->setText(wanted);
-    }
+void TextField::set_text(std::string_view text) { widget_->set_name(to_qstring(text), to_qstring(text)); }
+
+void TextField::set_name(std::string_view name) {
+    widget_->set_name(to_qstring(name), visible_controls(to_qstring(name)));
 }
 
 void TextField::on_change(std::function<void()> action) {
@@ -85,6 +96,8 @@ void TextField::on_change(std::function<void()> action) {
 }
 
 void TextField::set_focus() { widget_->setFocus(); }
+
+void TextField::select_all() { widget_->selectAll(); }
 
 void TextField::show_beginning() { widget_->setCursorPosition(0); }
 

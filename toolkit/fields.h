@@ -8,7 +8,7 @@
 #include <string>
 #include <string_view>
 
-class QLineEdit;
+class LineEdit;
 class QSpinBox;
 
 /// One line of text with a label. Line feeds cannot be entered; bytes that are not UTF-8 are kept.
@@ -20,9 +20,13 @@ class TextField {
     [[nodiscard]] std::string text() const;
     /// Sets the text; `notify` is not called. An equal text leaves cursor and selection as they are.
     void set_text(std::string_view text);
+    /// Sets the name of a file, control characters shown as their pictures. `text` is that very name until
+    /// its user changes what is shown.
+    void set_name(std::string_view name);
     /// `action` is called after every change of the text, by whomever. For showing it elsewhere.
     void on_change(std::function<void()> action);
     void set_focus();
+    void select_all();
     /// Scrolls to the first character: a text that does not fit shows its end otherwise.
     void show_beginning();
     /// For fields of known content: asks for room for so many characters.
@@ -31,7 +35,7 @@ class TextField {
     void set_tool_tip(std::string_view text);
 
   private:
-    QLineEdit* widget_;
+    LineEdit* widget_;
 };
 
 /// A whole number, entered or stepped through.

@@ -3,15 +3,41 @@
 
 #include "toolkit/answer.h"
 #include "toolkit/button_picture.h"
+#include "toolkit/list_columns.h"
 #include "toolkit/return_key.h"
 #include "toolkit/text_conversion.h"
 
+#include <QContextMenuEvent>
 #include <QKeyEvent>
+#include <QMenu>
 #include <QMouseEvent>
+#include <QScrollBar>
 
+#include <algorithm>
 #include <iterator>
 
+namespace {
+
 constexpr int glyph_size = 16;  // pixels
+
+/// In the order of `Glyph`, but for none.
+constexpr std::array<std::string_view, 6> pictures{"arrow",          "directory",     "document",
+                                                   "directory_link", "document_link", "executable"};
+
+Qt::Key key_of(ListKey::Key key) {
+    switch (key) {
+        case ListKey::Key::backspace:
+            return Qt::Key_Backspace;
+        case ListKey::Key::remove:
+            return Qt::Key_Delete;
+        case ListKey::Key::f2:
+            return Qt::Key_F2;
+        default:
+            return Qt::Key_F5;
+    }
+}
+
+}  // namespace
 
 void ListModel::append(std::vector<std::string> rows) {
     if (rows.empty()) {
@@ -28,7 +54,7 @@ void ListModel::replace(std::vector<std::string> rows, std::vector<Glyph> glyphs
     rows_ = std::move(rows);
     glyphs_ = std::move(glyphs);
     if (!glyphs_.empty() && pictures_[0].isNull()) {
-        pictures_ = {button_picture("arrow"), button_picture("directory"), button_picture("document")};
+        std::ranges::transform(pictures, pictures_.begin(), button_picture);
     }
     endResetModel();
 }
@@ -79,8 +105,51 @@ void ListView::mousePressEvent(QMouseEvent* event) {
 /// Qt gives the second press of a double click this name; here every press is told.
 void ListView::mouseDoubleClickEvent(QMouseEvent* event) { mousePressEvent(event); }
 
+void ListView::set_context_menu(QMenu& menu) {
+    context_menu_ = &menu;
+    menu.setParent(this, menu.windowFlags());
+}
+
+void ListView::contextMenuEvent(QContextMenuEvent* event) {
+    if (context_menu_ == nullptr) {
+        QListView::contextMenuEvent(event);
+        return;
+    }
+    const bool by_mouse = event->reason() == QContextMenuEvent::Mouse;
+    const QModelIndex index = by_mouse ? indexAt(event->pos()) : currentIndex();
+    if (index.isValid()) {
+        if (!selectionModel()->isSelected(index)) {
+            selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect);
+        }
+        tell({.kind = ListEvent::Kind::select, .row = index.row()});
+    }
+    const QPoint below = viewport()->mapToGlobal(visualRect(index).bottomLeft());
+    context_menu_->popup(by_mouse ? event->globalPos() : below);
+}
+
+void ListView::set_columns(std::vector<ListColumn> columns) {
+    QAbstractItemDelegate* old = itemDelegate();
+    setItemDelegate(new ListColumns(std::move(columns), this));
+    delete old;
+}
+
+ListPlace ListView::place() const { return {verticalScrollBar()->value(), currentIndex().row()}; }
+
+void ListView::return_to(const ListPlace& place) {
+    const int row = std::min(place.current, model()->rowCount() - 1);
+    selectionModel()->setCurrentIndex(model()->index(row, 0), QItemSelectionModel::NoUpdate);
+    doItemsLayout();
+    verticalScrollBar()->setValue(place.scrolled);
+}
+
 void ListView::keyPressEvent(QKeyEvent* event) {
     const QModelIndex before = currentIndex();
+    for (const ListKey& key : keys_) {
+        if (event->key() == key_of(key.key) && (event->modifiers() & ~Qt::KeypadModifier) == 0) {
+            notify_from(this, key.notify);
+            return;
+        }
+    }
     if (before.isValid() && is_return(*event)) {
         tell({.kind = ListEvent::Kind::activate, .row = before.row()});
         return;

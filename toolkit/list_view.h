@@ -8,8 +8,11 @@
 #include <QListView>
 
 #include <array>
+#include <span>
 #include <string>
 #include <vector>
+
+class QMenu;
 
 /// The rows of a list.
 class ListModel final : public QAbstractListModel {
@@ -27,7 +30,13 @@ class ListModel final : public QAbstractListModel {
   private:
     std::vector<std::string> rows_;
     std::vector<Glyph> glyphs_;      ///< of the first rows
-    std::array<QIcon, 3> pictures_;  ///< of the glyphs but for none; loaded when there are some
+    std::array<QIcon, 6> pictures_;  ///< of the glyphs but for none; loaded when there are some
+};
+
+/// Where a view stands in its rows.
+struct ListPlace {
+    int scrolled = 0;
+    int current = -1;  ///< the row that the keyboard goes on from
 };
 
 /// Shows the rows and tells what its user does with them.
@@ -35,7 +44,16 @@ class ListView final : public QListView {
   public:
     ListView(ListModel& model, ListNotify notify, QWidget* parent);
 
+    void set_keys(std::span<const ListKey> keys) { keys_.assign(keys.begin(), keys.end()); }
+    /// Borrows the menu.
+    void set_context_menu(QMenu& menu);
+    void set_columns(std::vector<ListColumn> columns);
+    [[nodiscard]] ListPlace place() const;
+    /// As far as there are rows.
+    void return_to(const ListPlace& place);
+
   protected:
+    void contextMenuEvent(QContextMenuEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
@@ -44,4 +62,6 @@ class ListView final : public QListView {
     void tell(const ListEvent& event) const;
 
     ListNotify notify_;
+    std::vector<ListKey> keys_;
+    QMenu* context_menu_ = nullptr;
 };

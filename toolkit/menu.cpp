@@ -39,6 +39,8 @@ QAction* Menu::make_entry(const MenuEntry& entry, MenuNotify chosen) {
     auto* action = new QAction(elided(menu_->fontMetrics(), entry.label, widest), menu_.get());
     action->setToolTip(plain_tool_tip(entry.value.empty() ? entry.label : entry.value));
     action->setEnabled(!entry.is_heading);
+    action->setCheckable(entry.checked.has_value());
+    action->setChecked(entry.checked.value_or(false));
     QObject::connect(action, &QAction::triggered, menu_.get(),
                      [menu = menu_.get(), chosen, value = entry.value] {
                          notify_from<const std::string&>(menu, chosen, value);

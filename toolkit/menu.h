@@ -4,6 +4,7 @@
 #include "toolkit/notify.h"
 
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -21,8 +22,9 @@ struct MenuItem {
 /// A line of a menu that is made at run time.
 struct MenuEntry {
     std::string label;
-    std::string value;        ///< what the menu's procedure is called with
-    bool is_heading = false;  ///< stands right under the menu's title and cannot be chosen
+    std::string value;            ///< what the menu's procedure is called with
+    bool is_heading = false;      ///< stands right under the menu's title and cannot be chosen
+    std::optional<bool> checked;  ///< with a mark that tells whether something is on
 };
 
 /// What a menu calls with the value of the chosen entry.

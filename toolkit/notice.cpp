@@ -4,6 +4,7 @@
 #include "toolkit/frame.h"
 #include "toolkit/text_conversion.h"
 
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -11,10 +12,17 @@
 #include <vector>
 
 int notice_prompt(Frame& owner, std::string_view message, std::initializer_list<std::string_view> buttons,
-                  DefaultButton default_button) {
+                  DefaultButton default_button, std::string_view detail) {
     QMessageBox box(owner.widget());
     box.setTextFormat(Qt::PlainText);
     box.setText(to_qstring(message));
+    if (!detail.empty()) {
+        box.setInformativeText(visible_text(detail));
+        // It would be taken for HTML otherwise where it looks so.
+        for (QLabel* label : box.findChildren<QLabel*>()) {
+            label->setTextFormat(Qt::PlainText);
+        }
+    }
     box.setWindowTitle(to_qstring(owner.label()));
     box.setIcon(QMessageBox::Question);
     std::vector<QPushButton*> made;
@@ -29,6 +37,6 @@ int notice_prompt(Frame& owner, std::string_view message, std::initializer_list<
     return static_cast<int>(chosen - made.begin());
 }
 
-bool agreed(Frame& owner, std::string_view question) {
-    return notice_prompt(owner, question, {"Yes", "Cancel"}, DefaultButton::last) == 0;
+bool agreed(Frame& owner, std::string_view question, std::string_view detail) {
+    return notice_prompt(owner, question, {"Yes", "Cancel"}, DefaultButton::last, detail) == 0;
 }

@@ -11,10 +11,12 @@ class Frame;
 enum class DefaultButton : std::uint8_t { first, last };
 
 /// Asks a question in a dialog of `owner` and waits for the answer: the index of the chosen button. The last
-/// button is what Escape or closing the dialog gives. The text is shown as plain text.
+/// button is what Escape or closing the dialog gives. The texts are shown as plain text; `detail`, such as
+/// the name of a file, stands under the message.
 [[nodiscard]] int notice_prompt(Frame& owner, std::string_view message,
                                 std::initializer_list<std::string_view> buttons,
-                                DefaultButton default_button = DefaultButton::first);
+                                DefaultButton default_button = DefaultButton::first,
+                                std::string_view detail = {});
 
 /// Asks with "Yes" and "Cancel" whether something may be done that cannot be taken back. Return is "Cancel".
-[[nodiscard]] bool agreed(Frame& owner, std::string_view question);
+[[nodiscard]] bool agreed(Frame& owner, std::string_view question, std::string_view detail = {});

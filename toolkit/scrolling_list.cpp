@@ -49,7 +49,7 @@ void ScrollingList::append(std::vector<std::string> rows) {
 
 void ScrollingList::set_rows(std::vector<std::string> rows) { model_->replace(std::move(rows), {}); }
 
-void ScrollingList::set_rows(std::vector<ListRow> rows) {
+void ScrollingList::set_rows(std::vector<ListRow> rows, View view) {
     std::vector<std::string> texts;
     std::vector<Glyph> glyphs;
     texts.reserve(rows.size());
@@ -58,24 +58,55 @@ void ScrollingList::set_rows(std::vector<ListRow> rows) {
         texts.push_back(std::move(row.text));
         glyphs.push_back(row.glyph);
     }
+    const ListPlace place = widget_->place();
     model_->replace(std::move(texts), std::move(glyphs));
+    if (view == View::kept) {
+        widget_->return_to(place);
+    }
 }
 
 void ScrollingList::delete_rows() { model_->replace({}, {}); }
 
 std::optional<int> ScrollingList::selected() const {
-    const QModelIndexList selected = widget_->selectionModel()->selectedIndexes();
-    return selected.isEmpty() ? std::nullopt : std::optional(selected.front().row());
+    const std::vector<int> rows = selected_rows();
+    return rows.empty() ? std::nullopt : std::optional(rows.front());
+}
+
+std::vector<int> ScrollingList::selected_rows() const {
+    std::vector<int> rows;
+    for (const QModelIndex& index : widget_->selectionModel()->selectedIndexes()) {
+        rows.push_back(index.row());
+    }
+    std::ranges::sort(rows);
+    return rows;
 }
 
 void ScrollingList::select(int row) {
     if (const QModelIndex index = model_->index(row); index.isValid()) {
-        widget_->setCurrentIndex(index);
+        widget_->selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect);
         widget_->scrollTo(index);
     }
 }
 
 void ScrollingList::clear_selection() { widget_->clearSelection(); }
+
+void ScrollingList::set_selectable(Selectable selectable) {
+    const std::optional<int> first = selected();
+    widget_->setSelectionMode(selectable == Selectable::several ? QAbstractItemView::ExtendedSelection
+                                                                : QAbstractItemView::SingleSelection);
+    if (first && selectable == Selectable::one) {
+        select(*first);
+    }
+}
+
+void ScrollingList::set_keys(std::initializer_list<ListKey> keys) { widget_->set_keys(keys); }
+
+void ScrollingList::set_context_menu(Menu menu) {
+    widget_->set_context_menu(*menu.widget());
+    context_menu_ = std::move(menu);
+}
+
+void ScrollingList::set_columns(std::vector<ListColumn> columns) { widget_->set_columns(std::move(columns)); }
 
 void ScrollingList::set_font(const Font& font) {
     widget_->setFont(font.qt());

@@ -3,8 +3,10 @@
 
 #include "toolkit/font.h"
 #include "toolkit/list_row.h"
+#include "toolkit/menu.h"
 #include "toolkit/panel.h"
 
+#include <initializer_list>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -15,8 +17,17 @@ class ListView;
 
 enum class Duplicates : bool { refused, allowed };
 
-/// Rows of text, one of which can be selected. Rows are drawn as they come into view, so that thousands cost
-/// no more than those that are seen. What the program does itself notifies nobody.
+/// How many rows may be selected at once. Several are chosen with Ctrl and Shift, and with Ctrl+A.
+enum class Selectable : bool { one, several };
+
+/// What replacing its rows leaves of a list's view.
+enum class View : bool {
+    from_first_row,
+    kept,  ///< it shows the same place, and the keyboard goes on from there
+};
+
+/// Rows of text, one or several of which can be selected. Rows are drawn as they come into view, so that
+/// thousands cost no more than those that are seen. What the program does itself notifies nobody.
 class ScrollingList {
   public:
     ScrollingList(Container& parent, std::string_view accessible_name, ListNotify notify = nullptr);
@@ -32,14 +43,25 @@ class ScrollingList {
     /// Replaces all rows, whether equal or not; none is selected then.
     void set_rows(std::vector<std::string> rows);
     /// The same with a glyph before each row.
-    void set_rows(std::vector<ListRow> rows);
+    void set_rows(std::vector<ListRow> rows, View view = View::from_first_row);
     void delete_rows();
 
-    /// Nothing where no row is selected.
+    /// The first row that is selected; nothing where none is.
     [[nodiscard]] std::optional<int> selected() const;
-    /// Selects a row and scrolls it into view. A row that is not there is ignored.
+    /// All of them, from top to bottom.
+    [[nodiscard]] std::vector<int> selected_rows() const;
+    /// Selects a row alone and scrolls it into view. A row that is not there is ignored.
     void select(int row);
     void clear_selection();
+    /// Of several selected rows only the first stays so when one is the most.
+    void set_selectable(Selectable selectable);
+
+    void set_keys(std::initializer_list<ListKey> keys);
+    /// The menu of the right mouse button and the Menu key, which open it at a row and select that.
+    void set_context_menu(Menu menu);
+    [[nodiscard]] Menu& context_menu() { return *context_menu_; }
+    /// Replaces the columns, from left to right.
+    void set_columns(std::vector<ListColumn> columns);
 
     void set_font(const Font& font);
     /// Asks for room for so many characters and rows.
@@ -50,6 +72,7 @@ class ScrollingList {
   private:
     ListModel* model_;
     ListView* widget_;
+    std::optional<Menu> context_menu_;
     Duplicates duplicates_ = Duplicates::allowed;
     int columns_ = 0;
     int rows_ = 0;

@@ -81,16 +81,24 @@ std::string from_qstring(const QString& text) {
     return result;
 }
 
+QString visible_controls(QString text) {
+    for (QChar& character : text) {
+        const char16_t code = character.unicode();
+        if (code < 0x20) {
+            character = QChar(static_cast<char16_t>(0x2400 + code));
+        } else if (code == 0x7F) {
+            character = QChar(u'\u2421');
+        }
+    }
+    return text;
+}
+
 QString visible_text(std::string_view text) {
-    QString result = to_qstring(text);
+    QString result = visible_controls(to_qstring(text));
     for (qsizetype at = 0; at < result.size(); ++at) {
         const char16_t code = result[at].unicode();
         const bool paired = at > 0 && result[at - 1].isHighSurrogate();
-        if (code < 0x20) {
-            result[at] = QChar(static_cast<char16_t>(0x2400 + code));
-        } else if (code == 0x7F) {
-            result[at] = QChar(u'\u2421');
-        } else if ((code > 0x7F && code < 0xA0) || (is_escaped_byte(result[at]) && !paired)) {
+        if ((code > 0x7F && code < 0xA0) || (is_escaped_byte(result[at]) && !paired)) {
             result[at] = QChar(QChar::ReplacementCharacter);
         }
     }

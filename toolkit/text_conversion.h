@@ -16,6 +16,9 @@ std::string from_qstring(const QString& text);
 /// holding a line feed cannot pass for two.
 QString visible_text(std::string_view text);
 
+/// The same for a text that is edited: its bytes that are not valid UTF-8 stay as they are.
+QString visible_controls(QString text);
+
 /// A text for a tool tip as it is, whatever it holds: Qt would take one that looks like HTML for that. Long
 /// texts go over several lines.
 QString plain_tool_tip(std::string_view text);
