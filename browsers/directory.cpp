@@ -4,14 +4,18 @@
 #include <utility>
 
 #include <fcntl.h>
-#include <sys/stat.h>
 
 namespace {
 
-std::optional<mode_t> mode_at(int directory, const std::string& name, int flags) {
+std::optional<struct stat> status_at(int directory, const std::string& name, int flags) {
     struct stat status {};
     const bool known = fstatat(directory, name.c_str(), &status, flags) == 0;
-    return known ? std::optional(status.st_mode) : std::nullopt;
+    return known ? std::optional(status) : std::nullopt;
+}
+
+std::optional<mode_t> mode_at(int directory, const std::string& name, int flags) {
+    const std::optional<struct stat> status = status_at(directory, name, flags);
+    return status ? std::optional(status->st_mode) : std::nullopt;
 }
 
 }  // namespace
@@ -22,8 +26,20 @@ Directory::Directory(const std::string& path)
 Directory::~Directory() { (void)close(); }
 
 const char* Directory::next() {
-    const dirent* entry = readdir(stream_);
-    return entry == nullptr ? nullptr : entry->d_name;
+    entry_ = readdir(stream_);
+    return entry_ == nullptr ? nullptr : entry_->d_name;
+}
+
+bool Directory::at_link() const {
+    if (entry_->d_type != DT_UNKNOWN) {
+        return entry_->d_type == DT_LNK;
+    }
+    const std::optional<mode_t> mode = link_mode_of(entry_->d_name);  // this file system does not tell
+    return mode && S_ISLNK(*mode);
+}
+
+std::optional<struct stat> Directory::status_of(const std::string& name) const {
+    return status_at(dirfd(stream_), name, 0);
 }
 
 std::optional<mode_t> Directory::mode_of(const std::string& name) const {

@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include <dirent.h>
+#include <sys/stat.h>
 #include <sys/types.h>
 
 /// A directory that is read name by name. Opening never waits: a fifo in its place is refused by the system.
@@ -20,6 +21,10 @@ class Directory {
     [[nodiscard]] bool is_open() const { return stream_ != nullptr; }
     /// The next name, null behind the last. It is there until the next call.
     [[nodiscard]] const char* next();
+    /// Whether that name is a symbolic link's.
+    [[nodiscard]] bool at_link() const;
+    /// What a name stands for in the end; nothing where that cannot be examined.
+    [[nodiscard]] std::optional<struct stat> status_of(const std::string& name) const;
     /// The mode of what a name stands for in the end; nothing where that cannot be examined.
     [[nodiscard]] std::optional<mode_t> mode_of(const std::string& name) const;
     /// The same of a symbolic link itself.
@@ -31,6 +36,7 @@ class Directory {
 
   private:
     DIR* stream_;
+    const dirent* entry_ = nullptr;
 };
 
 /// Whether a name is "." or "..".

@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <optional>
 #include <string>
+
+#include <sys/types.h>
 
 /// What a path is for opening. Those from 0 on are the categories of bookmarks with these numbers.
 enum FileType {
@@ -17,3 +20,6 @@ enum FileType {
 /// Classifies what a path leads to. HTML and PDF go by ".htm" and ".pdf" anywhere in the path, even for
 /// directories.
 FileType GetFileType(const std::string& path);
+
+/// The type and the permissions of what a path leads to; nothing where that cannot be examined.
+std::optional<mode_t> file_mode(const std::string& path);

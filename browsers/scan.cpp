@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <array>
 #include <optional>
+#include <unordered_set>
 #include <utility>
 
 #include <sys/stat.h>
@@ -43,24 +44,44 @@ std::optional<std::vector<std::string>> sorted_names(Directory& directory, Keeps
     return names;
 }
 
-/// The go-up row, the subdirectories, the files; some of them when the work is to stop.
-std::vector<ListRow> rows_of(const Directory& directory, std::vector<std::string> names, Progress* progress) {
-    std::vector<ListRow> rows{{std::string(go_up_row), Glyph::arrow}};
-    std::vector<ListRow> files;
-    rows.reserve(names.size() + 1);
+using Names = std::unordered_set<std::string>;
+
+Glyph glyph_of(const struct stat& status, bool is_link) {
+    constexpr mode_t executable = S_IXUSR | S_IXGRP | S_IXOTH;
+    if (S_ISDIR(status.st_mode)) {
+        return is_link ? Glyph::directory_link : Glyph::directory;
+    }
+    if (is_link) {
+        return Glyph::document_link;
+    }
+    return S_ISREG(status.st_mode) && (status.st_mode & executable) != 0 ? Glyph::executable
+                                                                         : Glyph::document;
+}
+
+/// Adds the go-up row, the subdirectories, the files; some of them when the work is to stop.
+void add_rows(Scan& scan, const Directory& directory, std::vector<std::string> names, const Names& links,
+              Progress* progress) {
+    Scan files;
+    scan.rows.reserve(names.size() + 1);
+    scan.facts.reserve(names.size() + 1);
+    scan.rows.push_back({std::string(go_up_row), Glyph::arrow});
+    scan.facts.emplace_back();
     for (std::string& name : names) {
         if (progress != nullptr && !progress->next()) {
             break;
         }
-        const std::optional<mode_t> type = is_dots(name) ? std::nullopt : type_of(directory, name);
-        if (type == S_IFDIR) {
-            rows.push_back({std::move(name) + "/", Glyph::directory});
-        } else if (type) {
-            files.push_back({std::move(name), Glyph::document});
+        const std::optional<struct stat> status = is_dots(name) ? std::nullopt : directory.status_of(name);
+        if (!status) {
+            continue;
         }
+        const Glyph glyph = glyph_of(*status, links.contains(name));
+        const bool is_directory = S_ISDIR(status->st_mode);
+        Scan& part = is_directory ? scan : files;
+        part.rows.push_back({std::move(name) + (is_directory ? "/" : ""), glyph});
+        part.facts.push_back({status->st_size, status->st_mtime});
     }
-    std::ranges::move(files, std::back_inserter(rows));
-    return rows;
+    std::ranges::move(files.rows, std::back_inserter(scan.rows));
+    std::ranges::move(files.facts, std::back_inserter(scan.facts));
 }
 
 template <typename Keeps>
@@ -69,12 +90,20 @@ Scan scan_names(const std::string& path, Keeps keeps, Progress* progress = nullp
     if (!directory.is_open()) {
         return {.result = SCAN_OPEN_FAILED};
     }
-    std::optional<std::vector<std::string>> names = sorted_names(directory, keeps, progress);
+    Names links;
+    const auto keeps_and_looks = [&](const char* name) {
+        const bool kept = keeps(name);
+        if (kept && directory.at_link()) {
+            links.insert(name);
+        }
+        return kept;
+    };
+    std::optional<std::vector<std::string>> names = sorted_names(directory, keeps_and_looks, progress);
     if (!names) {
         return {.result = SCAN_TOO_MANY};
     }
-    const int count = static_cast<int>(names->size());
-    Scan scan{.rows = rows_of(directory, std::move(*names), progress), .count = count};
+    Scan scan{.count = static_cast<int>(names->size())};
+    add_rows(scan, directory, std::move(*names), links, progress);
     if (progress != nullptr && progress->stopping()) {
         return {.result = SCAN_STOPPED};
     }
@@ -105,17 +134,18 @@ Scan scan_directory(const std::string& directory, Progress* progress) {
     return scan;
 }
 
-Scan scan_filtered(const std::string& directory, const NameFilter& filter) {
+Scan scan_filtered(const std::string& directory, const NameFilter& filter, Progress* progress) {
     const auto folded = [&](std::string_view text) {
         return filter.case_sensitive ? std::string(text) : convert_tolower(text);
     };
     const std::string start = folded(filter.start);
     const std::string text = folded(filter.text);
-    Scan scan = scan_names(directory, [&](std::string_view given) {
+    const auto passes = [&](std::string_view given) {
         const std::string name = folded(given);
         return ((filter.mode & NameFilter::starting) == 0 || name.starts_with(start)) &&
                ((filter.mode & NameFilter::containing) == 0 || name.find(text) != std::string::npos);
-    });
+    };
+    Scan scan = scan_names(directory, passes, progress);
     const bool none = scan.result == SCAN_OK && scan.count == 0;
     return none ? Scan{.result = SCAN_EMPTY} : scan;
 }

@@ -9,6 +9,8 @@
 #include <string_view>
 #include <vector>
 
+#include <sys/types.h>
+
 // Reading a directory for a list. Nothing here knows a window.
 
 /// How a scan ended.
@@ -25,10 +27,17 @@ enum ScanResult {
 /// What a list's user is told of a result; empty for `SCAN_OK`.
 std::string_view scan_message(ScanResult result);
 
+/// What a row's columns tell of its file; nothing of the go-up row's.
+struct RowFacts {
+    off_t size = 0;
+    time_t modified = 0;
+};
+
 struct Scan {
     ScanResult result = SCAN_OK;
     std::vector<ListRow> rows;
-    int count = 0;  ///< what "Number of files displayed" tells
+    std::vector<RowFacts> facts;  ///< one for each row of a scan that has columns
+    int count = 0;                ///< what "Number of files displayed" tells
 };
 
 /// Which names a filtered scan keeps.
@@ -43,12 +52,13 @@ struct NameFilter {
 };
 
 /// A row for going up, then the subdirectories with a "/" behind the name, then everything else, each sorted
-/// by bytes. Links count as what they lead to; what cannot be examined gets no row. The count is that of all
-/// entries but "." and "..". The progress, if there is one, counts the names examined.
+/// by bytes. Links count as what they lead to, but have glyphs of their own; what cannot be examined gets no
+/// row. The count is that of all entries but "." and "..". The progress, if there is one, counts the names
+/// examined.
 Scan scan_directory(const std::string& directory, Progress* progress = nullptr);
 /// The same for the names that pass a filter. The count is that of the names that passed, "." and ".."
 /// included.
-Scan scan_filtered(const std::string& directory, const NameFilter& filter);
+Scan scan_filtered(const std::string& directory, const NameFilter& filter, Progress* progress = nullptr);
 /// The names of the subdirectories only, as they are.
 Scan scan_subdirectories(const std::string& directory);
 

@@ -24,6 +24,11 @@ std::vector<std::string> texts(const Scan& scan) {
     return all;
 }
 
+time_t fs_time(const fs::path& path) {
+    struct stat status {};
+    return stat(path.c_str(), &status) == 0 ? status.st_mtime : 0;
+}
+
 /// Fills a directory up to so many entries, "." and ".." counted.
 void fill(const ScratchDirectory& directory, int entries) {
     const auto present = std::distance(fs::directory_iterator(directory.path()), {}) + 2;
@@ -38,24 +43,31 @@ TEST(Scan, ListsDirectoriesThenFilesByBytes) {
     EXPECT_EQ(scan_directory(directory.path()).count, 0);
     EXPECT_EQ(scan_subdirectories(directory.path()).result, SCAN_EMPTY);
     for (const char* file : {"Beta", "alpha", ".dot", "a\nb", "\xff"}) {
-        directory.write(file, "");
+        directory.write(file, "123");
     }
     fs::create_directory(directory / "Alpha");
     fs::create_directory_symlink("Alpha", directory / "zlink");
     fs::create_symlink("nowhere", directory / "dangling");
+    fs::create_symlink("Beta", directory / "link");
+    directory.write_script("run", "");
     ASSERT_EQ(mkfifo((directory / "fifo").c_str(), 0600), 0);
     const Scan scan = scan_directory(directory.path());
     EXPECT_EQ(scan.result, SCAN_OK);
-    EXPECT_EQ(scan.count, 9);
+    EXPECT_EQ(scan.count, 11);
     EXPECT_EQ(scan.rows, (std::vector<ListRow>{{up, Glyph::arrow},
                                                {"Alpha/", Glyph::directory},
-                                               {"zlink/", Glyph::directory},
+                                               {"zlink/", Glyph::directory_link},
                                                {".dot", Glyph::document},
                                                {"Beta", Glyph::document},
                                                {"a\nb", Glyph::document},
                                                {"alpha", Glyph::document},
                                                {"fifo", Glyph::document},
+                                               {"link", Glyph::document_link},
+                                               {"run", Glyph::executable},
                                                {"\xff", Glyph::document}}));
+    ASSERT_EQ(scan.facts.size(), scan.rows.size());
+    EXPECT_EQ(scan.facts[4].size, 3);
+    EXPECT_EQ(scan.facts[4].modified, fs_time(directory / "Beta"));
     EXPECT_EQ(scan_subdirectories(directory.path()).rows,
               (std::vector<ListRow>{{"Alpha", Glyph::none}, {"zlink", Glyph::none}}));
     for (const std::string& path :
