@@ -10,6 +10,7 @@
 #include "shell/messages.h"
 #include "shell/operands.h"
 #include "shell/print.h"
+#include "shell/text.h"
 #include "ui/default_settings.h"
 #include "ui/environment_setup.h"
 #include "ui/notebook.h"
@@ -43,8 +44,8 @@ Message NotebookPrint() {
     if (error != 0) {
         return fmt::format("Could not write {}: {}", notebook_print_file, std::strerror(error));
     }
-    const std::optional<std::string> command =
-        print_command(default_settings().print_command.text(), notebook_print_file);
+    const std::optional<std::string> command = print_command(
+        default_settings().print_command.text(), notebook_print_file, getfilename(notebook_print_file));
     if (!command) {
         return name_refusal(notebook_print_file);
     }

@@ -7,7 +7,7 @@
 #include "app/termpane.h"
 #include "app/title.h"
 #include "app/user_defaults.h"
-#include "browsers/file_list.h"
+#include "browsers/listing.h"
 #include "settings/bookmarks.h"
 #include "settings/command_list.h"
 #include "settings/history.h"

@@ -2,24 +2,17 @@
 #pragma once
 
 #include "browsers/scan.h"
+#include "toolkit/scrolling_list.h"
 
-#include <string>
+// Directories in lists: what a scan has found becomes the rows. A directory that could not be opened, or
+// whose scan was stopped, leaves the list as it was; what else keeps it from being listed empties the list.
+// One that could not be closed has been read all the same. Each returns the scan's result.
 
-class ScrollingList;
-
-// Directories in lists. A directory that cannot be opened leaves the list as it was; whatever else keeps it
-// from being listed empties the list. See browsers/scan.h for the results and counts.
-
-/// Fills a list with a go-up row, the subdirectories and the files.
-ScanResult add_name_to_list(ScrollingList& list, const std::string& directory, int& count);
-/// The same with the names that pass the filter.
-ScanResult add_filtered_to_list(ScrollingList& list, const std::string& directory, const NameFilter& filter,
-                                int& count);
-/// Fills a list with the names of the subdirectories.
-ScanResult add_dir_to_list(ScrollingList& list, const std::string& directory);
+/// The rows of `scan_directory`.
+ScanResult add_name_to_list(ScrollingList& list, Scan scan, View view = View::from_first_row);
+/// Those of `scan_filtered`.
+ScanResult add_filtered_to_list(ScrollingList& list, Scan scan, View view = View::from_first_row);
+/// Those of `scan_subdirectories`.
+ScanResult add_dir_to_list(ScrollingList& list, Scan scan);
 /// Deletes all rows.
 void delete_all(ScrollingList& list);
-
-/// Has a directory, written as its user likes, listed in the "File List Browser"; the home directory when it
-/// is empty. Returns at once.
-void list_files_at_startup(const std::string& directory);

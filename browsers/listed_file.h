@@ -4,14 +4,28 @@
 #include "toolkit/notify.h"
 
 #include <string>
+#include <string_view>
 
-/// A path, or why there is none.
+/// A file of the "File List Browser", or why there is none.
 struct ListedFile {
     std::string path;
+    std::string name;
     Message refusal;
 
     explicit operator bool() const { return refusal.empty(); }
 };
 
-/// The file named in the "File List Browser", by its "File Name:" and "Directory:".
-ListedFile listed_file();
+/// What is said where "Directory:" or "File Name:" is empty.
+struct MissingTexts {
+    std::string_view directory = "Directory not defined";
+    std::string_view name = "File name not defined";
+};
+
+/// What "File Name:" stands for. A search that ignores case leaves the row it has found there in lower case:
+/// that means the selected row's file, unless a file of that very name exists.
+std::string listed_name();
+
+/// The file named in the browser, by its "Directory:" and "File Name:", checked in this order.
+ListedFile listed_file(const MissingTexts& missing = {});
+/// The same for "Load", which asks for the name first.
+ListedFile file_to_load();

@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: MIT
 // What choosing a bookmark does, and the main window's buttons that make one. The path of a directory, and
 // any that names a file, is one word for the shell, whatever it holds.
+#include "browsers/browser_work.h"
 #include "browsers/file_type.h"
+#include "browsers/listed_file.h"
 #include "settings/notify.h"
 #include "shell/background.h"
 #include "shell/editor.h"
 #include "shell/operands.h"
 #include "shell/process.h"
+#include "shell/program_variable.h"
 #include "shell/selected_text.h"
 #include "shell/send.h"
 #include "shell/status.h"
@@ -14,7 +17,6 @@
 #include "ui/bookmark_definition.h"
 #include "ui/main_window.h"
 
-#include <cstdlib>
 #include <filesystem>
 
 #include <fmt/format.h>
@@ -35,19 +37,18 @@ Message open_with(const char* variable, Words value, const std::string& path) {
     if (path.empty()) {
         return {};
     }
-    const char* viewer = std::getenv(variable);
-    if (viewer == nullptr || *viewer == '\0') {  // the shell would run the file itself
-        return fmt::format("Environment variable {} is not set", variable);
+    Message refusal = unset_program(variable);
+    if (refusal.empty()) {
+        start_in_background(CommandLine(value).path(path_meant(path)));
     }
-    start_in_background(CommandLine(value).path(path_meant(path)));
-    return {};
+    return refusal;
 }
 
 const Message no_current_directory = "Current directory not set";
 
 void define_bookmark(std::string_view path, FileType type) {
     BookmarkDefinition& window = bookmark_definition();
-    window.bookmarked_file.set_text(path);
+    window.bookmarked_file.set_name(path);
     window.bookmark_name.set_text("");
     window.file_type.set_value(type);
     window.set_left_footer("");
@@ -89,6 +90,21 @@ Message OpenBookmarkOther(const std::string& path) {
         main_window().command.set_focus();
     }
     return {};
+}
+
+Message FileListBrowserBookmark() {
+    const ListedFile file = listed_file();
+    if (!file) {
+        return file.refusal;
+    }
+    return ask_disk([path = file.path] { return GetFileType(path); },
+                    [path = file.path](FileType type) -> Message {
+                        if (type < 0) {
+                            return "Illegal file";
+                        }
+                        define_bookmark(path, type);
+                        return {};
+                    });
 }
 
 Message BaseWindowAddBookmark() {

@@ -53,7 +53,7 @@ Message loaded_file_refusal() {
 
 std::string file_in_list_browser() {
     const std::string directory = file_list_browser().directory.text();
-    const std::string name = file_list_browser().file_name.text();
+    const std::string name = listed_name();
     return directory.empty() || name.empty() ? name : fmt::sprintf("%s/%s", directory, name);
 }
 
@@ -94,7 +94,7 @@ RowCommand command_of(const std::string& row) {
     const std::array placeholders{
         Placeholder{"$$$", selected},
         Placeholder{"%%%", [](std::string_view) { return command_list_manager().text.text(); }},
-        name("###", [] { return file_list_browser().file_name.text(); }),
+        name("###", listed_name),
         name("@@@", [] { return main_window().cwd.text(); }),
         name("&&&", file_in_list_browser),
         name("???", selected_tree_name),
@@ -185,7 +185,7 @@ Message Command_scrolling_list(const ListEvent& event) {
 }
 
 Message FileListLoadCommand() {
-    const ListedFile file = listed_file();
+    const ListedFile file = file_to_load();
     if (!file) {
         return file.refusal;
     }

@@ -27,7 +27,8 @@ Message notify_user_defined(const std::string& command);
 Message BaseWindowCommandMenu();
 Message my_action_proc2(const std::string& path);
 
-// "File List Browser", "Load" menu.
+// "File List Browser": the button that makes a bookmark, and the "Load" menu.
+Message FileListBrowserBookmark();
 Message FileListLoadCommand();
 Message FileListLoadSetup();
 

@@ -74,7 +74,7 @@ Message Save_current_setup() {
 }
 
 Message FileListLoadSetup() {
-    const ListedFile file = listed_file();
+    const ListedFile file = file_to_load();
     if (!file) {
         return file.refusal;
     }

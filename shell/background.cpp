@@ -100,9 +100,9 @@ void start(const std::string& command) {
 
 }  // namespace
 
-void run_in_background(const CommandLine& line) {
+void run_in_background(const CommandLine& line, std::string_view ampersand) {
     const std::string command = line.read_by(ShellFamily::other).text;
-    report(fmt::format("{} &\n", command));
+    report(fmt::format("{}{}\n", command, ampersand));
     start(command);
 }
 

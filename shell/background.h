@@ -2,14 +2,15 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 class CommandLine;
 
 // Programs that run beside the tool and are not tied to its life.
 
-/// Gives a line to sh in the background: the line with " &" is shown on the Message Board, and so is why no
-/// shell could be started for it. What becomes of the command is not watched.
-void run_in_background(const CommandLine& line);
+/// Gives a line to sh in the background: the line with the ampersand is shown on the Message Board, and so is
+/// why no shell could be started for it. What becomes of the command is not watched.
+void run_in_background(const CommandLine& line, std::string_view ampersand = " &");
 
 /// The same without showing the line.
 void start_in_background(const CommandLine& line);

@@ -56,12 +56,19 @@ void gedit_command(CommandLine& line) {
     geometry_options(line, text_editor_setup().width_chars.value(), text_editor_setup().height_chars.value());
 }
 
+bool has_editor() {
+    const TextEditorSetup& setup = text_editor_setup();
+    return setup.text_editor.value() != TextEditorSetup::user_defined || !setup.user_editor.text().empty();
+}
+
 std::optional<CommandLine> editor_line(std::string_view path) {
+    if (!has_editor()) {
+        return std::nullopt;
+    }
     const TextEditorSetup& setup = text_editor_setup();
     const int choice = setup.text_editor.value();
     if (choice == TextEditorSetup::user_defined) {
-        const std::string users = setup.user_editor.text();
-        return users.empty() ? std::nullopt : std::optional(CommandLine::of_user(users).escaped(path));
+        return CommandLine::of_user(setup.user_editor.text()).escaped(path);
     }
     const Editor& editor = editors[static_cast<std::size_t>(choice)];
     CommandLine line(editor.words);

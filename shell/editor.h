@@ -20,6 +20,9 @@ void gedit_command(CommandLine& line);
 /// What is said when a file cannot be opened because "user def" is chosen and "User Editor:" is empty.
 inline const Message no_editor = "User editor not specified";
 
+/// Whether one is chosen.
+[[nodiscard]] bool has_editor();
+
 /// The command that opens a file in the editor, ready for the " &" behind it; nothing while there is none.
 [[nodiscard]] std::optional<CommandLine> editor_line(std::string_view path);
 

@@ -3,14 +3,13 @@
 
 #include "shell/fill_template.h"
 #include "shell/operands.h"
-#include "shell/text.h"
 
 #include <array>
 
 #include <fmt/format.h>
 
-std::optional<std::string> print_command(std::string_view users_command, std::string_view path) {
-    const std::string name = getfilename(path);
+std::optional<std::string> print_command(std::string_view users_command, std::string_view path,
+                                         std::string_view name) {
     if (users_command.empty()) {
         return fmt::format("mp -s {} {} | lp -c", script_word(name, ShellFamily::other),
                            script_word(path, ShellFamily::other));

@@ -9,4 +9,5 @@
 /// and
 /// "$FILE_NAME" by the name, each once; where the user has none, the usual one. What has been put in is a
 /// name for the shell and is not searched for placeholders. Nothing for a name that it cannot be given there.
-std::optional<std::string> print_command(std::string_view users_command, std::string_view path);
+std::optional<std::string> print_command(std::string_view users_command, std::string_view path,
+                                         std::string_view name);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "browsers/notify.h"
+#include "toolkit/buttons.h"
 #include "toolkit/choices.h"
 #include "toolkit/fields.h"
 #include "toolkit/frame.h"
@@ -16,24 +18,58 @@ struct FileListBrowser : CommandFrame {
         list.set_display_size(48, 16);
         constexpr int anywhere = 1;
         search.set_value(anywhere);
+        list.set_keys({{ListKey::Key::backspace, FileListGoUp},
+                       {ListKey::Key::f2, FileListNewName},
+                       {ListKey::Key::f5, FileListAgain},
+                       {ListKey::Key::remove, File_menu_remove}});
+        list.set_context_menu(Menu("File Operations", file_operations_items));
+        columns = &list.context_menu().add_pull_right("Columns", Menu({}), FileListColumnMenu);
     }
 
+    static constexpr int case_yes = 1;
+
     Row menus{panel};
+    MenuButton file_menu{menus, "File", Menu("File Operations", file_operations_items)};
+    Button execute{menus, "Execute", FileListBrowserExecute};
     MenuButton load_menu{menus, "Load", Menu("Load", load_menu_items)};
     MenuButton bookmark_menu{menus, "BM", Menu({})};
     Stretch behind_menus{menus};
 
-    ScrollingList list{panel, "File List Browser list"};
-    TextField directory{panel, "Directory:"};
+    Row actions{panel};
+    ImageButton edit{actions, "edit", FileListBrowserEdit};
+    ImageButton document{actions, "document", "list_document", FileListBrowserDocument};
+    ImageButton print{actions, "print", FileListBrowserPrint};
+    ImageButton home{actions, "home", FileListBrowserHome};
+    ImageButton config_spec{actions, "config spec", FileListBrowserConfigSpec};
+    ImageButton current{actions, "current", FileListBrowserCurrent};
+    ImageButton bookmark{actions, "bookmark", FileListBrowserBookmark};
+    ImageButton permissions{actions, "permissions", FileListBrowserPermissions};
+    ImageButton copy_to_working{actions, "copy to working", FileListBrowserCopyToWorking};
+    ImageButton head{actions, "head", FileListBrowserHead};
+    Stretch behind_actions{actions};
+
+    ScrollingList list{panel, "File List Browser list", File_manager_list};
+    TextField directory{panel, "Directory:", FileListBrowserDirectory};
     TextField file_name{panel, "File Name:"};
     TextField selected{panel, "Selected:"};
-    Choice search{panel, "Search", {"Beginning", "Anywhere", "End"}};
-    Choice case_find{panel, {"Case", "Case (find)"}, {"No", "Yes"}};
+
+    Row searching{panel, "Search"};
+    Choice search{searching, {"", "Search"}, {"Beginning", "Anywhere", "End"}};
+    Choice case_find{searching, {"Case", "Case (find)"}, {"No", "Yes"}};
+    Button find{searching, "Find", FileListBrowserFind};
+    Button next{searching, "Next", FileListBrowserNext};
     TextField text{panel, "Text:"};
-    CheckBoxes display_files{panel, "Display Files", {"Starting", "Containing"}};
-    Choice case_filter{panel, {"Case", "Case (filter)"}, {"No", "Yes"}};
+
+    Row filtering{panel, "Display Files"};
+    CheckBoxes display_files{filtering, {"", "Display Files"}, {"Starting", "Containing"}};
+    Choice case_filter{filtering, {"Case", "Case (filter)"}, {"No", "Yes"}};
+    Button display_all{filtering, "Display All", FileListBrowserDisplayAll};
+    Button filter{filtering, "Filter", FileListBrowserFilter};
+    ImageButton cd{filtering, "cd", FileListBrowserCd};
     TextField start_string{panel, "Start String:"};
     TextField text_string{panel, "Text String"};
+
+    Menu* columns = nullptr;  ///< in the list's context menu
 };
 
 inline std::unique_ptr<FileListBrowser> Orvik_popup24;

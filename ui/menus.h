@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/notify.h"
+#include "browsers/notify.h"
 #include "settings/notify.h"
 #include "toolkit/menu.h"
 
@@ -47,7 +48,21 @@ inline constexpr std::array user_menu_items{
     MenuItem{"Update", Generate_new_menu},
 };
 
-/// Of the "File List Browser".
+// Of the "File List Browser".
+
+inline constexpr std::array file_operations_items{
+    MenuItem{"Set Directory", File_menu_set_directory},
+    MenuItem{"Get Directory", Get_directory},
+    MenuItem{"Generate File List", FileListFileMenuGenerate},
+    MenuItem{"Remove", File_menu_remove},
+    MenuItem{"Select", File_menu_select},
+    MenuItem{"Copy Remote", File_menu_copy_remote},
+    MenuItem{"Copy", File_menu_copy},
+    MenuItem{"Rename", File_menu_rename},
+    MenuItem{"Open PDF", File_menu_open_pdf},
+    MenuItem{"Open HTML", File_menu_open_html},
+};
+
 inline constexpr std::array load_menu_items{
     MenuItem{"Command", FileListLoadCommand},
     MenuItem{"Setup", FileListLoadSetup},

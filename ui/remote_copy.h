@@ -10,6 +10,8 @@
 struct RemoteCopy : CommandFrame {
     RemoteCopy() : CommandFrame("Remote copy") { remote_source.set_display_length(40); }
 
+    bool copies_listed_file = false;  ///< the list browser's; otherwise those that are selected in the tree
+
     TextField remote_source{panel, "Remote Source:"};
     TextField remote_destination{panel, "Remote Destination:"};
     TextField remote_user{panel, "Remote User:"};

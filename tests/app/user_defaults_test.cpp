@@ -2,6 +2,7 @@
 #include "app/user_defaults.h"
 
 #include "shell/print.h"
+#include "shell/text.h"
 
 #include <tuple>
 #include <utility>
@@ -48,7 +49,7 @@ TEST(Print, PutsPathAndNameIntoTheUsersCommandOnceEach) {
         {"lp", "/t/n.txt", "lp"},
     };
     for (const auto& [command, path, expected] : cases) {
-        EXPECT_EQ(print_command(command, path), expected) << command << path;
+        EXPECT_EQ(print_command(command, path, getfilename(path)), expected) << command << path;
     }
 }
 

@@ -50,7 +50,8 @@ Names options_in_code() {
 
 Names variables_in_code() {
     Names names =
-        found_in(program(), R"re((?:getenv|environment_value|environment_text|open_with)\("([A-Z_]+)")re");
+        found_in(program(),
+                 R"re((?:getenv|environment_value|environment_text|open_with|unset_program)\("([A-Z_]+)")re");
     names.merge(Names{"DISPLAY", "LC_ALL", "LC_CTYPE", "LANG"});  // the libraries read them
     return names;
 }
