@@ -23,6 +23,7 @@ struct LayoutNode {
     LayoutNode* up = nullptr;
     LayoutNode* left = nullptr;   ///< siblings above
     LayoutNode* right = nullptr;  ///< siblings below
+    LayoutNode* below = nullptr;  ///< the next sibling: going through all of them this way saves time
     std::uint32_t priority = 0;
 
     // Of this node and the siblings that hang below it in the balanced tree.

@@ -4,7 +4,6 @@
 #include "toolkit/tree/siblings.h"
 
 #include <algorithm>
-#include <tuple>
 #include <utility>
 
 namespace {
@@ -98,18 +97,16 @@ TreeNode* NodeTree::previous_sibling(TreeNode* node) const { return tree_node(si
 TreeNode* NodeTree::at(int x, int y) const { return tree_node(layout_.at(x, y)); }
 
 std::vector<TreeNode*> NodeTree::touched_by(const TreeArea& area) const {
-    std::vector<std::tuple<int, int, TreeNode*>> found;
+    std::vector<std::pair<std::uint64_t, TreeNode*>> found;  // by place: one number is sorted sooner than two
     layout_.visit(area, [&](LayoutNode& node, const TreeArea& label) {
         if (label.touches(area)) {
-            found.emplace_back(label.y, label.x, tree_node(&node));
+            const auto row = static_cast<std::uint64_t>(label.y);
+            found.emplace_back(row << 32 | static_cast<std::uint32_t>(label.x), tree_node(&node));
         }
     });
-    std::ranges::sort(found);
-    std::vector<TreeNode*> nodes;
-    nodes.reserve(found.size());
-    for (const auto& [y, x, node] : found) {
-        nodes.push_back(node);
-    }
+    std::ranges::sort(found, {}, [](const auto& placed) { return placed.first; });
+    std::vector<TreeNode*> nodes(found.size());
+    std::ranges::transform(found, nodes.begin(), [](const auto& placed) { return placed.second; });
     return nodes;
 }
 

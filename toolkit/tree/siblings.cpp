@@ -53,17 +53,6 @@ LayoutNode* outermost(LayoutNode* node, LayoutNode* LayoutNode::*side) {
     return node;
 }
 
-LayoutNode* neighbour(LayoutNode& node, LayoutNode* LayoutNode::*side, LayoutNode* LayoutNode::*other) {
-    if (node.*side != nullptr) {
-        return outermost(node.*side, other);
-    }
-    LayoutNode* at = &node;
-    while (at->up != nullptr && at->up->*side == at) {
-        at = at->up;
-    }
-    return at->up;
-}
-
 void hang(LayoutNode& above, LayoutNode* LayoutNode::*side, LayoutNode& node) {
     above.*side = &node;
     node.up = &above;
@@ -74,7 +63,7 @@ void hang(LayoutNode& above, LayoutNode* LayoutNode::*side, LayoutNode& node) {
 namespace siblings {
 
 void insert(LayoutNode*& top, LayoutNode& node, int index) {
-    node.up = node.left = node.right = nullptr;
+    node.up = node.left = node.right = node.below = nullptr;
     refresh(node);
     if (top == nullptr) {
         top = &node;
@@ -88,6 +77,10 @@ void insert(LayoutNode*& top, LayoutNode& node, int index) {
     } else {
         hang(*last(follower->left), &LayoutNode::right, node);
     }
+    node.below = follower;
+    if (LayoutNode* before = previous(node); before != nullptr) {
+        before->below = &node;
+    }
     while (node.up != nullptr && node.up->priority < node.priority) {
         rotate_up(top, node);
     }
@@ -95,6 +88,9 @@ void insert(LayoutNode*& top, LayoutNode& node, int index) {
 }
 
 void remove(LayoutNode*& top, LayoutNode& node) {
+    if (LayoutNode* before = previous(node); before != nullptr) {
+        before->below = node.below;
+    }
     while (node.left != nullptr && node.right != nullptr) {
         rotate_up(top, node.left->priority > node.right->priority ? *node.left : *node.right);
     }
@@ -132,8 +128,18 @@ LayoutNode* at(LayoutNode* top, int index) {
 
 LayoutNode* first(LayoutNode* top) { return outermost(top, &LayoutNode::left); }
 LayoutNode* last(LayoutNode* top) { return outermost(top, &LayoutNode::right); }
-LayoutNode* next(LayoutNode& node) { return neighbour(node, &LayoutNode::right, &LayoutNode::left); }
-LayoutNode* previous(LayoutNode& node) { return neighbour(node, &LayoutNode::left, &LayoutNode::right); }
+LayoutNode* next(LayoutNode& node) { return node.below; }
+
+LayoutNode* previous(LayoutNode& node) {
+    if (node.left != nullptr) {
+        return last(node.left);
+    }
+    LayoutNode* at = &node;
+    while (at->up != nullptr && at->up->left == at) {
+        at = at->up;
+    }
+    return at->up;
+}
 
 int index_of(const LayoutNode& node) {
     int index = count(node.left);

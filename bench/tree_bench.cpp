@@ -1,0 +1,277 @@
+// SPDX-License-Identifier: MIT
+// What a large tree costs: a directory expanded beside `ls -lU` on the same one, and what a user does in a
+// tree of 100,000 nodes. Needs a display: tests/support/with_display gives it one.
+#include "browsers/directory.h"
+#include "tests/support/scratch_directory.h"
+#include "toolkit/frame.h"
+#include "toolkit/tree/tree_canvas.h"
+
+#include <QAbstractScrollArea>
+#include <QApplication>
+#include <QMouseEvent>
+#include <QScrollBar>
+#include <QTest>
+
+#include <algorithm>
+#include <cstdlib>
+#include <memory>
+#include <utility>
+#include <vector>
+
+#include <benchmark/benchmark.h>
+#include <fmt/format.h>
+#include <malloc.h>
+#include <sys/stat.h>
+
+namespace {
+
+constexpr int most_files = 9997;
+constexpr int many = 100'000;
+
+/// What a browser keeps of a file.
+struct PathRecord : NodeRecord {
+    PathRecord(const std::string& name, const std::string& directory)
+        : NodeRecord(name), path(directory + "/" + name) {}
+    std::string path;
+};
+
+struct TreeWindow : CommandFrame {
+    TreeWindow() : CommandFrame("Tree") {
+        resize(1000, 650);
+        open();
+        (void)QTest::qWaitForWindowActive(widget());
+        view = widget()->findChild<QAbstractScrollArea*>();
+    }
+
+    TreeNode* leaf(TreeNode* parent, const std::string& name, NodeKind kind = NodeKind::file) {
+        return canvas.add(parent, std::make_unique<PathRecord>(name, "/usr/share/directory"), 1, kind);
+    }
+    void paint() const {
+        QApplication::processEvents();
+        view->viewport()->repaint();
+    }
+    void mouse(QEvent::Type type, QPoint place) const {
+        const Qt::MouseButton held = type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton;
+        QMouseEvent event(type, place, view->viewport()->mapToGlobal(place), Qt::LeftButton, held, {});
+        event.setTimestamp(time);
+        QApplication::sendEvent(view->viewport(), &event);
+    }
+    void click(const TreeNode* node) {
+        constexpr ulong later = 1000;  // milliseconds: no double click
+        time += later;
+        const TreeCanvas::Area area = canvas.area(node);
+        const QPoint place(area.x + 5 - 10 * canvas.horizontal().view_start,
+                           area.y + 5 - 10 * canvas.vertical().view_start);
+        mouse(QEvent::MouseButtonPress, place);
+        mouse(QEvent::MouseButtonRelease, place);
+    }
+
+    TreeCanvas canvas{panel, "Tree", {}, Menu("Options"), "Nothing"};
+    QAbstractScrollArea* view = nullptr;
+    ulong time = 0;  ///< of mouse events
+};
+
+const ScratchDirectory& large_directory() {
+    static const ScratchDirectory directory;
+    static const bool filled = [] {
+        for (int i = 0; i < most_files; ++i) {
+            directory.write(fmt::format("some file {}.cpp", (i * 7919) % most_files), "");
+        }
+        return true;
+    }();
+    (void)filled;
+    return directory;
+}
+
+void ListWithLs(benchmark::State& state) {
+    const std::string command = fmt::format("exec ls -lU '{}' >/dev/null", large_directory().path().string());
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(std::system(command.c_str()));
+    }
+}
+BENCHMARK(ListWithLs)->UseRealTime()->Unit(benchmark::kMillisecond);
+
+/// Read, examined, sorted, added and painted.
+void ExpandInTheTree(benchmark::State& state) {
+    const std::string path = large_directory().path().string();
+    TreeWindow window;
+    TreeNode* root = window.leaf(nullptr, "root", NodeKind::directory);
+    for (auto _ : state) {
+        std::vector<std::pair<std::string, bool>> entries;
+        Directory directory(path);
+        while (const char* name = directory.next()) {
+            if (const auto mode = directory.mode_of(name); mode && !is_dots(name)) {
+                entries.emplace_back(name, S_ISDIR(*mode));
+            }
+        }
+        std::ranges::sort(entries);
+        {
+            const RepaintHold hold(window.canvas);
+            window.canvas.set_opened(root);
+            for (const auto& [name, is_directory] : entries) {
+                window.canvas.add(root, std::make_unique<PathRecord>(name, path), 1,
+                                  is_directory ? NodeKind::directory : NodeKind::file);
+            }
+        }
+        window.paint();
+        if (!directory.close() || window.canvas.size() != most_files + 1) {
+            state.SkipWithError("the directory could not be read");
+        }
+        state.PauseTiming();
+        window.canvas.destroy_children(root);
+        state.ResumeTiming();
+    }
+}
+BENCHMARK(ExpandInTheTree)->UseRealTime()->Unit(benchmark::kMillisecond);
+
+/// All below one node, or three levels of 46 each.
+enum Shape { flat, deep };
+
+/// A tree of 100,000 nodes; the view is on its middle.
+class ManyNodes : public TreeWindow {
+  public:
+    explicit ManyNodes(const benchmark::State& state) {
+        const auto before = mallinfo2();
+        {
+            const RepaintHold hold(canvas);
+            root = leaf(nullptr, "root", NodeKind::directory);
+            state.range(0) == flat ? fill(root, many, 0) : fill(root, 46, 2);
+        }
+        const auto after = mallinfo2();
+        megabytes = double(after.uordblks + after.hblkhd - before.uordblks - before.hblkhd) / 1e6;
+        middle = nodes[nodes.size() / 2];
+        const int row = canvas.area(middle).y / 10;
+        canvas.set_view_start(0, row - canvas.vertical().view_length / 2);
+        paint();
+    }
+
+    TreeNode* root = nullptr;
+    TreeNode* middle = nullptr;
+    std::vector<TreeNode*> nodes;  ///< without children
+    double megabytes = 0;          ///< with the records
+
+  private:
+    void fill(TreeNode* parent, int count, int levels_below) {
+        for (int i = 0; i < count; ++i) {
+            TreeNode* node = leaf(parent, fmt::format("some_file_{}.cpp", i),
+                                  levels_below > 0 ? NodeKind::directory : NodeKind::file);
+            if (levels_below > 0) {
+                fill(node, count, levels_below - 1);
+            } else {
+                nodes.push_back(node);
+            }
+        }
+    }
+};
+
+void Click(benchmark::State& state) {
+    ManyNodes window(state);
+    for (auto _ : state) {
+        window.click(window.middle);
+        window.paint();
+    }
+    state.counters["MB"] = window.megabytes;
+}
+
+/// Twenty entries.
+void ExpandSmall(benchmark::State& state) {
+    ManyNodes window(state);
+    for (auto _ : state) {
+        {
+            const RepaintHold hold(window.canvas);
+            for (int i = 0; i < 20; ++i) {
+                window.leaf(window.middle, "some entry");
+            }
+        }
+        window.paint();
+        state.PauseTiming();
+        window.canvas.destroy_children(window.middle);
+        state.ResumeTiming();
+    }
+}
+
+/// Drawn over the whole view, and let go.
+void RubberBand(benchmark::State& state) {
+    const ManyNodes window(state);
+    const QPoint end(1, window.view->viewport()->height() - 1);
+    for (auto _ : state) {
+        window.mouse(QEvent::MouseButtonPress, QPoint(window.view->viewport()->width() - 1, 1));
+        window.mouse(QEvent::MouseMove, end);
+        window.paint();
+        window.mouse(QEvent::MouseButtonRelease, end);
+        window.paint();
+    }
+    if (window.canvas.selected_count() == 0) {
+        state.SkipWithError("the band has touched nothing");
+    }
+}
+
+/// Drawn from the first node to the last one.
+void RubberBandOverAll(benchmark::State& state) {
+    ManyNodes window(state);
+    const QSize view = window.view->viewport()->size();
+    for (auto _ : state) {
+        state.PauseTiming();
+        window.canvas.set_view_start(0, 0);
+        window.mouse(QEvent::MouseButtonPress, QPoint(view.width() - 1, 1));
+        window.canvas.set_view_start(0, window.canvas.vertical().object_length);
+        window.mouse(QEvent::MouseMove, QPoint(1, view.height() - 1));
+        window.paint();
+        state.ResumeTiming();
+        window.mouse(QEvent::MouseButtonRelease, QPoint(1, view.height() - 1));
+        window.paint();
+    }
+    if (window.canvas.selected_count() != window.canvas.size()) {
+        state.SkipWithError("the band has not touched all nodes");
+    }
+}
+
+/// There and back, so two pages.
+void ScrollTwoPages(benchmark::State& state) {
+    const ManyNodes window(state);
+    QScrollBar* bar = window.view->verticalScrollBar();
+    for (auto _ : state) {
+        bar->triggerAction(QAbstractSlider::SliderPageStepAdd);
+        window.paint();
+        bar->triggerAction(QAbstractSlider::SliderPageStepSub);
+        window.paint();
+    }
+}
+
+/// All nodes are selected before the click.
+void ClickAfterSelectingAll(benchmark::State& state) {
+    ManyNodes window(state);
+    for (auto _ : state) {
+        state.PauseTiming();
+        {
+            const RepaintHold hold(window.canvas);
+            for (TreeNode* node : window.nodes) {
+                window.canvas.select(node);
+            }
+        }
+        window.paint();
+        state.ResumeTiming();
+        window.click(window.middle);
+        window.paint();
+    }
+}
+
+void DestroyAll(benchmark::State& state) {
+    for (auto _ : state) {
+        state.PauseTiming();
+        ManyNodes window(state);
+        state.ResumeTiming();
+        window.canvas.destroy(window.root);
+        window.paint();
+    }
+}
+
+BENCHMARK(Click)->Arg(flat)->Arg(deep)->UseRealTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(ExpandSmall)->Arg(flat)->Arg(deep)->UseRealTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(RubberBand)->Arg(flat)->Arg(deep)->UseRealTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(RubberBandOverAll)->Arg(flat)->Arg(deep)->UseRealTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(ScrollTwoPages)->Arg(flat)->Arg(deep)->UseRealTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(ClickAfterSelectingAll)->Arg(flat)->Arg(deep)->UseRealTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(DestroyAll)->Arg(flat)->Arg(deep)->UseRealTime()->Unit(benchmark::kMillisecond);
+
+}  // namespace
