@@ -6,6 +6,7 @@
 #include "ui/command_history_manager.h"
 #include "ui/command_list_manager.h"
 #include "ui/file_list_browser.h"
+#include "ui/file_tree_browser.h"
 #include "ui/main_window.h"
 #include "ui/message_board.h"
 #include "ui/notebook.h"
@@ -15,6 +16,7 @@
 #include <array>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace {
 
@@ -32,6 +34,18 @@ struct NamedScale {
     std::string_view name;
     FontScale scale;
 };
+
+void set_tree_fonts() {
+    const std::array<std::pair<Font, Font>, 4> sizes{{
+        {DS_font_extra_small, DS_font_extra_small_bold},
+        {DS_font_small, DS_font_small_bold},
+        {DS_font_medium, DS_font_medium_bold},
+        {DS_font_large, DS_font_large_bold},
+    }};
+    for (std::size_t i = 0; i < sizes.size(); ++i) {
+        file_tree_browser().canvas.set_fonts(static_cast<int>(i), sizes[i].first, sizes[i].second);
+    }
+}
 
 /// Tried in this order; the last name found in the resource's value holds.
 constexpr std::array scales{
@@ -69,6 +83,7 @@ void find_fonts() {
     for (const DrawingFont& wanted : drawing_fonts) {
         *wanted.font = xv_find({.style = wanted.style, .scale = wanted.scale, .points = wanted.points});
     }
+    set_tree_fonts();
 }
 
 void apply_font_resources() {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The items of the main window's menus that open windows.
 #include "app/notify.h"
+#include "browsers/notify.h"
 #include "ui/bookmarks.h"
 #include "ui/clearcase_setup.h"
 #include "ui/command_history_manager.h"
@@ -34,7 +35,7 @@ void Text_editor_setup() { text_editor_setup().open(); }
 void SetupMenuUserButtons() { user_buttons().open(); }
 
 void Start_file_tree() { file_tree_browser().open(); }
-void BrowseMenuFullSize() { file_tree_browser().open(0, 0); }
+void BrowseMenuFullSize() { (void)FileTreeFullSize(); }
 void Start_file_manager() { file_list_browser().open(); }
 void BrowserMenuCommandHistory() { command_history_manager().open(); }
 void Browse_mess_board() { message_board().open(); }

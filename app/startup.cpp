@@ -8,6 +8,7 @@
 #include "app/title.h"
 #include "app/user_defaults.h"
 #include "browsers/listing.h"
+#include "browsers/tree/file_tree.h"
 #include "settings/bookmarks.h"
 #include "settings/command_list.h"
 #include "settings/history.h"
@@ -180,6 +181,7 @@ void start_up(std::vector<std::string> arguments) {
     main_window().on_close(Quit_button);
     show_title();
     set_initial_values();
+    set_tree_name_source([] { return GetFileTreeName(TreeNameKind::any); });
     begin_status_display();
     remove_stale_temporary_files(home_dir, std::time(nullptr));
     read_resources();

@@ -23,6 +23,7 @@ class Directory {
     [[nodiscard]] const char* next();
     /// Whether that name is a symbolic link's.
     [[nodiscard]] bool at_link() const;
+    [[nodiscard]] int descriptor() const { return dirfd(stream_); }
     /// What a name stands for in the end; nothing where that cannot be examined.
     [[nodiscard]] std::optional<struct stat> status_of(const std::string& name) const;
     /// The mode of what a name stands for in the end; nothing where that cannot be examined.

@@ -27,15 +27,6 @@ constexpr std::array type_texts{
     TypeText{S_IFIFO, "FIFO"},
 };
 
-std::string_view type_text(mode_t mode) {
-    for (const TypeText& type : type_texts) {
-        if ((mode & S_IFMT) == type.type) {
-            return type.text;
-        }
-    }
-    return {};
-}
-
 /// Read and execute stand the other way round in a mode.
 unsigned with_ends_swapped(unsigned three_bits) {
     return ((three_bits & 1U) << 2U) | (three_bits & 2U) | ((three_bits >> 2U) & 1U);
@@ -72,6 +63,15 @@ std::string line(std::string_view bare, std::string_view value) { return fmt::fo
 
 }  // namespace
 
+std::string_view file_type_text(mode_t mode) {
+    for (const TypeText& type : type_texts) {
+        if ((mode & S_IFMT) == type.type) {
+            return type.text;
+        }
+    }
+    return {};
+}
+
 PermissionBoxes boxes_of(mode_t mode) {
     return {.owner = with_ends_swapped((mode >> 6U) & 7U),
             .group = with_ends_swapped((mode >> 3U) & 7U),
@@ -100,7 +100,7 @@ FileFacts examine_file(const std::string& path) {
     const auto low_bits = static_cast<std::int32_t>(static_cast<std::uint32_t>(status.st_size));
     return {.known = true,
             .permissions = boxes_of(status.st_mode),
-            .type = line(bare_type_line, type_text(status.st_mode)),
+            .type = line(bare_type_line, file_type_text(status.st_mode)),
             .owner = line(bare_owner_line, owner_text(status.st_uid)),
             .group = line(bare_group_line, group_text(status.st_gid)),
             .size = line(bare_size_line, fmt::sprintf("%d", low_bits)),

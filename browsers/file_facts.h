@@ -52,5 +52,7 @@ struct FileFacts {
 /// Examines what a path leads to, through links. That and the names of owner and group may be a server's to
 /// tell.
 FileFacts examine_file(const std::string& path);
+/// The kind of file that a mode tells: "Directory", "Regular".
+std::string_view file_type_text(mode_t mode);
 /// A time as the window shows it, in local time.
 std::string status_time(time_t time);

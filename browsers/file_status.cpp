@@ -2,10 +2,15 @@
 #include "browsers/file_status.h"
 
 #include "browsers/notify.h"
+#include "browsers/tree/file_tree.h"
 #include "shell/send.h"
 #include "toolkit/long_work.h"
 #include "ui/file_status.h"
 
+#include <utility>
+#include <vector>
+
+#include <fmt/printf.h>
 #include <sys/stat.h>
 
 namespace {
@@ -36,7 +41,7 @@ Message protect(const std::string& path, mode_t mode) {
 }  // namespace
 
 void show_file_status(Frame& frame, const std::string& path, const std::string& name) {
-    file_status().file_name.set_text(path);
+    file_status().file_name.set_name(path);
     start_work(
         file_status(), items_label, [path](Progress& /*progress*/) { return examine_file(path); },
         [&frame, name](const FileFacts& facts) {
@@ -80,6 +85,79 @@ void ClearFileStatus() {
     window.last_modified_line.set_text(bare_modified_line);
     window.status_changed_line.set_text(bare_changed_line);
     set_boxes({});
+}
+
+namespace {
+
+/// A selected node, and how far the walk over all of them has come.
+struct NodePath {
+    std::string path;
+    std::string label;
+};
+struct Changes {
+    std::vector<NodePath> nodes;
+    std::size_t done = 0;
+    Message fault;
+    FileFacts of_faulty;
+};
+
+/// Sets the permissions of one file after another; in version control it only looks whether they are there.
+Changes change_all(Changes changes, mode_t mode, bool only_look, Progress& progress) {
+    for (const NodePath& node : changes.nodes) {
+        const FileFacts facts = examine_file(node.path);
+        if (!facts) {
+            changes.fault = "Illegal file";
+        } else if (!only_look && chmod(node.path.c_str(), mode) != 0) {
+            changes.fault = fmt::sprintf("Can't change permissions on file : %s", node.label);
+            changes.of_faulty = facts;
+        } else {
+            ++changes.done;
+            changes.fault = progress.next() ? "" : "Stopped";
+        }
+        if (!changes.fault.empty()) {
+            break;
+        }
+    }
+    return changes;
+}
+
+/// Types the commands for those that are there; returns why it had to stop.
+Message protect_all(const Changes& changes, mode_t mode) {
+    for (std::size_t i = 0; i < changes.done; ++i) {
+        Message refusal = protect(changes.nodes[i].path, mode);
+        if (!refusal.empty()) {
+            return refusal;
+        }
+    }
+    return changes.fault;
+}
+
+Message result_of(const Changes& changes) {
+    if (changes.of_faulty) {
+        GetFilePermissions(file_status(), changes.of_faulty);
+    }
+    return changes.fault.empty() ? "Permissions changed" : changes.fault;
+}
+
+}  // namespace
+
+Message FilePermissionsSetAll() {
+    Changes selected;
+    for (const TreeNode* node : rectobj_get_selected_list(file_tree())) {
+        selected.nodes.push_back({file_tag(node).path(), file_tag(node).label});
+    }
+    if (selected.nodes.empty()) {
+        return "No files selected";
+    }
+    start_work(
+        file_status(), items_label,
+        [selected, mode = chosen_mode(), only_look = in_version_control()](Progress& progress) {
+            return change_all(selected, mode, only_look, progress);
+        },
+        [mode = chosen_mode(), typed = in_version_control()](const Changes& changes) {
+            file_status().set_left_footer(typed ? protect_all(changes, mode) : result_of(changes));
+        });
+    return {};
 }
 
 Message Set_permissions() {

@@ -54,7 +54,10 @@ void show(const Listing& listing, Found found) {
     const auto add = listing.filter ? add_filtered_to_list : add_name_to_list;
     const ScanResult result = add(browser.list, std::move(found.scan), view);
     if (const std::string_view text = listing.texts.of(result); !text.empty()) {
-        show_failure(result, text);
+        show_failure(result, listing.failed ? "" : text);
+        if (listing.failed) {
+            listing.failed(text);
+        }
         return;
     }
     shown = {listing.filter, std::move(facts)};

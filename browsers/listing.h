@@ -36,6 +36,7 @@ struct Listing {
     std::optional<NameFilter> filter;
     ListingTexts texts;
     std::function<void(const std::string& path, int count)> listed;  ///< called when it has been listed
+    std::function<void(std::string_view text)> failed;  ///< told a failure in place of the browser's user
 };
 
 /// Lists a directory in the browser, which then stands on it: no row is selected, "File Name:" is empty, the

@@ -150,13 +150,18 @@ Scan scan_filtered(const std::string& directory, const NameFilter& filter, Progr
     return none ? Scan{.result = SCAN_EMPTY} : scan;
 }
 
-Scan scan_subdirectories(const std::string& directory_path) {
+Scan scan_subdirectories(const std::string& directory_path, Progress* progress) {
     Directory directory(directory_path);
     if (!directory.is_open()) {
         return {.result = SCAN_OPEN_FAILED};
     }
-    std::optional<std::vector<std::string>> names = sorted_names(
-        directory, [&](const char* name) { return !is_dots(name) && type_of(directory, name) == S_IFDIR; });
+    const auto is_subdirectory = [&](const char* name) {
+        return !is_dots(name) && type_of(directory, name) == S_IFDIR;
+    };
+    std::optional<std::vector<std::string>> names = sorted_names(directory, is_subdirectory, progress);
+    if (progress != nullptr && progress->stopping()) {
+        return {.result = SCAN_STOPPED};
+    }
     if (!names) {
         return {.result = SCAN_TOO_MANY};
     }

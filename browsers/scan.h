@@ -60,7 +60,7 @@ Scan scan_directory(const std::string& directory, Progress* progress = nullptr);
 /// included.
 Scan scan_filtered(const std::string& directory, const NameFilter& filter, Progress* progress = nullptr);
 /// The names of the subdirectories only, as they are.
-Scan scan_subdirectories(const std::string& directory);
+Scan scan_subdirectories(const std::string& directory, Progress* progress = nullptr);
 
 /// Sorts names by bytes, in n log n steps whatever their order.
 void quicksort(std::span<std::string> names);

@@ -2,6 +2,7 @@
 // What choosing a bookmark does, and the main window's buttons that make one. The path of a directory, and
 // any that names a file, is one word for the shell, whatever it holds.
 #include "browsers/browser_work.h"
+#include "browsers/define_bookmark.h"
 #include "browsers/file_type.h"
 #include "browsers/listed_file.h"
 #include "settings/notify.h"
@@ -14,7 +15,6 @@
 #include "shell/send.h"
 #include "shell/status.h"
 #include "shell/text.h"
-#include "ui/bookmark_definition.h"
 #include "ui/main_window.h"
 
 #include <filesystem>
@@ -45,16 +45,6 @@ Message open_with(const char* variable, Words value, const std::string& path) {
 }
 
 const Message no_current_directory = "Current directory not set";
-
-void define_bookmark(std::string_view path, FileType type) {
-    BookmarkDefinition& window = bookmark_definition();
-    window.bookmarked_file.set_name(path);
-    window.bookmark_name.set_text("");
-    window.file_type.set_value(type);
-    window.set_left_footer("");
-    window.open();
-    window.bookmark_name.set_focus();
-}
 
 }  // namespace
 

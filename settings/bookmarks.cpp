@@ -12,6 +12,7 @@
 #include "ui/bookmark_definition.h"
 #include "ui/bookmarks.h"
 #include "ui/file_list_browser.h"
+#include "ui/file_tree_browser.h"
 #include "ui/main_window.h"
 
 #include <array>
@@ -129,6 +130,8 @@ int SetupBookmarksMenu(const std::string& path) {
     main_window().bookmark_menu.set_menu(std::move(book_mark_menu));
     main_window().bookmark_menu.set_tool_tip("Bookmarks");
     const Entries& directories = entries.front();
+    file_tree_browser().bookmark_menu.set_menu(menu_of("Set Root", directories, SetBookmarkRoot));
+    file_tree_browser().bookmark_menu.set_tool_tip("Bookmarked directories as the root");
     file_list_browser().bookmark_menu.set_menu(menu_of("Set Dir", directories, SetBookmarkFileListDir));
     return 1;
 }

@@ -215,4 +215,6 @@ void set_pointer_limits(int multiclick_microseconds, int drag_pixels) {
     QApplication::setStartDragDistance(drag_pixels);
 }
 
+void window_bell() { QApplication::beep(); }
+
 void set_application_icon(const std::string& path) { QApplication::setWindowIcon(QIcon(to_qstring(path))); }

@@ -36,5 +36,8 @@ void on_lost_display(LastAct act);
 /// move before a press becomes a drag.
 void set_pointer_limits(int multiclick_microseconds, int drag_pixels);
 
+/// Rings the display's bell.
+void window_bell();
+
 /// Puts the application's icon, an SVG file, on its windows.
 void set_application_icon(const std::string& path);

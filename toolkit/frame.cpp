@@ -205,14 +205,29 @@ void Frame::place_beside_base(int right, int down) {
     const QPoint wanted = users_place.value_or(base_widget->pos() + QPoint(right, down));
     const QScreen* users_screen = users_place ? QGuiApplication::screenAt(*users_place) : nullptr;
     const QScreen* screen = users_screen != nullptr ? users_screen : base_widget->screen();
-    const QRect room = screen->availableGeometry();
     widget_->settle_size();
+    place_inside(*screen, wanted);
+}
+
+void Frame::place_inside(const QScreen& screen, QPoint wanted) {
+    const QWidget* base_widget = base().widget();
+    const QRect room = screen.availableGeometry();
     // The window manager's frame round the new window is not known before it is shown: the main window's
     // serves.
     const QSize size = widget_->size() + base_widget->frameSize() - base_widget->size();
     widget_->place({moved_inside(wanted.x(), size.width(), room.left(), room.right()),
                     moved_inside(wanted.y(), size.height(), room.top(), room.bottom())});
 }
+
+void Frame::open_sized(int right, int down, int width, int height) {
+    const QWidget* base_widget = base().widget();
+    const QSize frame = base_widget->frameSize() - base_widget->size();
+    widget_->resize(QSize(width, height).boundedTo(base_widget->screen()->availableSize() - frame));
+    place_inside(*base_widget->screen(), base_widget->pos() + QPoint(right, down));
+    show();
+}
+
+void Frame::iconify() { widget_->showMinimized(); }
 
 void Frame::on_close(void (*notify)()) { widget_->close_notify = notify; }
 

@@ -7,6 +7,8 @@
 #include <string_view>
 
 class FrameWidget;
+class QPoint;
+class QScreen;
 
 /// A window: areas from top to bottom (panels, text panes, the terminal pane), and a line with a left and a
 /// right footer. The first frame made is the main window; the others belong to it and close with Escape.
@@ -45,6 +47,10 @@ class Frame : public Container {
     /// Shows a pop-up. One that is not shown yet is placed at an offset in pixels from the main window's
     /// origin, or where the user has put it before; moved back where that would be outside the screen.
     void open(int right = 740, int down = 100);
+    /// Shows a pop-up at such an offset and in a size of its own, wherever it was; no larger than the screen.
+    void open_sized(int right, int down, int width, int height);
+    /// Shows the main window as its icon. Pop-ups that are up stay up.
+    void iconify();
     /// Called instead of closing the window when its user asks for that.
     void on_close(void (*notify)());
 
@@ -54,6 +60,7 @@ class Frame : public Container {
   private:
     friend class BusyState;
     void place_beside_base(int right, int down);
+    void place_inside(const QScreen& screen, QPoint wanted);
 
     FrameWidget* widget_;
     int busy_ = 0;

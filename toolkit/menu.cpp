@@ -16,6 +16,10 @@ Menu::Menu(std::string_view title, std::span<const MenuItem> items) : menu_(std:
         title_ = menu_->addSection(without_mnemonic(title));
     }
     for (const MenuItem& item : items) {
+        if (!item.notify) {
+            menu_->addSection(without_mnemonic(item.label));
+            continue;
+        }
         QAction* action = menu_->addAction(without_mnemonic(item.label));
         QObject::connect(action, &QAction::triggered, menu_.get(),
                          [menu = menu_.get(), notify = item.notify] { notify_from(menu, notify); });

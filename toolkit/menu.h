@@ -13,11 +13,13 @@
 class QAction;
 class QMenu;
 
-/// A line of a fixed menu.
+/// A line of a fixed menu. Without a procedure it cannot be chosen: a heading of the items below.
 struct MenuItem {
     std::string_view label;
     Notify notify;
 };
+/// A line between groups of items.
+inline constexpr MenuItem menu_line{"--------------------"};
 
 /// A line of a menu that is made at run time.
 struct MenuEntry {

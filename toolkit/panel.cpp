@@ -103,6 +103,30 @@ void Row::add(std::string_view label, QWidget* control, Place /*place*/) {
         layout_->addWidget(make_label(label, control, widget_));
     }
     layout_->addWidget(control);
+    follow_height(widget_, control);
+}
+
+ControlGrid::ControlGrid(Container& parent, int columns)
+    : widget_(new QWidget(parent.widget())), layout_(new QGridLayout(widget_)), columns_(columns) {
+    layout_->setContentsMargins(0, 0, 0, 0);
+    layout_->setSpacing(spacing);
+    layout_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    widget_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
+    parent.add({}, widget_, Place::line);
+}
+
+void ControlGrid::add(std::string_view /*label*/, QWidget* control, Place /*place*/) {
+    layout_->addWidget(control, line_, column_);
+    if (++column_ == columns_) {
+        column_ = 0;
+        ++line_;
+    }
+}
+
+void ControlGrid::begin_group() {
+    line_ += column_ == 0 ? 0 : 1;
+    column_ = 0;
+    layout_->setRowMinimumHeight(line_++, group_spacing);
 }
 
 Stretch::Stretch(Row& row) { row.layout_->addStretch(1); }

@@ -75,6 +75,28 @@ class Row : public Container {
     QHBoxLayout* layout_;
 };
 
+/// Small controls of one size in columns, close to each other, at the upper left of the room they have.
+class ControlGrid : public Container {
+  public:
+    ControlGrid(Container& parent, int columns);
+    void add(std::string_view label, QWidget* control, Place place) override;
+    /// The next control begins a group of its own, on a new line.
+    void begin_group();
+    [[nodiscard]] QWidget* widget() const override { return widget_; }
+
+  private:
+    QWidget* widget_;
+    QGridLayout* layout_;
+    int columns_;
+    int line_ = 0;
+    int column_ = 0;
+};
+
+/// What is behind it in a grid is a group of its own.
+struct NewGroup {
+    explicit NewGroup(ControlGrid& grid) { grid.begin_group(); }
+};
+
 /// Free room in a row: what comes before it stands flush left, what comes after it flush right.
 class Stretch {
   public:

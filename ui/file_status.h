@@ -37,6 +37,7 @@ struct FileStatus : CommandFrame {
     Choice file_system{panel, "File System", {"Normal", "Clearcase Vob"}};
     Row buttons{panel};
     Button set_current{buttons, "Set Current", Set_permissions};
+    Button set_selected{buttons, "Set Selected in File Tree", FilePermissionsSetAll};
     Stretch behind_buttons{buttons};
     TextField file_name{panel, "File Name:"};
 };

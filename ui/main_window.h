@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/notify.h"
+#include "browsers/notify.h"
 #include "settings/notify.h"
 #include "shell/notify.h"
 #include "toolkit/buttons.h"
@@ -63,6 +64,7 @@ struct MainWindow : Frame {
     ImageButton normal{actions, "normal", Set_normal_width};
     ImageButton tall{actions, "tall", Set_small_font};
     ImageButton clear_terminal{actions, "clear terminal", Set_large_font};
+    ImageButton lookup_directories{actions, "lookup directories", BaseWindowLookup};
     ImageButton command_list{actions, "command list", BaseWindowCommandList};
     Stretch behind_actions{actions};
 

@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: MIT
+#include "browsers/tree/walk.h"
+
+#include "browsers/tree/file_tree.h"
+#include "toolkit/frame.h"
+#include "toolkit/long_work.h"
+
+#include <algorithm>
+#include <utility>
+
+#include <sys/stat.h>
+
+namespace {
+
+struct Walk {
+    std::vector<WalkedNode> nodes;
+    bool is_whole = true;  ///< no path led nowhere
+    bool is_stopped = false;
+};
+
+Walk examine(Walk walk, Progress& progress) {
+    for (WalkedNode& node : walk.nodes) {
+        if (!glance_at(node.path, node.glance)) {
+            walk.is_whole = false;
+            break;
+        }
+        if (!progress.next()) {
+            walk.is_stopped = true;
+            break;
+        }
+    }
+    return walk;
+}
+
+WalkCounts counts_of(const std::vector<WalkedNode>& nodes) {
+    WalkCounts counts{.nodes = nodes.size()};
+    for (const WalkedNode& node : nodes) {
+        counts.directories += S_ISDIR(node.glance.mode) ? 1 : 0;
+        counts.files += S_ISREG(node.glance.mode) ? 1 : 0;
+    }
+    return counts;
+}
+
+/// Why the action is not done; empty when it is.
+std::string_view refusal(const WalkRule& rule, const Walk& walk) {
+    const auto is_gone = [](const WalkedNode& node) { return node.reference.node() == nullptr; };
+    if (!walk.is_whole || std::ranges::any_of(walk.nodes, is_gone)) {
+        return rule.illegal;
+    }
+    if (walk.is_stopped) {
+        return "Stopped";
+    }
+    const WalkCounts counts = counts_of(walk.nodes);
+    for (const WalkCheck& check : rule.checks) {
+        if (check.fails(counts)) {
+            return check.message;
+        }
+    }
+    return {};
+}
+
+}  // namespace
+
+const WalkedNode& directory_among(const std::vector<WalkedNode>& nodes) {
+    const auto is_directory = [](const WalkedNode& node) { return S_ISDIR(node.glance.mode); };
+    const auto found = std::ranges::find_if(nodes, is_directory);
+    return found == nodes.end() ? nodes.front() : *found;
+}
+
+Message walk_selection(Frame& asker, const WalkRule& rule, WalkAction action) {
+    Walk selected;
+    for (TreeNode* node : rectobj_get_selected_list(file_tree())) {
+        selected.nodes.push_back({.reference = reference_to(node), .path = file_tag(node).path()});
+    }
+    if (selected.nodes.empty()) {
+        return Message(rule.none);
+    }
+    start_work(
+        asker, "Files examined", [selected](Progress& progress) { return examine(selected, progress); },
+        [&asker, rule, action = std::move(action)](const Walk& walk) {
+            const std::string_view why_not = refusal(rule, walk);
+            const Message message = why_not.empty() ? action(walk.nodes) : Message(why_not);
+            asker.set_left_footer(message);
+        });
+    return {};
+}
