@@ -29,7 +29,7 @@ QFont without_shaping(QFont font) {
 
 }  // namespace
 
-LabelFont::LabelFont(const QFont& wanted) : font(without_shaping(wanted)), advances{} {
+LabelFont::LabelFont(const QFont& wanted) : font(without_shaping(wanted)) {
     const QFontMetricsF metrics(font);
     ascent = static_cast<int>(std::ceil(metrics.ascent()));
     height = static_cast<int>(std::ceil(metrics.height()));
@@ -62,7 +62,7 @@ QSize LabelFonts::size(const TreeNode& node) {
     double width = 0;
     if (is_plain(label)) {
         for (const char c : label) {
-            width += font.advances[static_cast<std::size_t>(c)];
+            width += font.advances[static_cast<unsigned char>(c)];
         }
     } else {
         width = QFontMetricsF(font.font).horizontalAdvance(shown_label(label));

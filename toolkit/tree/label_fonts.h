@@ -16,8 +16,8 @@ struct LabelFont {
 
     QFont font;
     int ascent;
-    int height;                        ///< of a line
-    std::array<double, 128> advances;  ///< of printable ASCII: most labels are measured by adding these up
+    int height;                          ///< of a line
+    std::array<double, 128> advances{};  ///< of printable ASCII: most labels are measured by adding these up
 };
 
 /// The fonts of a canvas: one of each size for files, one for directories. Found when they are first used.

@@ -4,6 +4,7 @@
 #include "toolkit/tree/siblings.h"
 
 #include <algorithm>
+#include <ranges>
 #include <utility>
 
 namespace {
@@ -44,8 +45,8 @@ void NodeTree::destroy(TreeNode* node, const std::function<void(TreeNode*)>& for
     }
     layout_.remove(*node);
     size_ -= static_cast<int>(branch.size());
-    for (auto gone = branch.rbegin(); gone != branch.rend(); ++gone) {
-        delete *gone;
+    for (const TreeNode* gone : std::ranges::reverse_view(branch)) {
+        delete gone;
     }
 }
 
