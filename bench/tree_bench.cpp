@@ -1,10 +1,14 @@
 // SPDX-License-Identifier: MIT
 // What a large tree costs: a directory expanded beside `ls -lU` on the same one, and what a user does in a
 // tree of 100,000 nodes. Needs a display: tests/support/with_display gives it one.
-#include "browsers/directory.h"
+#include "browsers/tree/file_tree.h"
+#include "browsers/tree/listing.h"
+#include "browsers/tree/open_node.h"
 #include "tests/support/scratch_directory.h"
 #include "toolkit/frame.h"
 #include "toolkit/tree/tree_canvas.h"
+#include "ui/file_tree_browser.h"
+#include "ui/windows.h"
 
 #include <QAbstractScrollArea>
 #include <QApplication>
@@ -12,7 +16,6 @@
 #include <QScrollBar>
 #include <QTest>
 
-#include <algorithm>
 #include <cstdlib>
 #include <memory>
 #include <utility>
@@ -21,19 +24,11 @@
 #include <benchmark/benchmark.h>
 #include <fmt/format.h>
 #include <malloc.h>
-#include <sys/stat.h>
 
 namespace {
 
 constexpr int most_files = 9997;
 constexpr int many = 100'000;
-
-/// What a browser keeps of a file.
-struct PathRecord : NodeRecord {
-    PathRecord(const std::string& name, const std::string& directory)
-        : NodeRecord(name), path(directory + "/" + name) {}
-    std::string path;
-};
 
 struct TreeWindow : CommandFrame {
     TreeWindow() : CommandFrame("Tree") {
@@ -44,7 +39,10 @@ struct TreeWindow : CommandFrame {
     }
 
     TreeNode* leaf(TreeNode* parent, const std::string& name, NodeKind kind = NodeKind::file) {
-        return canvas.add(parent, std::make_unique<PathRecord>(name, "/usr/share/directory"), 1, kind);
+        const bool is_root = parent == nullptr;
+        const auto* above = is_root ? nullptr : static_cast<FileTag*>(&canvas.record(parent));
+        auto tag = std::make_unique<FileTag>(name, is_root ? "/usr/share" : "", above, FileGlance{});
+        return canvas.add(parent, std::move(tag), 1, kind);
     }
     void paint() const {
         QApplication::processEvents();
@@ -94,33 +92,25 @@ BENCHMARK(ListWithLs)->UseRealTime()->Unit(benchmark::kMillisecond);
 /// Read, examined, sorted, added and painted.
 void ExpandInTheTree(benchmark::State& state) {
     const std::string path = large_directory().path().string();
-    TreeWindow window;
-    TreeNode* root = window.leaf(nullptr, "root", NodeKind::directory);
+    create_windows();
+    file_tree_browser().max_files.set_value(most_files);
+    file_tree_browser().open();
+    TreeNode* root = AddOneLeaf("root", path, file_tree(), nullptr, 0, 1, 1);
+    QWidget* view = file_tree_browser().widget()->findChild<QAbstractScrollArea*>()->viewport();
     for (auto _ : state) {
-        std::vector<std::pair<std::string, bool>> entries;
-        Directory directory(path);
-        while (const char* name = directory.next()) {
-            if (const auto mode = directory.mode_of(name); mode && !is_dots(name)) {
-                entries.emplace_back(name, S_ISDIR(*mode));
-            }
-        }
-        std::ranges::sort(entries);
-        {
-            const RepaintHold hold(window.canvas);
-            window.canvas.set_opened(root);
-            for (const auto& [name, is_directory] : entries) {
-                window.canvas.add(root, std::make_unique<PathRecord>(name, path), 1,
-                                  is_directory ? NodeKind::directory : NodeKind::file);
-            }
-        }
-        window.paint();
-        if (!directory.close() || window.canvas.size() != most_files + 1) {
+        Progress progress;
+        AddInstanceNames(root, list_for_tree(path, {}, progress));
+        QApplication::processEvents();
+        view->repaint();
+        state.PauseTiming();
+        if (file_tree().size() != most_files + 1) {
             state.SkipWithError("the directory could not be read");
         }
-        state.PauseTiming();
-        window.canvas.destroy_children(root);
+        file_tree().destroy_children(root);
+        QApplication::processEvents();
         state.ResumeTiming();
     }
+    destroy_windows();
 }
 BENCHMARK(ExpandInTheTree)->UseRealTime()->Unit(benchmark::kMillisecond);
 
