@@ -203,10 +203,11 @@ int CanvasWidget::view_units(Qt::Orientation orientation) const {
     return (orientation == Qt::Horizontal ? view.width() : view.height()) / pixels_per_unit;
 }
 
+/// What fits into the view needs no unit more, whatever part of one is left over.
 int CanvasWidget::object_units(Qt::Orientation orientation) const {
-    const QSize size = object_size();
-    const int pixels = orientation == Qt::Horizontal ? size.width() : size.height();
-    return std::max((pixels + pixels_per_unit - 1) / pixels_per_unit, view_units(orientation));
+    const QSize beyond = (object_size() - viewport()->size()).expandedTo({0, 0});
+    const int pixels = orientation == Qt::Horizontal ? beyond.width() : beyond.height();
+    return view_units(orientation) + (pixels + pixels_per_unit - 1) / pixels_per_unit;
 }
 
 void CanvasWidget::update_scroll_bars() {
@@ -258,9 +259,9 @@ void CanvasWidget::settle() {
 
 void CanvasWidget::resizeEvent(QResizeEvent* event) {
     QAbstractScrollArea::resizeEvent(event);
-    update_scroll_bars();
     notify_from<TreeCanvas&, int, int>(this, procedures_.resize, canvas_, viewport()->width(),
                                        viewport()->height());
+    update_scroll_bars();
 }
 
 void CanvasWidget::scrollContentsBy(int dx, int dy) {

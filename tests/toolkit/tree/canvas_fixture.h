@@ -35,6 +35,7 @@ inline void tell_refresh() { told.emplace_back("refresh"); }
 inline void tell_rename() { told.emplace_back("rename"); }
 inline void tell_remove() { told.emplace_back("remove"); }
 inline void tell_first() { told.emplace_back("first"); }
+inline void resize_sample(TreeCanvas& canvas, int width, int height) { canvas.set_size(width, height); }
 inline constexpr MenuItem sample_items[] = {{"First", tell_first}};
 
 struct SampleWindow : CommandFrame {
@@ -46,7 +47,8 @@ struct SampleWindow : CommandFrame {
                        .selection = tell_selection,
                        .refresh = tell_refresh,
                        .rename = tell_rename,
-                       .remove = tell_remove},
+                       .remove = tell_remove,
+                       .resize = resize_sample},
                       Menu("Options", sample_items),
                       "Nothing yet"};
 };

@@ -284,8 +284,14 @@ TEST_F(CanvasNodes, TakeTheRoomOfTheirLabels) {
 }
 
 TEST_F(CanvasNodes, AreCountedInUnitsByTheScrollBars) {
-    EXPECT_EQ(canvas.width(), 500);  // what it takes at least
-    EXPECT_EQ(canvas.height(), 300);
+    for (int more = 0; more < 10; ++more) {
+        window.resize(600 + more, 500 + more);
+        ASSERT_TRUE(wait_until([&] { return canvas.width() == view->viewport()->width(); }, patience,
+                               [] { QTest::qWait(1); }));
+        EXPECT_EQ(canvas.horizontal().object_length, canvas.horizontal().view_length) << more;
+        EXPECT_EQ(canvas.vertical().object_length, canvas.vertical().view_length) << more;
+    }
+    canvas.set_size(1, 1);
     EXPECT_EQ(canvas.vertical().object_length, canvas.vertical().view_length);
     {
         const RepaintHold hold(canvas);
@@ -296,8 +302,9 @@ TEST_F(CanvasNodes, AreCountedInUnitsByTheScrollBars) {
     const TreeCanvas::Scrolling bar = canvas.vertical();
     EXPECT_EQ(bar.pixels_per_unit, 10);
     EXPECT_EQ(bar.view_length, view->viewport()->height() / 10);
-    EXPECT_EQ(bar.object_length, (canvas.height() + 9) / 10);
-    canvas.set_view_start(7, 100'000);
+    const int beyond = canvas.height() - view->viewport()->height();
+    EXPECT_EQ(bar.object_length, bar.view_length + (beyond + 9) / 10);
+    canvas.set_view_start(-1, 100'000);
     EXPECT_EQ(canvas.horizontal().view_start, 0);
     EXPECT_EQ(canvas.vertical().view_start, bar.object_length - bar.view_length);
 }
