@@ -5,6 +5,7 @@
 #include "toolkit/notify.h"
 #include "ui/file_list_browser.h"
 
+#include <chrono>
 #include <optional>
 #include <string_view>
 #include <utility>
@@ -18,7 +19,8 @@ inline constexpr std::optional<Message> no_message = std::nullopt;
 inline constexpr std::string_view copied_bytes = "Bytes copied";
 
 /// Runs `work` for the browser and then calls `done` with its result; the message that `done` gives, if any,
-/// is shown in the left footer. Returns at once: a message if the browser is copying a file.
+/// is shown in the left footer. What takes no time is done when this returns, with what that footer shows
+/// then. While the browser is copying a file it does no other work, and says so.
 template <typename Work, typename Done>
 [[nodiscard]] Message work_in_browser(std::string_view items_label, Work work, Done done) {
     if (waits_for_work(file_list_browser(), copied_bytes)) {
@@ -29,7 +31,9 @@ template <typename Work, typename Done>
             file_list_browser().set_left_footer(*message);
         }
     });
-    return {};
+    constexpr std::chrono::milliseconds hardly_noticed{50};
+    await_work(file_list_browser(), hardly_noticed);
+    return file_list_browser().left_footer();
 }
 
 /// The same for work on one file that cannot be broken off.

@@ -37,6 +37,7 @@ class LongWork final : public QObject {
     void show_count();
     void finish();
     [[nodiscard]] const std::string& items_label() const { return items_label_; }
+    [[nodiscard]] bool is_over_within(std::chrono::milliseconds limit) const;
 
   private:
     void restore_footer();
@@ -76,6 +77,8 @@ struct Shared : std::enable_shared_from_this<Shared> {
     std::mutex mutex;
     QWidget* frame = nullptr;  ///< nullptr when nobody waits any more
     LongWork* work = nullptr;  ///< the same for the event loop's thread
+    bool is_over = false;
+    std::condition_variable over;
     Progress progress{[this] { tell(&LongWork::show_count); }};
 
     /// Has the event loop call a function of the work, while somebody waits for it.
@@ -98,6 +101,11 @@ void Shared::tell(void (LongWork::*function)()) {
 void run(std::shared_ptr<Shared> shared, std::function<void(Progress&)> work) {
     work(shared->progress);
     work = nullptr;
+    {
+        const std::lock_guard lock(shared->mutex);
+        shared->is_over = true;
+    }
+    shared->over.notify_all();
     shared->tell(&LongWork::finish);
     shared.reset();
     const std::lock_guard lock(threads().mutex);
@@ -207,11 +215,23 @@ void LongWork::finish() {
     done();
 }
 
+bool LongWork::is_over_within(std::chrono::milliseconds limit) const {
+    std::unique_lock lock(shared_->mutex);
+    return shared_->over.wait_for(lock, limit, [this] { return shared_->is_over; });
+}
+
 void start_work(Frame& frame, std::string_view items_label, std::function<void(Progress&)> work,
                 std::function<void()> done) {
     LongWork::forget(frame);
     auto* const waiting = new LongWork(frame, items_label, std::move(done));
     waiting->start_thread(std::move(work));
+}
+
+void await_work(Frame& frame, std::chrono::milliseconds limit) {
+    LongWork* const work = LongWork::of(frame);
+    if (work != nullptr && work->is_over_within(limit)) {
+        work->finish();
+    }
 }
 
 bool waits_for_work(const Frame& frame, std::string_view items_label) {

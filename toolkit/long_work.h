@@ -36,6 +36,10 @@ requires(!std::is_void_v<std::invoke_result_t<Work, Progress&>>) void start_work
                std::function<void()>([=] { done(std::move(*result)); }));
 }
 
+/// Waits so long for a frame's work. What is over by then is done before this returns: most work on a disk
+/// takes no time worth a waiting pointer, and what its user does next finds it done.
+void await_work(Frame& frame, std::chrono::milliseconds limit);
+
 /// Whether a frame waits for work with items of that label.
 [[nodiscard]] bool waits_for_work(const Frame& frame, std::string_view items_label);
 

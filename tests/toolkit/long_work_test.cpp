@@ -67,6 +67,22 @@ TEST_F(LongWorkTest, KeepsTheFrameBusyCountsAndGivesItsResult) {
     EXPECT_EQ(frame->right_footer(), "before");
 }
 
+TEST_F(LongWorkTest, IsDoneAtOnceWhereItIsOverInTime) {
+    steps->allowed = 2;
+    start(2);
+    await_work(*frame, patience);
+    EXPECT_EQ(results, std::vector{2});
+    EXPECT_FALSE(busy());
+    steps = std::make_shared<Steps>();
+    start(1);
+    await_work(*frame, std::chrono::milliseconds{1});
+    EXPECT_TRUE(busy());
+    EXPECT_TRUE(waits_for_work(*frame, "Items"));
+    EXPECT_FALSE(waits_for_work(*frame, "Others"));
+    steps->allowed = 1;
+    EXPECT_TRUE(wait([&] { return results == std::vector{2, 1}; }));  // not twice
+}
+
 TEST_F(LongWorkTest, EscapeStopsItAfterTheCurrentItem) {
     start(4);
     steps->allowed = 1;
