@@ -19,13 +19,14 @@ inline constexpr std::optional<Message> no_message = std::nullopt;
 inline constexpr std::string_view copied_bytes = "Bytes copied";
 
 /// Runs `work` for the browser and then calls `done` with its result; the message that `done` gives, if any,
-/// is shown in the left footer. What takes no time is done when this returns, with what that footer shows
-/// then. While the browser is copying a file it does no other work, and says so.
+/// is shown in the left footer, which is cleared before. What takes no time is done when this returns, with
+/// what that footer shows then. While the browser is copying a file it does no other work, and says so.
 template <typename Work, typename Done>
 [[nodiscard]] Message work_in_browser(std::string_view items_label, Work work, Done done) {
     if (waits_for_work(file_list_browser(), copied_bytes)) {
         return "A file is being copied. Escape stops it.";
     }
+    file_list_browser().set_left_footer("");
     start_work(file_list_browser(), items_label, std::move(work), [done](auto result) {
         if (const std::optional<Message> message = done(std::move(result))) {
             file_list_browser().set_left_footer(*message);

@@ -19,7 +19,10 @@
 #include "ui/message_board.h"
 #include "ui/remote_copy.h"
 
+#include <cerrno>
+
 #include <fmt/format.h>
+#include <sys/stat.h>
 
 namespace {
 

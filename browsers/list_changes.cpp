@@ -13,6 +13,8 @@
 
 #include <cstdio>
 
+#include <sys/stat.h>
+
 namespace {
 
 constexpr MissingTexts missing_destination{.directory = "Destination directory not defined",

@@ -15,13 +15,12 @@ std::string path_of(const std::string& name) {
     return fmt::sprintf("%s/%s", file_list_browser().directory.text(), name);
 }
 
-/// A link that leads nowhere is there, too.
+}  // namespace
+
 bool is_there(const std::string& path) {
     struct stat info {};
     return lstat(path.c_str(), &info) == 0;
 }
-
-}  // namespace
 
 std::string listed_name() {
     std::string name = file_list_browser().file_name.text();

@@ -21,6 +21,9 @@ struct MissingTexts {
     std::string_view name = "File name not defined";
 };
 
+/// Whether anything has a path; a link that leads nowhere is there, too.
+bool is_there(const std::string& path);
+
 /// What "File Name:" stands for. A search that ignores case leaves the row it has found there in lower case:
 /// that means the selected row's file, unless a file of that very name exists.
 std::string listed_name();

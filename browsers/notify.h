@@ -113,6 +113,8 @@ Message FileListBrowserPermissions();
 Message FileListBrowserCopyToWorking();
 Message FileListBrowserHead();
 Message FileListBrowserCd();
+Message FileListBrowserSetRoot();
+Message FileListBrowserCopyToTree();
 
 // "File List Browser", "File" menu.
 Message File_menu_set_directory();

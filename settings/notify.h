@@ -12,6 +12,9 @@ struct ListEvent;
 // "Setup" menu.
 Message Save_current_setup();
 
+// "Add / Rename / Save".
+Message Save_setup_button();
+
 // "Edit" menu: each fills the menu of its item. Then what their entries call.
 Message EditMenuCurrent();
 Message Edit_menu_home();

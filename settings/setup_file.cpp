@@ -2,12 +2,17 @@
 #include "settings/setup_file.h"
 
 #include "browsers/listed_file.h"
+#include "browsers/paths.h"
+#include "browsers/tree/file_tree.h"
+#include "browsers/tree/walk.h"
 #include "settings/notify.h"
 #include "settings/setup_format.h"
 #include "settings/setup_table.h"
 #include "shell/files.h"
 #include "shell/messages.h"
 #include "shell/process.h"
+#include "ui/add_rename_save.h"
+#include "ui/file_tree_browser.h"
 
 #include <cstring>
 #include <filesystem>
@@ -21,6 +26,30 @@ namespace {
 constexpr std::size_t most_bytes = setup_lines * (longest_setup_line + 1);
 
 std::string loaded_file;
+
+const WalkRule& one_parent_directory() {
+    static const WalkRule rule{
+        .none = "No directory selected",
+        .illegal = "Illegal directory",
+        .checks = {{[](const WalkCounts& counts) { return counts.directories != 1 || counts.files > 0; },
+                    "Select one parent directory"}}};
+    return rule;
+}
+
+/// Saves the setup into a directory of the tree, which gets a leaf for it unless it has one.
+Message save_setup_into(const WalkedNode& directory, const std::string& name) {
+    const std::string path = path_in(directory.path, name);
+    const bool is_new = !is_there(path);
+    if (save_setup(path) != 1) {
+        return "Could not save setup file";
+    }
+    if (is_new) {
+        TreeNode* const node = directory.reference.node();
+        (void)AddOneLeaf(name, path, file_tree(), node, file_tag(node).group, 0,
+                         file_tree_browser().font_size.value());
+    }
+    return {};
+}
 
 std::string startup_setup_file() { return fmt::sprintf("%s/Orvik.setup", startup_dir); }
 
@@ -71,6 +100,19 @@ std::string loaded_setup_file() { return loaded_file; }
 Message Save_current_setup() {
     const std::string path = startup_setup_file();
     return save_setup(path) == 1 ? fmt::format("Setup saved to {}", path) : "Could not save Orvik.setup";
+}
+
+Message Save_setup_button() {
+    const std::string name = add_rename_save().new_name.text();
+    WalkRule rule = one_parent_directory();
+    rule.also_tells = &file_tree_browser();
+    Message refusal =
+        name.empty() ? "File name not defined"
+                     : walk_selection(add_rename_save(), rule, [name](const std::vector<WalkedNode>& nodes) {
+                           return save_setup_into(directory_among(nodes), name);
+                       });
+    file_tree_browser().set_left_footer(refusal);
+    return refusal;
 }
 
 Message FileListLoadSetup() {

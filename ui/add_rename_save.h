@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "settings/notify.h"
+#include "toolkit/buttons.h"
 #include "toolkit/fields.h"
 #include "toolkit/frame.h"
 
@@ -11,6 +13,9 @@ struct AddRenameSave : CommandFrame {
     AddRenameSave() : CommandFrame("Add / Rename / Save") { new_name.set_display_length(36); }
 
     TextField new_name{panel, "New Name:"};
+    Row buttons{panel, Place::field};
+    Button save{buttons, "Save", Save_setup_button};
+    Stretch behind_buttons{buttons};
 };
 
 inline std::unique_ptr<AddRenameSave> Orvik_popup32;

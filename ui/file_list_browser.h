@@ -44,7 +44,9 @@ struct FileListBrowser : CommandFrame {
     ImageButton current{actions, "current", FileListBrowserCurrent};
     ImageButton bookmark{actions, "bookmark", FileListBrowserBookmark};
     ImageButton permissions{actions, "permissions", FileListBrowserPermissions};
+    ImageButton set_root{actions, "set root", FileListBrowserSetRoot};
     ImageButton copy_to_working{actions, "copy to working", FileListBrowserCopyToWorking};
+    ImageButton copy_to_tree{actions, "copy to tree", FileListBrowserCopyToTree};
     ImageButton head{actions, "head", FileListBrowserHead};
     Stretch behind_actions{actions};
 

@@ -41,16 +41,18 @@ void add_children(TreeNode* node, std::vector<TreeEntry> entries) {
 
 /// For directories with more entries than the tree is to show.
 void hand_over_to_list(const std::string& path) {
-    say(list_in_browser({.directory = path,
-                         .name = Listing::Name::exact,
-                         .texts = {.too_many = "Too many files to sort"},
-                         .listed =
-                             [](const std::string& /*path*/, int /*count*/) {
-                                 file_list_browser().set_left_footer("");
-                                 file_list_browser().open();
-                                 say("Files displayed in File List Manager");
-                             },
-                         .failed = say}));
+    const Message refusal = list_in_browser({.directory = path,
+                                             .name = Listing::Name::exact,
+                                             .texts = {.too_many = "Too many files to sort"},
+                                             .listed =
+                                                 [](const std::string& /*path*/, int /*count*/) {
+                                                     file_list_browser().open();
+                                                     say("Files displayed in File List Manager");
+                                                 },
+                                             .failed = say});
+    if (!refusal.empty()) {
+        say(refusal);
+    }
 }
 
 /// What a path turns out to be, and what is in it where that is a directory.

@@ -81,6 +81,9 @@ Message walk_selection(Frame& asker, const WalkRule& rule, WalkAction action) {
             const std::string_view why_not = refusal(rule, walk);
             const Message message = why_not.empty() ? action(walk.nodes) : Message(why_not);
             asker.set_left_footer(message);
+            if (rule.also_tells != nullptr) {
+                rule.also_tells->set_left_footer(message);
+            }
         });
     return {};
 }

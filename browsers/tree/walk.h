@@ -40,6 +40,7 @@ struct WalkRule {
     std::string_view none;     ///< nothing is selected
     std::string_view illegal;  ///< a path leads nowhere
     std::vector<WalkCheck> checks;
+    Frame* also_tells = nullptr;  ///< a window whose left footer shows the message, too
 };
 
 /// The first of the directories, or of all nodes where there is none.
