@@ -45,9 +45,9 @@ TreeNode* CanvasWidget::neighbour(int key) const {
     TreeNode* parent = tree_.parent(current_);
     switch (key) {
         case Qt::Key_Up:
-            return tree_.previous_sibling(current_);
+            return tree_.above_in_column(current_);
         case Qt::Key_Down:
-            return tree_.next_sibling(current_);
+            return tree_.below_in_column(current_);
         case Qt::Key_Left:
             return parent;
         case Qt::Key_Right:

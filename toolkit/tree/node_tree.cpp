@@ -4,7 +4,6 @@
 #include "toolkit/tree/siblings.h"
 
 #include <algorithm>
-#include <ranges>
 #include <utility>
 
 namespace {
@@ -23,6 +22,36 @@ std::vector<TreeNode*> branch_of(TreeNode* node) {
     return branch;
 }
 
+/// Which way to go through siblings.
+struct Way {
+    LayoutNode* (*first)(LayoutNode*);
+    LayoutNode* (*next)(LayoutNode&);
+};
+constexpr Way upward{siblings::last, siblings::previous};
+constexpr Way downward{siblings::first, siblings::next};
+
+/// The first node so many levels below this one; null where it is not that deep.
+LayoutNode* first_below(LayoutNode* node, int levels, const Way& way) {
+    LayoutNode* found = levels == 0 ? node : nullptr;
+    LayoutNode* child = levels == 0 ? nullptr : way.first(node->children);
+    for (; child != nullptr && found == nullptr; child = way.next(*child)) {
+        found = first_below(child, levels - 1, way);
+    }
+    return found;
+}
+
+/// Looks among the siblings, then below those of the parent, and so on.
+TreeNode* in_column(LayoutNode* node, const Way& way) {
+    for (int levels = 0; node->parent != nullptr; node = node->parent, ++levels) {
+        for (LayoutNode* other = way.next(*node); other != nullptr; other = way.next(*other)) {
+            if (LayoutNode* found = first_below(other, levels, way); found != nullptr) {
+                return tree_node(found);
+            }
+        }
+    }
+    return nullptr;
+}
+
 }  // namespace
 
 NodeTree::~NodeTree() {
@@ -38,14 +67,15 @@ TreeNode* NodeTree::add(std::unique_ptr<TreeNode> node, TreeNode* parent, int po
 }
 
 void NodeTree::destroy(TreeNode* node, const std::function<void(TreeNode*)>& forget) {
-    const std::vector<TreeNode*> branch = branch_of(node);
+    std::vector<TreeNode*> branch = branch_of(node);
     for (TreeNode* gone : branch) {
         deselect(gone);
         forget(gone);
     }
     layout_.remove(*node);
     size_ -= static_cast<int>(branch.size());
-    for (const TreeNode* gone : std::ranges::reverse_view(branch)) {
+    std::ranges::reverse(branch);
+    for (const TreeNode* gone : branch) {
         delete gone;
     }
 }
@@ -93,7 +123,9 @@ TreeNode* NodeTree::last_child(const TreeNode* node) const {
 
 TreeNode* NodeTree::next_sibling(TreeNode* node) const { return tree_node(siblings::next(*node)); }
 
-TreeNode* NodeTree::previous_sibling(TreeNode* node) const { return tree_node(siblings::previous(*node)); }
+TreeNode* NodeTree::above_in_column(TreeNode* node) const { return in_column(node, upward); }
+
+TreeNode* NodeTree::below_in_column(TreeNode* node) const { return in_column(node, downward); }
 
 TreeNode* NodeTree::at(int x, int y) const { return tree_node(layout_.at(x, y)); }
 

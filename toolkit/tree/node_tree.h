@@ -58,7 +58,9 @@ class NodeTree {
     [[nodiscard]] TreeNode* last_child(const TreeNode* node) const;
 
     [[nodiscard]] TreeNode* next_sibling(TreeNode* node) const;
-    [[nodiscard]] TreeNode* previous_sibling(TreeNode* node) const;
+    // The nearest node of the same distance from its root, whichever that is; null where there is none.
+    [[nodiscard]] TreeNode* above_in_column(TreeNode* node) const;
+    [[nodiscard]] TreeNode* below_in_column(TreeNode* node) const;
     [[nodiscard]] TreeNode* at(int x, int y) const;
     /// The nodes whose labels an area touches, top to bottom, then left to right.
     [[nodiscard]] std::vector<TreeNode*> touched_by(const TreeArea& area) const;

@@ -136,6 +136,7 @@ class RandomTree {
         for (const auto& [node, area] : places) {
             compare_siblings(node);
         }
+        compare_columns();
         compare_touched(places);
     }
 
@@ -190,7 +191,24 @@ class RandomTree {
         for (std::size_t i = 0; i < list.size(); ++i) {
             ASSERT_EQ(tree_.position(list[i]), static_cast<int>(i));
             ASSERT_EQ(tree_.child(parent, static_cast<int>(i)), list[i]);
-            ASSERT_EQ(tree_.previous_sibling(list[i]), i == 0 ? nullptr : list[i - 1]);
+        }
+    }
+    /// From above to below, by their distance from the root.
+    void collect_columns(TreeNode* parent, std::size_t level, std::vector<Nodes>& columns) {
+        columns.resize(std::max(columns.size(), level + 1));
+        for (TreeNode* node : Nodes(plain_.children[parent])) {
+            columns[level].push_back(node);
+            collect_columns(node, level + 1, columns);
+        }
+    }
+    void compare_columns() {
+        std::vector<Nodes> columns;
+        collect_columns(nullptr, 0, columns);
+        for (const Nodes& column : columns) {
+            for (std::size_t i = 0; i < column.size(); ++i) {
+                ASSERT_EQ(tree_.above_in_column(column[i]), i == 0 ? nullptr : column[i - 1]);
+                ASSERT_EQ(tree_.below_in_column(column[i]), i + 1 == column.size() ? nullptr : column[i + 1]);
+            }
         }
     }
     void compare_touched(const Places& places) {
