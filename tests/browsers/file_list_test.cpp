@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "browsers/browser_work.h"
 #include "browsers/listing.h"
 #include "browsers/notify.h"
 #include "tests/browsers/file_list_windows.h"
@@ -8,6 +9,7 @@
 #include "ui/file_status.h"
 #include "ui/generate_file_list.h"
 
+#include <future>
 #include <tuple>
 
 #include <sys/stat.h>
@@ -344,6 +346,22 @@ TEST_F(FileListWindows, WritesFileLists) {
     EXPECT_EQ(opened(), (home / "out").string() + "|");
     window.file_name.set_text(directory());
     EXPECT_EQ(run("Run"), "Couldn't open output file");
+}
+
+TEST_F(FileListWindows, NothingTakesThePlaceOfACopy) {
+    ASSERT_EQ(list(directory()), "");
+    std::promise<void> disk;
+    const std::shared_future<void> answer = disk.get_future().share();
+    start_work(
+        browser(), copied_bytes,
+        [=](Progress& /*progress*/) {
+            answer.wait();
+            return true;
+        },
+        [](bool) { browser().set_left_footer("copied"); });
+    QTest::keyClick(&view(), Qt::Key_F5);
+    EXPECT_EQ(browser().left_footer(), "A file is being copied. Escape stops it.");
+    EXPECT_EQ(after([&] { disk.set_value(); }), "copied");
 }
 
 TEST_F(FileListWindows, ShowsColumnsAndItsMenuAtTheRow) {

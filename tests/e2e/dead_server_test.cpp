@@ -35,6 +35,15 @@ TEST_F(DeadServer, HoldsUpNothingButTheShell) {
     display().click(item.place());
     expect_awaited(left, std::string("Number of files displayed: 1"));
     EXPECT_EQ(field(browser, "Directory:"), home_ / "alive");
+    // While the dead one is asked for again, the list answers keys.
+    ASSERT_TRUE(browser.find({"text", "Directory:"}).set_text((home_ / "dead").string()));
+    ASSERT_TRUE(focus(browser, "Directory:"));
+    display().press_key("Return");
+    display().click(browser.find({"list item", "file"}).place());
+    expect_awaited([&] { return field(browser, "File Name:"); }, std::string("file"));
+    display().press_key("Up");
+    expect_awaited([&] { return field(browser, "File Name:"); }, std::string(".."));
+    EXPECT_EQ(left(), "");
 }  // the program ends in time
 
 }  // namespace

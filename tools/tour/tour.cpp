@@ -84,7 +84,6 @@ constexpr std::array stops{
     Stop{"Setup", "Status Display", "Status Display", "status-display"},
     Stop{"Setup", "Bookmarks", "Bookmarks", "bookmarks"},
     Stop{"Setup", "Command List", "Command List Setup", "command-list-setup"},
-    Stop{"Browse", "File List", "File List Browser", "file-list"},
     Stop{"Browse", "Command History", "Command History Manager", "command-history"},
     Stop{"Browse", "Message Board", "Message Board", "message-board"},
     Stop{"Browse", "Notebook", "Notebook", "notebook"},
@@ -135,6 +134,31 @@ class Tour {
         }
         take_window(title, picture);
     }
+    /// A directory with size and time, and the menu at one of its rows.
+    void show_file_list(const fs::path& directory, const std::string& row) {
+        const std::string title = "File List Browser";
+        const Accessible window = program_.open(display_, "Browse", "File List", title);
+        const Accessible field = window.find({"text", "Directory:"});
+        if (!field.set_text(directory.string()) || !field.take_focus()) {
+            give_up("\"" + title + "\" takes no directory");
+        }
+        display_.press_key("Return");
+        if (!wait_until([&] { return static_cast<bool>(window.find({"list item", row})); })) {
+            give_up("\"" + title + "\" does not list " + row);
+        }
+        display_.click(window.find({"list item", row}).place());
+        if (!wait_until([&] { return window.find({"text", "File Name:"}).text() == row; })) {
+            give_up("\"" + title + "\" does not take " + row);
+        }
+        for (const auto& keys : {std::array{"Menu", "Up", "Right", "Return", ""},
+                                 std::array{"Menu", "Up", "Right", "Down", "Return"}}) {
+            press_keys(keys);
+        }
+        take_window(title, "file-list");
+        press_keys(std::array{"Menu", "Up", "Right"});
+        take_desktop("file-list-menu");
+        press_keys(std::array{"Escape", "Escape", "Escape"});
+    }
     /// Opens menus, item by item, and leaves them open for the picture.
     void show_menu(const char* menu, const char* item, const std::string& picture) {
         if (!program_.choose(display_, menu, {item})) {
@@ -163,6 +187,14 @@ class Tour {
     void take_desktop(const std::string& picture) { take(picture, ""); }
 
   private:
+    template <typename Keys>
+    void press_keys(const Keys& keys) {
+        for (const std::string_view key : keys) {
+            if (!key.empty()) {
+                display_.press_key(key);
+            }
+        }
+    }
     void take(const std::string& picture, const std::string& crop) {
         std::this_thread::sleep_for(std::chrono::milliseconds{300});  // painting is not announced
         const fs::path file = folder_ / (picture + ".png");
@@ -194,6 +226,7 @@ void play(Tour& tour, const fs::path& home) {
     for (const Stop& stop : stops) {
         tour.show_popup(stop);
     }
+    tour.show_file_list(home / "src", "build.sh");
     tour.choose("My Tools", "Biggest files");
     tour.show_menu("Edit", "Current", "edit-menu");
     tour.show_menu("BM", "Scripts", "bookmark-menu");
