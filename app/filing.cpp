@@ -9,6 +9,7 @@
 
 #include "app/typed_command.h"
 #include "settings/history.h"
+#include "shell/door.h"
 #include "ui/command_history_setup.h"
 #include "ui/default_settings.h"
 #include "ui/main_window.h"
@@ -72,7 +73,7 @@ void file_from_prompt(const TerminalPane::CurrentLine& line) {
 
 void line_left(const TerminalPane::CurrentLine& line) {
     TerminalPane& terminal = main_window().termpane;
-    if (terminal.shows_alternate_screen()) {
+    if (terminal.use().full_screen) {
         return;
     }
     std::erase_if(awaited, [&](const Awaited& command) { return command.shell != terminal.child(); });
@@ -104,21 +105,28 @@ bool is_at_prompt(const CurrentCommand& shown, const std::optional<std::string>&
     return !awaited.front().at_prompt && (typed ? shown.text == *typed : settled);
 }
 
+/// Whether a program takes every key itself: what is typed to it cannot come to be a command.
+bool keys_belong_to_program() {
+    const PaneUse use = main_window().termpane.use();
+    return !use.reads_lines && !is_shell(waiting_lines().reader());
+}
+
 }  // namespace
 
 void file_typed_command() {
     constexpr int history_on = 0;
     TerminalPane& terminal = main_window().termpane;
-    if (command_history_setup().history_list.value() != history_on || terminal.child() < 0) {
+    if (command_history_setup().history_list.value() != history_on || keys_belong_to_program()) {
         return;
     }
     const TerminalPane::CurrentLine line = terminal.shown_line();
     const CurrentCommand shown = command_on(line);
     const std::optional<std::string> typed = terminal.typed_line();
-    const bool at_prompt = is_at_prompt(shown, typed, line.settled);
+    const bool shell_reads = is_shell(waiting_lines().reader());
+    const bool at_prompt = shell_reads && is_at_prompt(shown, typed, line.settled);
     if (at_prompt) {
         awaited.clear();  // was another program's input
-    } else if (shown.problem != CommandProblem::none) {
+    } else if (shell_reads && shown.problem != CommandProblem::none) {
         main_window().set_left_footer(problem_message(shown.problem, CommandAsker::return_key));
     }
     if ((at_prompt || (typed && !typed->empty())) && awaited.size() < most_awaited) {

@@ -3,6 +3,7 @@
 
 #include "app/notify.h"
 #include "settings/history.h"
+#include "shell/door.h"
 #include "shell/messages.h"
 #include "shell/process.h"
 #include "shell/status.h"
@@ -53,7 +54,9 @@ std::string clean_up_without_display() {
 }
 
 void Quit_button() {
-    if (!agreed(main_window(), "Do you really want to quit ?")) {
+    const bool waiting = !waiting_lines().lines().empty();
+    if (!agreed(main_window(), waiting ? "Command lines are waiting for the shell. Quit and drop them ?"
+                                       : "Do you really want to quit ?")) {
         return;
     }
     const std::string trouble = save_history_at_quit();

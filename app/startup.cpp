@@ -15,6 +15,7 @@
 #include "settings/setup_file.h"
 #include "settings/user_buttons.h"
 #include "settings/user_menu.h"
+#include "shell/door.h"
 #include "shell/files.h"
 #include "shell/hook_typing.h"
 #include "shell/login_shell.h"
@@ -24,6 +25,7 @@
 #include "shell/send.h"
 #include "shell/status.h"
 #include "shell/status_file.h"
+#include "shell/waiting_strip.h"
 #include "toolkit/application.h"
 #include "toolkit/resources.h"
 #include "ui/default_settings.h"
@@ -78,10 +80,7 @@ void make_windows(std::unique_ptr<terminal::Pty> shell) {
     ImageButton::set_picture_directory(orvik_home + "/icons");
     create_main_window();
     apply_geometry_option(main_window());
-    // A shell that takes its time is read once it is there; one that the user has restarted knows no hook
-    // yet.
-    main_window().termpane.set_events(
-        {.ready = [] { SetupTimer(refresh_after_login); }, .restarted = [] { (void)type_prompt_hooks(); }});
+    watch_for_shell([] { (void)type_prompt_hooks(); });  // a shell that is started again knows no hook yet
     main_window().termpane.start(login_shell(), std::move(shell));
     create_popups();  // while the shell starts
 }
@@ -119,6 +118,7 @@ void read_resources() {
     set_pointer_limits(multiclick_timeout, drag_threshold);
     const std::string visual_bell = defaults_get_string("orvik.visualBell", "Orvik.VisualBell", "on");
     main_window().termpane.set_visual_bell(visual_bell == "off" ? VisualBell::off : VisualBell::on);
+    waiting_lines().set_hold(defaults_get_string("orvik.holdLines", "Orvik.HoldLines", "on") != "off");
     main_window().termpane.permit(
         {.checksum = defaults_get_boolean("orvik.allowChecksum", "Orvik.AllowChecksum"),
          .window_operations = defaults_get_boolean("orvik.allowWindowOps", "Orvik.AllowWindowOps"),

@@ -7,6 +7,7 @@
 #include "app/selection_commands.h"
 #include "settings/history.h"
 #include "settings/user_buttons.h"
+#include "shell/door.h"
 #include "shell/status.h"
 #include "ui/default_settings.h"
 #include "ui/function_keys.h"
@@ -101,8 +102,8 @@ bool termpane_event_proc2(KeyEvent& event, const EditingKey& key) {
     return key.when_disabled != Action::to_shell;
 }
 
-/// Sees every key before the terminal pane does; whether it is done with. While a full-screen program is at
-/// work, all keys are its own.
+/// Sees every key before the terminal pane does; whether it is done with. While another program than a shell
+/// reads the terminal, all keys are its own.
 bool termpane_event_proc(KeyEvent& event) {
     if (event.kind == KeyEvent::Kind::release) {
         if (is_return(event)) {
@@ -110,17 +111,21 @@ bool termpane_event_proc(KeyEvent& event) {
         }
         return false;
     }
-    if (main_window().termpane.shows_alternate_screen()) {
-        return false;
-    }
     if (is_return(event)) {
         file_typed_command();
+        waiting_lines().user_ended_line();
+        return false;
+    }
+    if (main_window().termpane.use().full_screen) {
         return false;
     }
     if (event.is_control('s')) {
         main_window().set_right_footer("Screen is locked. Use ^Q to unlock.");
     } else if (event.is_control('q')) {
         main_window().set_right_footer("");
+    }
+    if (!is_shell(waiting_lines().reader())) {
+        return false;
     }
     const bool editing = default_settings().command_line_editing.value() == editing_enabled;
     for (const ToolKey& key : tool_keys) {

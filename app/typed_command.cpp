@@ -3,7 +3,6 @@
 #include "app/typed_command.h"
 
 #include "shell/door.h"
-#include "ui/default_settings.h"
 #include "ui/main_window.h"
 
 #include <array>
@@ -25,29 +24,7 @@ constexpr std::array problem_texts{
     ProblemText{CommandProblem::nothing_typed, "No command found", "No command"},
 };
 
-template <typename Function>
-auto with_prompt_settings(Function function) {
-    const DefaultSettings& settings = default_settings();
-    const std::string prompt = settings.prompt.text();
-    const std::string delimiter = settings.prompt_ending_delimiter.text();
-    return function(PromptSettings{.look_for_delimiter = settings.look_for_ending_delimiter.value(),
-                                   .prompt = prompt,
-                                   .delimiter = delimiter});
-}
-
 }  // namespace
-
-CurrentCommand command_on(const TerminalPane::CurrentLine& line) {
-    return with_prompt_settings(
-        [&](const PromptSettings& settings) { return find_command(line.before + line.behind, settings); });
-}
-
-std::optional<std::string> text_before_command(const TerminalPane::CurrentLine& line,
-                                               std::string_view command) {
-    return with_prompt_settings([&](const PromptSettings& settings) {
-        return text_before_command(line.before + line.behind, settings, command);
-    });
-}
 
 Message problem_message(CommandProblem problem, CommandAsker asker) {
     for (const ProblemText& known : problem_texts) {
@@ -59,10 +36,11 @@ Message problem_message(CommandProblem problem, CommandAsker asker) {
 }
 
 TakenCommand take_typed_command(CommandAsker asker) {
-    if (main_window().termpane.shows_alternate_screen()) {  // a full-screen program's text, and its keys
+    TerminalPane& terminal = main_window().termpane;
+    if (terminal.use().full_screen || !is_shell(waiting_lines().reader())) {  // another program's text
         return {.refusal = "Couldn't get full line"};
     }
-    const TerminalPane::CurrentLine line = main_window().termpane.current_line();
+    const TerminalPane::CurrentLine line = terminal.current_line();
     CurrentCommand command = command_on(line);
     if (command.problem != CommandProblem::none) {
         return {.refusal = problem_message(command.problem, asker)};

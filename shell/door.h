@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "shell/waiting_lines.h"
 #include "toolkit/notify.h"
 
 #include <cstdint>
+#include <functional>
 #include <string_view>
 
 // The one door to the user's shell: whatever the tool types goes through here. Features compose a
@@ -12,10 +14,17 @@
 /// Where a line's line feeds stand.
 enum class LineFeeds : std::uint8_t { behind, before_and_behind };
 
-/// Types a text followed by a line feed. Returns an empty message, or why it was not typed: it holds a
-/// control character, or is longer than the shell's terminal takes in one line.
+/// Types a text followed by a line feed; it waits where no shell reads. Returns an empty message, or why it
+/// is not typed: it holds a control character, is longer than the shell's terminal takes in one line, or the
+/// shell has ended.
 [[nodiscard]] Message type_line(std::string_view text, LineFeeds line_feeds = LineFeeds::behind);
-/// Types a text that its user is to complete; refusals as above.
+/// Types a text that its user is to complete, whatever runs; refusals as above.
 [[nodiscard]] Message type_text(std::string_view text);
 /// Types one control character: "U" for ^U.
 void type_control(char letter);
+
+/// The lines that wait for the shell.
+[[nodiscard]] WaitingLines& waiting_lines();
+/// Begins with none, for a terminal whose shell is yet to be started. `changed` is called when what waits has
+/// changed.
+void begin_waiting_lines(std::function<void()> changed);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/hook_typing.h"
 
+#include "shell/door.h"
 #include "shell/notify.h"
 #include "shell/process.h"
 #include "shell/send.h"
@@ -19,6 +20,7 @@ std::vector<PromptHook> type_prompt_hooks() {
         environment_setup().precmd.show_beginning();
         if (status_display().display.value() == StatusDisplay::display_on &&
             send_at_startup(CommandLine::of_user(hook.text), refresh_after_login)) {
+            waiting_lines().hook_typed();
             typed.push_back(std::move(hook));
         }
     }

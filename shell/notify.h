@@ -8,6 +8,17 @@
 // Main window: the button that types the prompt hook.
 Message BaseWindowSetAlias();
 
+// Main window: the strip of the command lines that wait for the shell.
+void SendFirstWaitingLine();
+void DropWaitingLines();
+/// Shows the list of them, or hides it.
+void ShowWaitingLines();
+Message DropWaitingLine();
+/// Gives the terminal the keyboard back.
+void leave_waiting_lines();
+/// The watch over them, while there are any.
+void look_after_waiting_lines();
+
 // "Status Display".
 void StatusDisplayEnable();
 Message StatusDisplayOnOff();

@@ -18,7 +18,6 @@ Message send(const CommandLine& line, Remember remember) {
     if (remember == Remember::last_command) {
         default_settings().last_command.set_text(composed.text);
     }
-    SetupTimer(refresh_after_command);
     return {};
 }
 

@@ -9,8 +9,8 @@
 /// What "Last Command:" holds afterwards.
 enum class Remember : std::uint8_t { nothing, last_command };
 
-/// Types a line into the user's shell and has the shell's state shown afterwards. Returns an empty message,
-/// or why it was not typed: nothing has happened then.
+/// Gives a line to the user's shell, when that is ready, and has the shell's state shown afterwards. Returns
+/// an empty message, or why it was not typed: nothing has happened then.
 [[nodiscard]] Message send(const CommandLine& line, Remember remember = Remember::nothing);
 
 /// The same at start-up, where nobody sees a footer: a refusal goes to the Message Board. The shell's state

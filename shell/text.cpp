@@ -130,6 +130,10 @@ std::string remove_comments2(std::string_view text) {
 
 std::string remove_nl(std::string_view text) { return std::string(text.substr(0, text.find('\n'))); }
 
+std::string remove_line_feeds(std::string_view text) {
+    return remove_nl(text.substr(std::min(text.find_first_not_of('\n'), text.size())));
+}
+
 std::string ConvertSpaces(std::string_view text) {
     std::string result;
     for (const char c : text) {

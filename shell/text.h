@@ -35,6 +35,8 @@ std::string remove_comments1(std::string_view text);
 std::string remove_comments2(std::string_view text);
 /// Cut at the first line feed.
 std::string remove_nl(std::string_view text);
+/// Without the line feeds in front, and cut at the next one.
+std::string remove_line_feeds(std::string_view text);
 /// With a backslash before every blank.
 std::string ConvertSpaces(std::string_view text);
 /// Case conversion of every ASCII letter; other bytes stay.

@@ -263,13 +263,18 @@ std::string Pty::control_characters() const {
     return characters;
 }
 
-bool Pty::reads_lines() const { return has_local_mode(ICANON); }
-
-bool Pty::echoes() const { return has_local_mode(ECHO); }
-
-bool Pty::has_local_mode(tcflag_t mode) const {
+TerminalUse Pty::use() const {
     termios modes{};
-    return tcgetattr(master_, &modes) == 0 && (modes.c_lflag & mode) != 0;
+    (void)tcgetattr(master_, &modes);  // all off where it fails
+    return {.reads_lines = (modes.c_lflag & ICANON) != 0,
+            .echoes = (modes.c_lflag & ECHO) != 0,
+            .translates_return = (modes.c_iflag & ICRNL) != 0,
+            .group = tcgetpgrp(master_)};
+}
+
+bool Pty::asks_for_password() const {
+    const TerminalUse now = use();
+    return now.reads_lines && !now.echoes;
 }
 
 }  // namespace terminal

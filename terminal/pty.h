@@ -24,6 +24,18 @@ struct Program {
     std::string directory;                 ///< where it starts
 };
 
+/// How a terminal is used at a moment, as the kernel tells it.
+struct TerminalUse {
+    bool reads_lines = true;  ///< canonical mode (ICANON): the kernel cuts a line at 4,095 bytes
+    bool echoes = true;       ///< what is typed is shown (ECHO): not while a program asks for a password
+    /// Return is given as a line feed (ICRNL). Line editors turn that off, as do most programs that take the
+    /// whole screen; pagers and questions for one key leave it on.
+    bool translates_return = true;
+    pid_t group = -1;  ///< the foreground process group; 0 or -1 where no program has the terminal
+
+    bool operator==(const TerminalUse&) const = default;
+};
+
 /// A pseudo terminal's master side with the program that runs on the other. Non-blocking. Closing it hangs
 /// the program up. The program inherits descriptors 0, 1 and 2 only, default signal handling, and the pty as
 /// its controlling terminal.
@@ -62,16 +74,12 @@ class Pty {
 
     /// The line discipline's special characters in force (interrupt, erase, ...), without disabled ones.
     [[nodiscard]] std::string control_characters() const;
-    /// Whether a program reads lines (ICANON): the kernel then cuts a line at 4,095 bytes.
-    [[nodiscard]] bool reads_lines() const;
-    /// The process group in the terminal's foreground; none (0 or -1) where no program has it.
-    [[nodiscard]] pid_t foreground_group() const { return tcgetpgrp(master_); }
-    /// Whether what is typed is shown (ECHO): not while a program asks for a password.
-    [[nodiscard]] bool echoes() const;
+    [[nodiscard]] TerminalUse use() const;
+    /// A program reads a line without showing it.
+    [[nodiscard]] bool asks_for_password() const;
 
   private:
     Pty() = default;
-    [[nodiscard]] bool has_local_mode(tcflag_t mode) const;
     int master_ = -1;
     int process_ = -1;
     pid_t child_ = -1;

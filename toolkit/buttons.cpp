@@ -57,6 +57,8 @@ void Button::set_tool_tip(std::string_view text) {
 
 void Button::leave_focus() { widget_->setFocusPolicy(Qt::TabFocus); }
 
+void Button::set_shown(bool shown) { widget_->setVisible(shown); }
+
 ImageButton::ImageButton(Container& parent, std::string_view accessible_name, std::string_view picture,
                          Notify notify) {
     auto* button = new QToolButton(parent.widget());

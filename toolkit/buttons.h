@@ -21,6 +21,7 @@ class Button {
     void set_tool_tip(std::string_view text);
     /// A click leaves the keyboard where it is; the Tab key still gets to the button.
     void leave_focus();
+    void set_shown(bool shown);
 
   private:
     QPushButton* widget_;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "toolkit/message_item.h"
 
+#include "toolkit/footer.h"
 #include "toolkit/text_conversion.h"
 
 #include <QLabel>
@@ -27,6 +28,14 @@ void MessageItem::set_text(std::string_view text) {
     widget_->setText(visible_text(text));
     widget_->setAccessibleName(to_qstring(text));
 }
+
+ShortenedText::ShortenedText(Row& row, std::string_view label)
+    : widget_(new Footer(to_qstring(label), Qt::AlignLeft, row.widget())) {
+    widget_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    row.add({}, widget_, Place::line);
+}
+
+void ShortenedText::set_text(std::string_view text) { widget_->set_full_text(to_qstring(text)); }
 
 Heading::Heading(Container& parent, std::string_view label) {
     QLabel* line = make_line(parent, label, Place::field);

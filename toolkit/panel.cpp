@@ -95,6 +95,10 @@ void Row::set_height(int pixels) {
     }
 }
 
+void Row::set_shown(bool shown) { widget_->setVisible(shown); }
+
+bool Row::is_shown() const { return !widget_->isHidden(); }
+
 void Row::add(std::string_view label, QWidget* control, Place /*place*/) {
     if (!label.empty()) {
         if (layout_->count() > 0) {

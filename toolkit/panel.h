@@ -66,6 +66,8 @@ class Row : public Container {
     void add(std::string_view label, QWidget* control, Place place) override;
     /// In pixels; controls for which that is too little are hidden.
     void set_height(int pixels);
+    void set_shown(bool shown);
+    [[nodiscard]] bool is_shown() const;
     [[nodiscard]] QWidget* widget() const override { return widget_; }
 
   private:

@@ -59,11 +59,12 @@ class SelectionAsker {
         return answer;
     }
 
-    [[nodiscard]] bool is_held(std::string_view selection) const {
+    /// The window that holds a selection; none where nobody does.
+    [[nodiscard]] xcb_window_t holder(std::string_view selection) const {
         const auto cookie = xcb_get_selection_owner(connection_.get(), atom(selection));
         const Freed<xcb_get_selection_owner_reply_t> reply(
             xcb_get_selection_owner_reply(connection_.get(), cookie, nullptr));
-        return reply && reply->owner != XCB_NONE;
+        return reply ? reply->owner : xcb_window_t{XCB_NONE};
     }
 
   private:
@@ -228,24 +229,28 @@ Names names_of(SelectionName name) {
                                           : Names{QClipboard::Clipboard, "CLIPBOARD"};
 }
 
-bool is_own(QClipboard::Mode mode) {
-    const QClipboard& clipboard = *QGuiApplication::clipboard();
-    return mode == QClipboard::Selection ? clipboard.ownsSelection() : clipboard.ownsClipboard();
+/// Whether a window is one of Qt's. The server is asked who holds a selection: Qt would learn only from the
+/// event loop that another program has taken it, and wait for that one.
+bool is_own(xcb_window_t window) {
+    const auto* const x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+    if (x11 == nullptr || window == XCB_NONE) {
+        return false;
+    }
+    const xcb_setup_t* const setup = xcb_get_setup(x11->connection());
+    return (window & ~setup->resource_id_mask) == setup->resource_id_base;
 }
 
 }  // namespace
 
-bool selection_inquire(SelectionName name) {
-    const auto [mode, atom] = names_of(name);
-    return is_own(mode) || asker().is_held(atom);
-}
+bool selection_inquire(SelectionName name) { return asker().holder(names_of(name).atom) != XCB_NONE; }
 
 SelectionAnswer selection_ask(std::size_t longest, SelectionName name) {
-    if (!selection_inquire(name)) {
+    const auto [mode, atom] = names_of(name);
+    const xcb_window_t holder = asker().holder(atom);
+    if (holder == XCB_NONE) {
         return {};
     }
-    const auto [mode, atom] = names_of(name);
-    SelectionAnswer answer = is_own(mode) ? own_text(mode, longest) : asker().ask(atom, longest);
+    SelectionAnswer answer = is_own(holder) ? own_text(mode, longest) : asker().ask(atom, longest);
     return answer.text.size() <= longest ? answer : SelectionAnswer{Kind::too_long, {}};
 }
 

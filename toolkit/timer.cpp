@@ -38,3 +38,14 @@ void notify_set_itimer_func(Frame& client, void (*notify)(), const itimerval& va
         std::chrono::seconds(value.it_value.tv_sec) + std::chrono::microseconds(value.it_value.tv_usec);
     timer.start(std::chrono::duration_cast<std::chrono::milliseconds>(period));
 }
+
+Ticker::Ticker(Frame& frame, int milliseconds, void (*notify)()) : timer_(new QTimer(frame.widget())) {
+    timer_->setInterval(milliseconds);
+    QObject::connect(timer_, &QTimer::timeout, timer_, [notify] { notify(); });
+}
+
+void Ticker::set_on(bool on) {
+    if (on != timer_->isActive()) {
+        on ? timer_->start() : timer_->stop();
+    }
+}

@@ -24,8 +24,12 @@ TEST_PACKAGES=(
     "${RUN_PACKAGES[@]}" "${DISPLAY_PACKAGES[@]}"
     libgtest-dev libbenchmark-dev
     bash tcsh ksh zsh dash busybox fish
-    procps xclip
+    procps xclip less vim-tiny python3-minimal openssh-client
 )
+
+# What only a machine for tests should have: it starts a service, so ./test leaves it to its user, and what
+# needs it is skipped.
+CI_PACKAGES=(openssh-server)
 
 # What checks the form of the code.
 TIDY_PACKAGES=(clang-format clang-tidy)

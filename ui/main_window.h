@@ -9,8 +9,12 @@
 #include "toolkit/fields.h"
 #include "toolkit/frame.h"
 #include "toolkit/menu_button.h"
+#include "toolkit/message_item.h"
 #include "toolkit/pane/pane.h"
 #include "toolkit/panel.h"
+#include "toolkit/scrolling_list.h"
+#include "toolkit/strip.h"
+#include "toolkit/timer.h"
 #include "ui/menus.h"
 
 #include <memory>
@@ -28,6 +32,14 @@ struct MainWindow : Frame {
             button->share_width();
             button->leave_focus();
         }
+        for (Button* button : {&show_waiting, &send_waiting, &drop_waiting}) {
+            button->leave_focus();
+        }
+        show_waiting.set_tool_tip("All lines that wait; each can be dropped alone");
+        send_waiting.set_tool_tip("Give the first line to whatever runs");
+        drop_waiting.set_tool_tip("Drop all lines that wait");
+        waiting_list.set_display_size(20, 4);
+        waiting_rows.set_shown(false);
         bookmark_menu.set_tool_tip("Bookmarks: none yet, see \"Bookmarks\" in the \"Setup\" menu");
         resize(normal_width, normal_height);
     }
@@ -84,6 +96,17 @@ struct MainWindow : Frame {
     Button user_button_4{user_button_row, "Button4", UserButton4};
     Button user_button_5{user_button_row, "Button5", UserButton5};
     Button user_button_6{user_button_row, "Button6", UserButton6};
+
+    Strip waiting{*this, "waiting lines", leave_waiting_lines};
+    Row waiting_row{waiting};
+    ShortenedText waiting_text{waiting_row, "waiting lines"};
+    Button show_waiting{waiting_row, "Show", ShowWaitingLines};
+    Button send_waiting{waiting_row, "Send Now", SendFirstWaitingLine};
+    Button drop_waiting{waiting_row, "Drop", DropWaitingLines};
+    Row waiting_rows{waiting};
+    ScrollingList waiting_list{waiting_rows, "waiting lines list"};
+    Button drop_one_waiting{waiting_rows, "Drop Line", DropWaitingLine};
+    Ticker waiting_watch{*this, 50, look_after_waiting_lines};
 
     TerminalPane termpane{*this, "terminal"};
 };

@@ -55,8 +55,8 @@ TEST_P(Hook, IsTypedAndShown) {
     setup_.options = GetParam().options;
     home_.write("Orvik.setup", GetParam().setup);
     start_with_recording_shell(GetParam().shell);
-    type("end\n");  // typed last, so nothing can follow unseen
-    expect_typed(with_status(GetParam().typed) + "end\r");
+    send("end");  // behind all that waits, so nothing can follow unseen
+    expect_typed(with_status(GetParam().typed) + "end\n");
     EXPECT_EQ(field(open_window("Environment Setup Window"), "Precmd:"), with_status(GetParam().precmd));
 }
 

@@ -211,18 +211,31 @@ TEST_F(Keys, FunctionKeysActOnTheSelection) {
     expect_in_terminal("!echo sele");
 }
 
-TEST_F(Keys, BelongToAFullScreenProgram) {
+TEST_F(Keys, BelongToTheProgramThatReadsThem) {
     start_bash({{editing_line, "0"}});
-    type("printf '\\033[?1049hfull screen\\n'; cat -v\n");
-    ASSERT_TRUE(wait_until([this] { return terminal_shows("full screen") && !terminal_shows("printf"); }))
-        << terminal_.text();
-    for (const char* key : {"Up", "F1", "F7", "Insert"}) {
-        press(key);
+    const std::string programs[] = {
+        R"(printf '\033[?1049h\033[Hgo\n'; cat -v; printf '\033[?1049l')",  // takes the whole screen
+        R"(clear; echo go; cat -v)",                                        // reads lines
+        R"(clear; echo go; stty raw -echo isig; cat -v)",                   // reads keys
+    };
+    for (const std::string& program : programs) {
+        SCOPED_TRACE(program);
+        type(program + '\n');
+        ASSERT_TRUE(wait_until([this] { return terminal_.text().starts_with("go"); })) << terminal_.text();
+        const std::string before = left_footer();
+        for (const char* key : {"Up", "F1", "F7", "Insert"}) {
+            press(key);
+        }
+        press_control("x");
+        type("> echo input\n");
+        expect_in_terminal("^[[A^[OP^[[18~^[[2~^X> echo input");
+        EXPECT_EQ(left_footer(), before);
+        press_control("c");
+        expect_prompt("ready> ");
+        type("stty sane; clear\n");
+        ASSERT_TRUE(wait_until([this] { return terminal_.text() == "ready> "; })) << terminal_.text();
     }
-    press_control("x");
-    press("Return");
-    expect_in_terminal("^[[A^[OP^[[18~^[[2~^X\n");
-    EXPECT_EQ(left_footer(), "");
+    EXPECT_EQ(history().find("input"), std::string::npos) << history();
 }
 
 }  // namespace

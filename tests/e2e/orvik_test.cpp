@@ -96,6 +96,14 @@ void OrvikTest::type(std::string_view text) {
     display().type(text);
 }
 
+void OrvikTest::send(const std::string& command) const {
+    const Accessible field = main_.find({"text", "Command:"});
+    ASSERT_TRUE(field.take_focus());
+    ASSERT_TRUE(wait_until([&] { return field.focused(); }));
+    ASSERT_TRUE(field.set_text(command));
+    display().press_key("Return");
+}
+
 bool OrvikTest::terminal_shows(std::string_view text) const {
     constexpr int screenful = 8000;
     return terminal_.last_text(screenful).find(text) != std::string::npos;

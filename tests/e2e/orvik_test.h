@@ -53,6 +53,8 @@ class OrvikTest : public testing::Test {
 
     /// Types with the keyboard into the terminal pane.
     void type(std::string_view text);
+    /// Gives the tool a command to send, in "Command:".
+    void send(const std::string& command) const;
     [[nodiscard]] bool terminal_shows(std::string_view text) const;
     void expect_in_terminal(std::string_view text) const;
     void expect_typed(const std::string& expected) const {

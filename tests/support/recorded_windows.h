@@ -3,6 +3,7 @@
 
 #include "shell/door.h"
 #include "shell/process.h"
+#include "shell/waiting_strip.h"
 #include "tests/support/scratch_directory.h"
 #include "tests/support/wait_until.h"
 #include "toolkit/text_conversion.h"
@@ -30,6 +31,8 @@ class RecordedWindows : public testing::Test {
         shell_name = "/bin/bash";
         user_shell = {.family = ShellFamily::bash, .utf8 = true};
         create_windows();
+        watch_for_shell([] {});
+        waiting_lines().set_hold(false);
         const std::string script = "stty raw -echo; : >typed; touch ready; exec cat >>typed";
         main_window().termpane.start({"/bin/sh", {"sh", "-c", script}, {"PATH=/usr/bin:/bin"}, home.path()});
         ASSERT_TRUE(wait([this] { return std::filesystem::exists(home / "ready"); }));

@@ -121,15 +121,17 @@ TEST(Pty, ProgramHasDefaultSignalsAndAUsualControllingTerminal) {
 }
 
 TEST(Pty, LineDisciplineIsSeenFromOutside) {
-    Running shell("stty intr ^G kill undef; echo lines; read go; stty -icanon; echo raw; read go");
+    Running shell("stty intr ^G kill undef; echo lines; read go; stty raw; echo raw; read go");
     ASSERT_TRUE(shell.run_until_output("lines"));
-    EXPECT_TRUE(shell->reads_lines());
+    EXPECT_EQ(shell->use(), (TerminalUse{.group = shell->child()}));
     const std::string characters = shell->control_characters();
     EXPECT_NE(characters.find('\a'), std::string::npos);
     EXPECT_EQ(characters.find_first_of(std::string_view("\x03\x15\0", 3)), std::string::npos);
     shell->write("\n");
     ASSERT_TRUE(shell.run_until_output("raw"));
-    EXPECT_FALSE(shell->reads_lines());
+    const TerminalUse raw = shell->use();
+    EXPECT_FALSE(raw.reads_lines || raw.translates_return);
+    EXPECT_TRUE(raw.echoes);
 }
 
 TEST(Pty, ClosingHangsUpAndLeavesNoZombie) {

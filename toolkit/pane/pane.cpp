@@ -98,7 +98,11 @@ PaneWidget::PaneWidget(QWidget* parent)
     view_->set_menu_callback([this](QPoint place) { show_menu(place); });
     view_->set_find_callback([this] { find_bar_->open(); });
     session_.set_events(
-        {.changed = [this] { view_->content_changed(); },
+        {.changed =
+             [this] {
+                 view_->content_changed();
+                 call(events_.output);
+             },
          .bell =
              [this] {
                  if (ring()) {
@@ -223,19 +227,27 @@ int TerminalPane::columns() const { return pane_->session().terminal().size().co
 
 int TerminalPane::rows() const { return pane_->session().terminal().size().rows; }
 
-bool TerminalPane::shows_alternate_screen() const {
-    return pane_->session().terminal().modes().alternate_screen;
+PaneUse TerminalPane::use() const {
+    const TerminalSession& session = pane_->session();
+    const terminal::Pty* const pty = session.pty();
+    PaneUse use{pty != nullptr ? pty->use() : terminal::TerminalUse{}};
+    use.started = session.is_started();
+    use.in_front = pty != nullptr && use.group == pty->child();
+    use.full_screen = session.terminal().modes().alternate_screen;
+    return use;
 }
 
-bool TerminalPane::reads_lines() const {
-    const terminal::Pty* const pty = pane_->session().pty();
-    return pty != nullptr && pty->reads_lines();
+std::optional<pid_t> TerminalPane::typed_to() const {
+    const TerminalSession& session = pane_->session();
+    return session.typed_line().is_begun() ? std::optional(session.typed_to()) : std::nullopt;
 }
 
 pid_t TerminalPane::child() const {
     const terminal::Pty* const pty = pane_->session().pty();
     return pty != nullptr ? pty->child() : -1;
 }
+
+bool TerminalPane::has_ended() const { return pane_->session().has_ended(); }
 
 void TerminalPane::set_events(Events events) { pane_->set_events(std::move(events)); }
 

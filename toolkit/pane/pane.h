@@ -5,6 +5,7 @@
 #include "terminal/terminal.h"
 #include "toolkit/font.h"
 #include "toolkit/pane/key_event.h"
+#include "toolkit/pane/use.h"
 #include "toolkit/panel.h"
 
 #include <cstdint>
@@ -61,16 +62,19 @@ class TerminalPane {
     void watch_lines(const std::function<void(const CurrentLine&)>& left);
     [[nodiscard]] int columns() const;
     [[nodiscard]] int rows() const;
-    /// A full-screen program is at work: keys belong to it.
-    [[nodiscard]] bool shows_alternate_screen() const;
-    /// The program reads lines: the kernel cuts one at 4,095 bytes.
-    [[nodiscard]] bool reads_lines() const;
+    [[nodiscard]] PaneUse use() const;
+    /// The process group that was in front when the line that is being typed was begun; nothing where nothing
+    /// has been typed since the last Return, ^C, or ^D in an empty line.
+    [[nodiscard]] std::optional<pid_t> typed_to() const;
     /// The program's process, -1 when none runs.
     [[nodiscard]] pid_t child() const;
+    /// The program has ended, or could not be started; Return starts it anew.
+    [[nodiscard]] bool has_ended() const;
 
     /// What the pane tells its owner, from the event loop.
     struct Events {
         std::function<void()> bell;
+        std::function<void()> output;     ///< the program has written something, which is shown
         std::function<void()> ready;      ///< a program that was started is ready for commands
         std::function<void()> ended;      ///< it has ended and this was announced
         std::function<void()> restarted;  ///< the user has started it anew
@@ -85,9 +89,8 @@ class TerminalPane {
     friend void textsw_possibly_normalize(TerminalPane& pane);
 };
 
-/// Types text into the pane's program: in order, and nothing is lost. Before the program runs, and until it
-/// has worked through its start-up files, the text waits. Once it has ended and until Return starts a new
-/// one, text is dropped: what was meant for one shell must not run in the next.
+/// Types text into the pane's program: in order, and nothing is lost. Before the program runs, and once it
+/// has ended, text is dropped: what was meant for one shell must not run in the next.
 void ttysw_input(TerminalPane& pane, std::string_view text);
 /// Shows text in the pane only; the program does not see it.
 void ttysw_output(TerminalPane& pane, std::string_view text);

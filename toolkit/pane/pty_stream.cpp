@@ -70,7 +70,7 @@ void PtyStream::write_pending() {
 void PtyStream::await_echo() {
     const bool typing = since_key_.isValid() && !since_key_.hasExpired(recent_key_milliseconds);
     const int quiet = typing ? echo_quiet_milliseconds : 0;
-    const bool password = pty_->reads_lines() && !pty_->echoes();
+    const bool password = pty_->asks_for_password();
     int wait = password ? 0 : echo_due_ ? echo_limit_milliseconds : quiet;
     QElapsedTimer clock;
     clock.start();

@@ -14,17 +14,18 @@ constexpr milliseconds password_limit{60'000};
 
 }  // namespace
 
-void Readiness::shell_started() {
+void Readiness::shell_started(pid_t group) {
     start_ = senses_.now();
+    shell_ = group;
     last_output_.reset();
 }
 
 bool Readiness::start_up_is_over() const {
-    const Use use = senses_.use();
+    const terminal::TerminalUse use = senses_.use();
     const Clock::time_point now = senses_.now();
     const bool late = now - start_ >= start_up_limit;
     if (!use.reads_lines) {
-        return use.shell_in_front || late;  // a shell that reads characters is in its line editor
+        return use.group == shell_ || late;  // a shell that reads characters is in its line editor
     }
     if (!use.echoes) {
         return now - start_ >= password_limit;

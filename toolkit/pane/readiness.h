@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "terminal/pty.h"
+
 #include <chrono>
 #include <functional>
 #include <optional>
@@ -11,22 +13,16 @@ class Readiness {
   public:
     using Clock = std::chrono::steady_clock;
 
-    /// How the terminal is used just now.
-    struct Use {
-        bool reads_lines = true;     ///< canonical mode: a program that reads lines has no line editor
-        bool echoes = true;          ///< what is typed is shown: no password is being asked for
-        bool shell_in_front = true;  ///< the shell itself is the foreground process group
-    };
     /// Where it looks, and what time it is.
     struct Senses {
-        std::function<Use()> use;
+        std::function<terminal::TerminalUse()> use;
         std::function<Clock::time_point()> now = Clock::now;
     };
 
     explicit Readiness(Senses senses) : senses_(std::move(senses)) {}
 
-    /// A shell was started: it is busy with its start-up files.
-    void shell_started();
+    /// A shell was started, in a process group of its own: it is busy with its start-up files.
+    void shell_started(pid_t group);
     /// The terminal was written to.
     void output_came() { last_output_ = senses_.now(); }
 
@@ -36,5 +32,6 @@ class Readiness {
   private:
     Senses senses_;
     Clock::time_point start_;
+    pid_t shell_ = -1;
     std::optional<Clock::time_point> last_output_;  ///< since the start
 };

@@ -35,13 +35,21 @@ TerminalSession::TerminalSession(std::size_t scrollback_rows)
 }
 
 void TerminalSession::type(std::string_view bytes) {
-    typed_line_.type(bytes);
+    note_typed(bytes);
     life_.type(bytes);
 }
 
 void TerminalSession::submit(std::string_view bytes) {
+    note_typed(bytes);
+    life_.report(bytes);
+}
+
+void TerminalSession::note_typed(std::string_view bytes) {
+    const bool was_begun = typed_line_.is_begun();
     typed_line_.type(bytes);
-    life_.submit(bytes);
+    if (!was_begun && typed_line_.is_begun()) {
+        typed_to_ = pty() != nullptr ? pty()->use().group : -1;
+    }
 }
 
 void TerminalSession::await_echo() {
@@ -80,7 +88,7 @@ void TerminalSession::reset() {
 
 bool TerminalSession::asks_for_password() const {
     const terminal::Pty* const pty = life_.pty();
-    return pty != nullptr && pty->reads_lines() && !pty->echoes();
+    return pty != nullptr && pty->asks_for_password();
 }
 
 bool TerminalSession::update_is_open() const {

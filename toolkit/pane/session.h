@@ -53,8 +53,7 @@ class TerminalSession final : private terminal::Client {
     }
     void restart() { life_.restart(room_); }
 
-    /// Gives the program what the user types, the tool's own commands once it is ready for them, and what it
-    /// has asked to be told (`ShellLife`).
+    /// Gives the program what the user types, what the tool types, and what it has asked to be told.
     void type(std::string_view bytes);
     void submit(std::string_view bytes);
     void report(std::string_view bytes) { life_.report(bytes); }
@@ -64,6 +63,8 @@ class TerminalSession final : private terminal::Client {
     [[nodiscard]] bool echo_is_due() const;
     /// What has been typed since the last Return.
     [[nodiscard]] const TypedLine& typed_line() const { return typed_line_; }
+    /// The process group that was in front when that line was begun.
+    [[nodiscard]] pid_t typed_to() const { return typed_to_; }
     /// Calls `left` whenever the program's output is about to leave a line by a line feed; an empty function
     /// ends that.
     void watch_lines(std::function<void()> left) { line_left_ = std::move(left); }
@@ -81,6 +82,7 @@ class TerminalSession final : private terminal::Client {
     [[nodiscard]] const terminal::Pty* pty() const { return life_.pty(); }
     /// A program ran and has ended.
     [[nodiscard]] bool has_ended() const { return life_.has_ended(); }
+    [[nodiscard]] bool is_started() const { return life_.is_started(); }
     /// The program reads a line without showing it.
     [[nodiscard]] bool asks_for_password() const;
     /// The program has begun an update of the screen that should be seen whole (mode 2026), and not taken
@@ -97,6 +99,7 @@ class TerminalSession final : private terminal::Client {
     std::optional<terminal::Rgb> named_colour(std::string_view name) override;
     void selection_written(Selection selection, std::string_view text) override;
 
+    void note_typed(std::string_view bytes);
     std::size_t feed_line_by_line(std::string_view bytes);
     [[nodiscard]] std::size_t feed(std::string_view bytes);
     void do_requests();
@@ -117,6 +120,7 @@ class TerminalSession final : private terminal::Client {
     ShellLife::Room room_;
     ShellLife life_;
     TypedLine typed_line_;
+    pid_t typed_to_ = -1;
     std::function<void()> line_left_;
     QElapsedTimer update_open_;  ///< since when mode 2026 is on
 };

@@ -27,7 +27,7 @@ std::string end_text(int status) {
 }  // namespace
 
 ShellLife::ShellLife(Events events)
-    : events_(std::move(events)), readiness_({.use = [this] { return use(); }}) {
+    : events_(std::move(events)), readiness_({.use = [this] { return stream_->pty().use(); }}) {
     readiness_timer_.setInterval(readiness_interval_milliseconds);
     QObject::connect(&readiness_timer_, &QTimer::timeout, [this] { watch_readiness(); });
 }
@@ -60,7 +60,7 @@ void ShellLife::run(const Room& room, std::unique_ptr<terminal::Pty> pty) {
     open(std::move(pty));
     resize(room);
     state_ = State::starting;
-    readiness_.shell_started();
+    readiness_.shell_started(stream_->pty().child());
     readiness_timer_.start();
 }
 
@@ -112,28 +112,12 @@ void ShellLife::report(std::string_view bytes) {
     }
 }
 
-void ShellLife::submit(std::string_view bytes) {
-    if (state_ == State::idle || state_ == State::starting) {
-        held_back_.append(bytes);
-    } else {
-        report(bytes);
-    }
-}
-
-Readiness::Use ShellLife::use() const {
-    const terminal::Pty& pty = stream_->pty();
-    return {.reads_lines = pty.reads_lines(),
-            .echoes = pty.echoes(),
-            .shell_in_front = pty.foreground_group() == pty.child()};
-}
-
 void ShellLife::watch_readiness() {
     if (!readiness_.start_up_is_over()) {
         return;
     }
     readiness_timer_.stop();
     state_ = State::running;
-    stream_->write(std::exchange(held_back_, {}));
     events_.ready();
 }
 
@@ -148,7 +132,6 @@ void ShellLife::check_for_end() {
 
 void ShellLife::finish(const std::string& announcement) {
     state_ = State::ended;
-    held_back_.clear();
     drop_stream();
     events_.ended(announcement);
 }

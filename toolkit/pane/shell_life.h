@@ -47,13 +47,12 @@ class ShellLife {
     void type(std::string_view bytes);
     /// The same for what the program need not answer.
     void report(std::string_view bytes);
-    /// The same for the tool's own commands: while the program is still busy with its start-up files they are
-    /// held back, so that no question asked there takes them for the answer.
-    void submit(std::string_view bytes);
 
     /// What moves the bytes, and the pty; nullptr while no program runs.
     [[nodiscard]] PtyStream* stream() const { return stream_.get(); }
     [[nodiscard]] const terminal::Pty* pty() const { return stream_ ? &stream_->pty() : nullptr; }
+    /// The program runs and is not busy with its start-up files any more.
+    [[nodiscard]] bool is_started() const { return state_ == State::running; }
     [[nodiscard]] bool has_ended() const { return state_ == State::ended; }
 
   private:
@@ -65,14 +64,12 @@ class ShellLife {
     void watch_readiness();
     void check_for_end();
     void finish(const std::string& announcement);
-    [[nodiscard]] Readiness::Use use() const;
 
     Events events_;
     std::optional<terminal::Program> program_;
     std::unique_ptr<PtyStream> stream_;
     std::unique_ptr<QSocketNotifier> exited_;
     State state_ = State::idle;
-    std::string held_back_;  ///< submitted before the program was ready
     Readiness readiness_;
     QTimer readiness_timer_;  ///< runs until the program is ready
 };

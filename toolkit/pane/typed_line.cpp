@@ -8,6 +8,8 @@ constexpr std::size_t longest_line = 4096;
 
 constexpr char control(char letter) { return static_cast<char>(letter & 0x1F); }
 
+bool ends_line(char byte) { return byte == '\r' || byte == '\n' || byte == control('C'); }
+
 /// Takes the last character (UTF-8) off.
 void erase_character(std::string& text) {
     const auto goes_on = [](char c) { return (static_cast<unsigned char>(c) & 0xC0) == 0x80; };
@@ -29,8 +31,10 @@ void TypedLine::type(std::string_view bytes) {
 
 void TypedLine::type(char byte) {
     constexpr char delete_key = 0x7F;
+    const bool ends_input = byte == control('D') && text_ == std::string();
+    begun_ = !ends_line(byte) && !ends_input;
     const bool is_text = static_cast<unsigned char>(byte) >= ' ' && byte != delete_key;
-    if (byte == '\r' || byte == '\n' || byte == control('C')) {
+    if (ends_line(byte)) {
         text_ = std::string();
     } else if (!text_ || text_->size() == longest_line) {
         text_.reset();

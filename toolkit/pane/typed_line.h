@@ -12,8 +12,11 @@ class TypedLine {
     void type(std::string_view bytes);
     /// The line since the last Return; nothing where only the program knows.
     [[nodiscard]] const std::optional<std::string>& text() const { return text_; }
+    /// Whether anything has been typed since the last Return, ^C, or ^D in an empty line.
+    [[nodiscard]] bool is_begun() const { return begun_; }
 
   private:
     void type(char byte);
     std::optional<std::string> text_ = std::string();
+    bool begun_ = false;
 };

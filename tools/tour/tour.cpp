@@ -127,6 +127,18 @@ class Tour {
             give_up(std::string("Escape does not close \"") + stop.title + "\"");
         }
     }
+    /// A command line of the tool's waits for the editor, and is dropped.
+    void show_waiting_lines() {
+        const Accessible main = program_.main_window();
+        const auto strip = [&] { return main.find({"panel", "waiting lines"}); };
+        if (!main.find({"push button", "Status"}).press() || !wait_until([&] { return strip().showing(); })) {
+            give_up("no command line waits for the editor");
+        }
+        take_main_window("waiting-lines");
+        if (!strip().find({"push button", "Drop"}).press() || !wait_until([&] { return !strip().showing(); })) {
+            give_up("the command line is not dropped");
+        }
+    }
     /// Opens a window with a button of the main window, and leaves it open.
     void show_by_button(const std::string& button, const std::string& title, const std::string& picture) {
         if (!program_.main_window().find({"push button", button}).press() || !program_.window(title)) {
@@ -221,6 +233,7 @@ void play(Tour& tour, const fs::path& home) {
     tour.type("vi greet.cpp\n");
     tour.wait_for_text("Greets whoever");
     tour.take_main_window("editor");
+    tour.show_waiting_lines();
     tour.type(":q\n");
     tour.wait_for_text("Begin");
     for (const Stop& stop : stops) {

@@ -48,15 +48,6 @@ TEST_F(TerminalPaneTest, KeysReachTheProgramAndNotTheWindowsShortcuts) {
     EXPECT_FALSE(view().hasFocus());
 }
 
-TEST_F(TerminalPaneTest, InputBeforeTheStartWaitsAndOutputOfTheToolIsShownAtOnce) {
-    ttysw_input(pane, "one\n");
-    ttysw_input(pane, "two\n");
-    start("read a; read b; echo got $a $b");
-    ttysw_output(pane, "shown\n");
-    EXPECT_TRUE(wait_for_text("got one two")) << text();
-    EXPECT_TRUE(text().starts_with("shown\n")) << text();
-}
-
 TEST_F(TerminalPaneTest, ProgramThatWasStartedAlreadyIsTakenOver) {
     const terminal::Program program{
         "/bin/sh", {"sh", "-c", "echo early; read a; stty size"}, {"PATH=/usr/bin:/bin"}, "/"};
@@ -125,24 +116,29 @@ TEST_F(TerminalPaneTest, EndOfTheShellIsAnnouncedAndReturnStartsANewOne) {
 
 TEST_F(TerminalPaneTest, QuestionAtTheStartIsLeftToTheUser) {
     int ready = 0;
-    pane.set_events({.ready = [&ready] { ++ready; }});
+    pane.set_events({.ready = [this, &ready] {
+        ++ready;
+        ttysw_input(pane, "command\n");
+    }});
     start("stty -echo; printf 'password: '; read a; stty echo; echo; read b; echo \"got $a, $b\"");
-    ttysw_input(pane, "command\n");
+    ttysw_output(pane, "shown at once\n");
     ASSERT_TRUE(wait_for_text("password: "));
     EXPECT_FALSE(QTest::qWaitFor([&ready] { return ready > 0; }, 300)) << "however long it takes";
+    EXPECT_FALSE(pane.use().started);
     press(Qt::Key_X);
     press(Qt::Key_Return);
     EXPECT_TRUE(wait_for_text("got x, command")) << text();
+    EXPECT_TRUE(text().starts_with("shown at once\n")) << text();
     EXPECT_EQ(ready, 1);
 }
 
 TEST_F(TerminalPaneTest, KilledFullScreenProgramLeavesATidyTerminal) {
     start("printf 'before\\n\\033[?1049h\\033[?1003h\\033[?2004h\\033[H\\033[31mfull'; exec sleep 60");
-    ASSERT_TRUE(wait([this] { return pane.shows_alternate_screen() && text() == "full"; }));
+    ASSERT_TRUE(wait([this] { return pane.use().full_screen && text() == "full"; }));
     ASSERT_EQ(kill(pane.child(), SIGKILL), 0);
     EXPECT_TRUE(wait_for_text("before\n[shell ended by signal SIGKILL; press Return to start a new one]"))
         << text();
-    EXPECT_FALSE(pane.shows_alternate_screen());
+    EXPECT_FALSE(pane.use().full_screen);
     EXPECT_EQ(view().terminal().modes().mouse_tracking, terminal::MouseTracking::off);
     EXPECT_FALSE(view().terminal().modes().bracketed_paste);
 }
@@ -185,7 +181,7 @@ TEST_F(TerminalPaneTest, ViewStaysWhereTheUserScrolledItUntilAKeyIsTyped) {
     ASSERT_TRUE(wait_for_text("1100"));
     EXPECT_EQ(view().position_at({0, 0}).row, top) << "output";
     auto* bar = pane.widget()->findChild<QScrollBar*>();
-    EXPECT_LT(bar->value(), bar->maximum());
+    EXPECT_TRUE(wait([bar] { return bar->value() < bar->maximum(); }));
     press(Qt::Key_Home, Qt::ShiftModifier);
     EXPECT_EQ(view().position_at({0, 0}).row, view().terminal().first_row());
     press(Qt::Key_A);
@@ -244,10 +240,10 @@ TEST_F(TerminalPaneTest, StateOfTheShellIsKnown) {
     view().clearFocus();
     view().setFocus();
     EXPECT_TRUE(pane.current_line().settled) << "no key was typed";
-    EXPECT_TRUE(pane.reads_lines());
+    EXPECT_TRUE(pane.use().reads_lines);
     press(Qt::Key_Return);
     ASSERT_TRUE(wait_for_text("raw"));
-    EXPECT_FALSE(pane.reads_lines());
+    EXPECT_FALSE(pane.use().reads_lines);
     pane.clear();
     EXPECT_EQ(text(), "");
 }

@@ -8,10 +8,13 @@
 namespace {
 
 using std::chrono::milliseconds;
+using terminal::TerminalUse;
+
+constexpr pid_t shell = 7;
 
 struct Case {
     const char* name;
-    Readiness::Use use;
+    TerminalUse use;
     int since_start;   ///< milliseconds
     int since_output;  ///< -1: nothing was written yet
     bool over;
@@ -27,7 +30,7 @@ TEST_P(StartUp, IsOver) {
     Readiness readiness({.use = [&] { return row.use; }, .now = [&] { return now; }});
     readiness.output_came();  // of an earlier shell
     now += milliseconds(10'000);
-    readiness.shell_started();
+    readiness.shell_started(shell);
     const auto start = now;
     if (row.since_output >= 0) {
         now = start + milliseconds(row.since_start - row.since_output);
@@ -37,10 +40,10 @@ TEST_P(StartUp, IsOver) {
     EXPECT_EQ(readiness.start_up_is_over(), row.over);
 }
 
-constexpr Readiness::Use lines{};
-constexpr Readiness::Use password{.echoes = false};
-constexpr Readiness::Use editor{.reads_lines = false, .echoes = false};
-constexpr Readiness::Use other_raw{.reads_lines = false, .echoes = false, .shell_in_front = false};
+constexpr TerminalUse lines{.group = shell};
+constexpr TerminalUse password{.echoes = false, .group = shell};
+constexpr TerminalUse editor{.reads_lines = false, .echoes = false, .group = shell};
+constexpr TerminalUse other_raw{.reads_lines = false, .echoes = false, .group = 8};
 
 INSTANTIATE_TEST_SUITE_P(All, StartUp,
                          testing::Values(Case{"editor", editor, 0, -1, true},

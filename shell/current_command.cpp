@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "app/current_command.h"
+#include "shell/current_command.h"
 
 namespace {
 

@@ -1,0 +1,119 @@
+// SPDX-License-Identifier: MIT
+#include "shell/foreground.h"
+
+#include "shell/files.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <filesystem>
+#include <optional>
+
+#include <fmt/format.h>
+
+namespace {
+
+struct KnownProgram {
+    std::string_view name;
+    ProgramKind kind;
+};
+
+constexpr std::array known_programs{
+    KnownProgram{"ash", ProgramKind::shell},
+    KnownProgram{"bash", ProgramKind::shell},
+    KnownProgram{"busybox", ProgramKind::shell},
+    KnownProgram{"csh", ProgramKind::shell},
+    KnownProgram{"dash", ProgramKind::shell},
+    KnownProgram{"fish", ProgramKind::shell},
+    KnownProgram{"ksh", ProgramKind::shell},
+    KnownProgram{"ksh93", ProgramKind::shell},
+    KnownProgram{"mksh", ProgramKind::shell},
+    KnownProgram{"rbash", ProgramKind::shell},
+    KnownProgram{"sh", ProgramKind::shell},
+    KnownProgram{"tcsh", ProgramKind::shell},
+    KnownProgram{"zsh", ProgramKind::shell},
+    KnownProgram{"login", ProgramKind::far_shell},
+    KnownProgram{"mosh-client", ProgramKind::far_shell},
+    KnownProgram{"rlogin", ProgramKind::far_shell},
+    KnownProgram{"rsh", ProgramKind::far_shell},
+    KnownProgram{"slogin", ProgramKind::far_shell},
+    KnownProgram{"ssh", ProgramKind::far_shell},
+    KnownProgram{"su", ProgramKind::far_shell},
+    KnownProgram{"sudo", ProgramKind::far_shell},
+    KnownProgram{"telnet", ProgramKind::far_shell},
+    KnownProgram{"emacs", ProgramKind::full_screen},
+    KnownProgram{"htop", ProgramKind::full_screen},
+    KnownProgram{"joe", ProgramKind::full_screen},
+    KnownProgram{"mc", ProgramKind::full_screen},
+    KnownProgram{"mcedit", ProgramKind::full_screen},
+    KnownProgram{"mutt", ProgramKind::full_screen},
+    KnownProgram{"nano", ProgramKind::full_screen},
+    KnownProgram{"nvim", ProgramKind::full_screen},
+    KnownProgram{"pico", ProgramKind::full_screen},
+    KnownProgram{"screen", ProgramKind::full_screen},
+    KnownProgram{"tmux: client", ProgramKind::full_screen},
+    KnownProgram{"vi", ProgramKind::full_screen},
+    KnownProgram{"view", ProgramKind::full_screen},
+    KnownProgram{"vim", ProgramKind::full_screen},
+    KnownProgram{"vim.basic", ProgramKind::full_screen},
+    KnownProgram{"vim.tiny", ProgramKind::full_screen},
+};
+
+constexpr std::size_t largest_stat = 4096;
+
+/// The process group in the text of /proc/PID/stat: the third word behind the name, which is in brackets and
+/// may hold any.
+std::optional<pid_t> group_in(std::string_view stat) {
+    const std::size_t name_end = stat.rfind(')');
+    if (name_end == std::string_view::npos) {
+        return std::nullopt;
+    }
+    std::string_view rest = stat.substr(name_end);  // ") S 1 1234 ..."
+    for (int word = 0; word < 3; ++word) {
+        rest.remove_prefix(std::min(rest.find(' '), rest.size() - 1) + 1);
+    }
+    pid_t group = 0;
+    return std::from_chars(rest.data(), rest.data() + rest.size(), group).ec == std::errc()
+               ? std::optional(group)
+               : std::nullopt;
+}
+
+std::string name_of_process(pid_t process) {
+    std::string name = read_file(fmt::format("/proc/{}/comm", process), largest_stat).text;
+    return name.substr(0, name.rfind('\n'));
+}
+
+/// Where the leader has ended; a look at every process.
+std::string name_of_member(pid_t group) {
+    pid_t last = -1;
+    std::error_code error;
+    for (const auto& entry : std::filesystem::directory_iterator("/proc", error)) {
+        const std::string number = entry.path().filename();
+        pid_t process = 0;
+        const char* const end = number.data() + number.size();
+        if (std::from_chars(number.data(), end, process).ptr == end && process > last &&
+            group_in(read_file(entry.path() / "stat", largest_stat).text) == group) {
+            last = process;
+        }
+    }
+    return last > 0 ? name_of_process(last) : "";
+}
+
+}  // namespace
+
+ProgramKind kind_of_program(std::string_view name) {
+    for (const KnownProgram& known : known_programs) {
+        if (known.name == name) {
+            return known.kind;
+        }
+    }
+    return ProgramKind::other;
+}
+
+std::string program_name(pid_t group) {
+    if (group <= 0) {
+        return {};
+    }
+    std::string name = name_of_process(group);
+    return name.empty() ? name_of_member(group) : name;
+}
