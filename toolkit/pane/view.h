@@ -17,6 +17,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
 class QHelpEvent;
@@ -150,10 +151,11 @@ class TerminalView final : public QWidget {
     Blinking blinking_;
     FramePacer frames_;
 
-    TerminalSelection match_;  ///< the find bar's
-    QTimer settle_timer_;      ///< runs while the window follows the terminal's size
-    QSize settled_size_;       ///< ours when it has
-    bool laid_out_ = false;    ///< has a size of its own; till then the terminal keeps the standard one
+    TerminalSelection match_;           ///< the find bar's
+    QTimer settle_timer_;               ///< runs while the window follows the terminal's size
+    QSize settled_size_;                ///< ours when it has
+    std::optional<QRect> unmaximized_;  ///< the window before it was maximised one way only
+    bool laid_out_ = false;  ///< has a size of its own; till then the terminal keeps the standard one
 
     std::function<bool(KeyEvent&)> interposer_;
     QMenu* menu_;

@@ -3,6 +3,8 @@
 
 #include <QScreen>
 
+#include <utility>
+
 // The window around the terminal view, as a program in the terminal may know and, where the user permits it,
 // change it.
 
@@ -59,6 +61,16 @@ void TerminalView::perform(const terminal::WindowRequest& request) {
     const auto state = [&top](Qt::WindowState flag, bool on) {
         top.setWindowState(top.windowState().setFlag(flag, on));
     };
+    const auto place = [&top](const QRect& area) {
+        top.move(area.topLeft());
+        top.resize(area.size());
+    };
+    // Window managers know no state that is both: size and place are kept here.
+    const auto note_unmaximized = [&] {
+        if (!unmaximized_) {
+            unmaximized_ = QRect(top.pos(), top.size());
+        }
+    };
     const QRect available = screen()->availableGeometry();
     const QSize frame = top.frameGeometry().size() - top.size();
     switch (request.kind) {
@@ -74,14 +86,18 @@ void TerminalView::perform(const terminal::WindowRequest& request) {
         case Kind::refresh:
             return update();
         case Kind::unmaximize:
+            if (const auto before = std::exchange(unmaximized_, std::nullopt)) {
+                return place({before->topLeft(), before->size()});
+            }
+            return state(Qt::WindowMaximized, false);
         case Kind::maximize:
-            return state(Qt::WindowMaximized, request.kind == Kind::maximize);
+            return state(Qt::WindowMaximized, true);
         case Kind::maximize_vertically:
-            top.move(top.x(), available.y());
-            return top.resize(top.width(), available.height() - frame.height());
+            note_unmaximized();
+            return place({{top.x(), available.y()}, QSize(top.width(), available.height() - frame.height())});
         case Kind::maximize_horizontally:
-            top.move(available.x(), top.y());
-            return top.resize(available.width() - frame.width(), top.height());
+            note_unmaximized();
+            return place({{available.x(), top.y()}, QSize(available.width() - frame.width(), top.height())});
         case Kind::leave_full_screen:
         case Kind::full_screen:
             return state(Qt::WindowFullScreen, request.kind == Kind::full_screen);

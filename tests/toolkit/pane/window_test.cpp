@@ -36,6 +36,19 @@ TEST_F(TerminalWindow, FollowsTheTerminalsSize) {
     EXPECT_TRUE(wait([&] { return view().terminal().size() == terminal::Size{62, 20}; }));
 }
 
+TEST_F(TerminalWindow, IsMaximisedOneWayAndRestored) {
+    pane.permit({.window_operations = true});
+    const QRect before(window.pos(), window.size());
+    const QSize screen = window.screen()->availableSize();
+    start_asking("\\033[9;2t");
+    EXPECT_TRUE(wait([&] { return window.height() > screen.height() - 60; })) << window.height();
+    EXPECT_EQ(window.width(), before.width());
+    ttysw_output(pane, "\033[9;3t");
+    EXPECT_TRUE(wait([&] { return window.width() > screen.width() - 60; })) << window.width();
+    ttysw_output(pane, "\033[9;0t");
+    EXPECT_TRUE(wait([&] { return QRect(window.pos(), window.size()) == before; })) << window.height();
+}
+
 TEST_F(TerminalWindow, ThatCannotGrowHasTheTerminalResizedAgain) {
     pane.permit({.window_operations = true});
     window.setMaximumSize(window.size());
