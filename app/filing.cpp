@@ -16,6 +16,7 @@
 
 #include <algorithm>
 #include <deque>
+#include <utility>
 
 namespace {
 
@@ -30,6 +31,10 @@ struct Awaited {
 constexpr std::size_t most_awaited = 1000;
 
 std::deque<Awaited> awaited;
+
+/// A line that was left with nothing but a prompt. The terminal's own echo of a Return may come between the
+/// prompt and the line editor: the command that the shell takes then stands on the next line.
+std::string bare_prompt;
 
 void file(const std::string& command) {
     record_command(command);
@@ -55,8 +60,8 @@ const std::string& without_early_echo(const std::string& shown, const std::strin
 }
 
 /// Whether a line shows what the keys tell behind the prompt.
-bool shows(const TerminalPane::CurrentLine& line, const Awaited& command) {
-    const std::optional<std::string> before = text_before_command(line, command.typed);
+bool shows(const TerminalPane::CurrentLine& line, const std::string& typed) {
+    const std::optional<std::string> before = text_before_command(line, typed);
     return before && is_early_echo(*before);
 }
 
@@ -71,6 +76,19 @@ void file_from_prompt(const TerminalPane::CurrentLine& line) {
     awaited.pop_front();
 }
 
+/// Files the command that a line shows of those typed ahead. Those before it were another program's input.
+void file_typed_ahead(TerminalPane::CurrentLine line) {
+    line.before.insert(0, std::exchange(bare_prompt, {}));
+    const auto shown =
+        std::ranges::find_if(awaited, [&](const Awaited& command) { return shows(line, command.typed); });
+    if (shown != awaited.end()) {
+        file(shown->typed);
+        awaited.erase(awaited.begin(), shown + 1);
+    } else if (shows(line, "")) {
+        bare_prompt = line.before + line.behind;
+    }
+}
+
 void line_left(const TerminalPane::CurrentLine& line) {
     TerminalPane& terminal = main_window().termpane;
     if (terminal.use().full_screen) {
@@ -80,15 +98,10 @@ void line_left(const TerminalPane::CurrentLine& line) {
     if (!awaited.empty() && awaited.front().at_prompt) {
         file_from_prompt(line);
     } else {
-        // Those before the one that is shown were another program's input.
-        const auto shown =
-            std::ranges::find_if(awaited, [&](const Awaited& command) { return shows(line, command); });
-        if (shown != awaited.end()) {
-            file(shown->typed);
-            awaited.erase(awaited.begin(), shown + 1);
-        }
+        file_typed_ahead(line);
     }
     if (awaited.empty()) {
+        bare_prompt.clear();
         terminal.watch_lines({});
     }
 }
