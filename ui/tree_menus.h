@@ -2,6 +2,7 @@
 #pragma once
 
 #include "browsers/notify.h"
+#include "commands/notify.h"
 #include "toolkit/menu.h"
 
 #include <array>
@@ -17,9 +18,20 @@ inline constexpr std::array select_root_menu_items{
 
 /// On the canvas.
 inline constexpr std::array options_menu_items{
-    MenuItem{"Auxiliary Operations :"},     MenuItem{"Bookmark", add_bookmark},
-    MenuItem{"Clear Branch", clear_branch}, MenuItem{"File Status", display_status},
-    MenuItem{"Select Files", select_files}, MenuItem{"Set New Root", set_new_root},
+    MenuItem{"File Operations :"},
+    MenuItem{"Copy to Working", copy_file_to_work},
+    MenuItem{"Move to working", move_file_to_work},
+    menu_line,
+    MenuItem{"Directory Operations :"},
+    MenuItem{"Copy to Working", copy_dir_to_work},
+    MenuItem{"Move to Working", move_dir_to_work},
+    menu_line,
+    MenuItem{"Auxiliary Operations :"},
+    MenuItem{"Bookmark", add_bookmark},
+    MenuItem{"Clear Branch", clear_branch},
+    MenuItem{"File Status", display_status},
+    MenuItem{"Select Files", select_files},
+    MenuItem{"Set New Root", set_new_root},
 };
 
 /// What no other menu carries.
