@@ -10,6 +10,7 @@
 #include "ui/file_list_browser.h"
 #include "ui/file_status.h"
 
+#include <algorithm>
 #include <array>
 
 #include <fmt/printf.h>
@@ -42,13 +43,24 @@ Message list_exactly(const std::string& directory) {
     return list_in_browser({.directory = directory, .name = Listing::Name::exact, .texts = texts_of_rows});
 }
 
+/// Lists the directory above another one, whose row the keyboard then goes on from.
+Message list_above(const std::string& above, const std::string& below) {
+    const auto go_to_row = [row = getfilename(below) + "/"](const std::string& /*path*/, int /*count*/) {
+        ScrollingList& list = file_list_browser().list;
+        const auto found = std::ranges::find(list.all_rows(), row);
+        list.go_to(static_cast<int>(found - list.all_rows().begin()));
+    };
+    return list_in_browser(
+        {.directory = above, .name = Listing::Name::exact, .texts = texts_of_rows, .listed = go_to_row});
+}
+
 /// A directory directly below the root has nothing above it, by the rule of the double click.
 Message go_up(const std::string& directory) {
     const std::string above = getdirname(directory);
     if (above.empty()) {
         file_list_browser().directory.set_text("");
     }
-    return list_exactly(above);
+    return list_above(above, directory);
 }
 
 /// The double click. A name that only begins with ".." goes up, too.
@@ -88,7 +100,7 @@ Message FileListGoUp() {
         return "Directory not defined";
     }
     const std::string above = here.find('/') == here.npos ? here + "/.." : getdirname(here);
-    return list_exactly(above.empty() || here.empty() ? "/" : above);
+    return list_above(above.empty() || here.empty() ? "/" : above, here);
 }
 
 Message FileListAgain() {

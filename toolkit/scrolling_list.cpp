@@ -90,6 +90,13 @@ void ScrollingList::select(int row) {
 
 void ScrollingList::clear_selection() { widget_->clearSelection(); }
 
+void ScrollingList::go_to(int row) {
+    if (const QModelIndex index = model_->index(row); index.isValid()) {
+        widget_->selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
+        widget_->scrollTo(index);
+    }
+}
+
 void ScrollingList::set_selectable(Selectable selectable) {
     const std::optional<int> first = selected();
     widget_->setSelectionMode(selectable == Selectable::several ? QAbstractItemView::ExtendedSelection

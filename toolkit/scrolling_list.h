@@ -53,6 +53,8 @@ class ScrollingList {
     /// Selects a row alone and scrolls it into view. A row that is not there is ignored.
     void select(int row);
     void clear_selection();
+    /// Scrolls a row into view, and the keyboard goes on from there; what is selected stays.
+    void go_to(int row);
     /// Of several selected rows only the first stays so when one is the most.
     void set_selectable(Selectable selectable);
 

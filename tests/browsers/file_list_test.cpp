@@ -116,6 +116,9 @@ TEST_F(FileListWindows, OpensRowsByDoubleClickAndKeys) {
     EXPECT_EQ(browser().directory.text(), directory());
     EXPECT_EQ(press_key(Qt::Key_Backspace), "");
     EXPECT_EQ(browser().directory.text(), home.path().string());
+    EXPECT_EQ(browser().list.selected(), std::nullopt);
+    EXPECT_EQ(press_key(Qt::Key_Return), "");  // where it came from
+    EXPECT_EQ(browser().directory.text(), directory());
     home.write("list/..notes", "");
     ASSERT_EQ(list(directory()), "");
     EXPECT_EQ(double_click(2), "");

@@ -169,7 +169,9 @@ class Tour {
         take_window(title, "file-list");
         press_keys(std::array{"Menu", "Up", "Right"});
         take_desktop("file-list-menu");
-        press_keys(std::array{"Escape", "Escape", "Escape"});
+        press_keys(std::array{"Escape", "Escape", "Delete"});
+        take_desktop("file-list-remove");
+        press_keys(std::array{"Escape", "Escape"});
     }
     /// Opens menus, item by item, and leaves them open for the picture.
     void show_menu(const char* menu, const char* item, const std::string& picture) {
