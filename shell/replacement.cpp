@@ -8,6 +8,7 @@
 #include <memory>
 #include <random>
 #include <string_view>
+#include <utility>
 
 #include <dirent.h>
 #include <fcntl.h>
@@ -131,8 +132,8 @@ int file_refusal(mode_t type) {
     return S_ISREG(type) ? 0 : EINVAL;
 }
 
-Replacement::Replacement(const std::string& path, const SaveOptions& options)
-    : place_(path), options_(options) {
+Replacement::Replacement(std::string path, const SaveOptions& options)
+    : place_(std::move(path)), options_(options) {
     error_ = find_place();
     if (error_ == 0) {
         error_ = open_file();

@@ -43,7 +43,7 @@ struct SaveOptions {
 /// Links::replace puts the file in the place of a link at `path` itself.
 class Replacement {
   public:
-    Replacement(const std::string& path, const SaveOptions& options);
+    Replacement(std::string path, const SaveOptions& options);
     ~Replacement();
     Replacement(const Replacement&) = delete;
     Replacement& operator=(const Replacement&) = delete;

@@ -6,6 +6,8 @@
 #include <QAbstractItemView>
 #include <QPainter>
 
+#include <ranges>
+
 namespace {
 
 constexpr int gap = 12;  // pixels, before and behind a column
@@ -32,12 +34,12 @@ void ListColumns::paint(QPainter* painter, const QStyleOptionViewItem& item, con
     painter->save();
     painter->setPen(text_colour(item));
     painter->setFont(item.font);
-    for (auto column = columns_.rbegin(); column != columns_.rend(); ++column) {
+    for (const ListColumn& column : std::ranges::reverse_view(columns_)) {
         room.setRight(room.right() - gap);
-        const int width = item.fontMetrics.averageCharWidth() * column->characters;
+        const int width = item.fontMetrics.averageCharWidth() * column.characters;
         const QRect place(room.right() - width, room.top(), width, room.height());
         painter->drawText(place, Qt::AlignRight | Qt::AlignVCenter | Qt::TextSingleLine,
-                          visible_text(column->text(index.row())));
+                          visible_text(column.text(index.row())));
         room.setRight(place.left() - gap);
     }
     painter->restore();

@@ -170,6 +170,9 @@ class Tour {
         press_keys(std::array{"Menu", "Up", "Right"});
         take_desktop("file-list-menu");
         press_keys(std::array{"Escape", "Escape", "Delete"});
+        if (!wait_until([&] { return program_.application().find({"push button", "Yes"}).showing(); })) {
+            give_up("\"" + title + "\" does not ask before it removes");
+        }
         take_desktop("file-list-remove");
         press_keys(std::array{"Escape", "Escape"});
     }
