@@ -88,7 +88,7 @@ std::string_view ListingTexts::of(ScanResult result) const {
     }
 }
 
-Message list_in_browser(Listing listing) {
+Message list_in_browser(const Listing& listing) {
     return work_in_browser(
         "Names read", [listing](Progress& progress) { return find(listing, progress); },
         [listing](Found found) {

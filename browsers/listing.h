@@ -42,7 +42,7 @@ struct Listing {
 /// Lists a directory in the browser, which then stands on it: no row is selected, "File Name:" is empty, the
 /// right footer has the count. A directory that cannot be opened leaves everything as it was; what else fails
 /// empties the list. Returns soon, with what the left footer has to show by then.
-[[nodiscard]] Message list_in_browser(Listing listing);
+[[nodiscard]] Message list_in_browser(const Listing& listing);
 /// Lists the browser's directory again, through the filter that it was listed with; the view stays where it
 /// is.
 [[nodiscard]] Message list_again();
