@@ -23,10 +23,11 @@ constexpr int presses = 200;
 constexpr int wait_milliseconds = 5'000;
 
 // Answers each key with it, and by hiding or showing the cursor: that is how the answer is told from the
-// flood.
+// flood. What the terminal itself answers to queries holds no "x".
 constexpr const char* answering_program =
     "exec perl -e '$|=1; while (sysread(STDIN, $key, 1)) "
-    "{ $hidden = !$hidden; syswrite(STDOUT, ($hidden ? \"\\e[?25l\" : \"\\e[?25h\") . $key); }'";
+    "{ next if $key ne \"x\"; $hidden = !$hidden; syswrite(STDOUT, ($hidden ? \"\\e[?25l\" : \"\\e[?25h\") . "
+    "$key); }'";
 
 /// A terminal pane in a window of its own, and when it was painted last.
 class Typist : public QObject {
@@ -41,6 +42,8 @@ class Typist : public QObject {
         view_->installEventFilter(this);
     }
 
+    /// Gives the window another size, as its user does who drags its corner.
+    void resize(int step) { window_.resize(600 + step * 37 % 400, 400 + step * 23 % 300); }
     void start(const std::string& script) {
         pane_.start({"/bin/sh", {"sh", "-c", script}, {"PATH=/usr/bin:/bin", "TERM=xterm"}, "/"});
     }
@@ -83,10 +86,16 @@ class Typist : public QObject {
     bool answer_ = false;
 };
 
-void press_keys(benchmark::State& state, Typist& typist, int pause_milliseconds) {
+enum class Window : std::uint8_t { stays, is_resized };
+
+void press_keys(benchmark::State& state, Typist& typist, Window window = Window::stays) {
+    constexpr int pause_milliseconds = 30;
     std::vector<double> times;
     for (auto _ : state) {
         QTest::qWait(pause_milliseconds + static_cast<int>(times.size() % 17));  // any place within a frame
+        if (window == Window::is_resized) {
+            typist.resize(static_cast<int>(times.size()));
+        }
         const double time = typist.press();
         if (time < 0) {
             return state.SkipWithError("a key was not answered");
@@ -100,6 +109,7 @@ void press_keys(benchmark::State& state, Typist& typist, int pause_milliseconds)
     };
     state.counters["median_ms"] = at(0.5);
     state.counters["p95_ms"] = at(0.95);
+    state.counters["p99_ms"] = at(0.99);
     state.counters["worst_ms"] = times.back();
 }
 
@@ -109,7 +119,21 @@ void key_to_echo_idle(benchmark::State& state) {
     if (!typist.wait_for_rows(100)) {
         return state.SkipWithError("the program did not start");
     }
-    press_keys(state, typist, 30);
+    press_keys(state, typist);
+}
+
+/// Each key comes with another size of the window, whose scrollback is full of lines to be broken anew.
+void key_to_echo_while_resized(benchmark::State& state) {
+    Typist typist;
+    typist.start(
+        std::string(
+            "seq -f '%09.0f the quick brown fox jumps over the lazy dog and runs away from it' 12000; "
+            "stty raw -echo; ") +
+        answering_program);
+    if (!typist.wait_for_rows(12'000)) {
+        return state.SkipWithError("the program did not start");
+    }
+    press_keys(state, typist, Window::is_resized);
 }
 
 std::string coloured_line(int number) {
@@ -135,6 +159,15 @@ std::string line_of_clusters(int number) {
 /// Few bytes that are much work: a character, 65,535 times over.
 std::string repeated_character(int /*number*/) { return "x\x1b[65535b\r\n"; }
 
+/// Asks the terminal who it is, thirty times a line.
+std::string line_of_queries(int /*number*/) {
+    std::string line;
+    for (int query = 0; query < 30; ++query) {
+        line += "\x1b[c";
+    }
+    return line + "\r\n";
+}
+
 /// While another program shows a large file over and over in the same terminal.
 void key_to_echo_in_a_flood(benchmark::State& state, std::string (*line)(int)) {
     const ScratchDirectory directory;
@@ -149,7 +182,7 @@ void key_to_echo_in_a_flood(benchmark::State& state, std::string (*line)(int)) {
     if (!typist.wait_for_rows(10'000)) {
         return state.SkipWithError("nothing floods in");
     }
-    press_keys(state, typist, 30);
+    press_keys(state, typist);
 }
 
 }  // namespace
@@ -167,3 +200,8 @@ BENCHMARK_CAPTURE(key_to_echo_in_a_flood, repeated, repeated_character)
     ->UseManualTime()
     ->Iterations(presses)
     ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(key_to_echo_in_a_flood, queries, line_of_queries)
+    ->UseManualTime()
+    ->Iterations(presses)
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK(key_to_echo_while_resized)->UseManualTime()->Iterations(presses)->Unit(benchmark::kMillisecond);

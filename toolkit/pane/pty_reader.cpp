@@ -47,6 +47,7 @@ void PtyReader::stop() {
     room_.notify_one();
     eventfd_write(stop_, 1);
     thread_.join();
+    read_ahead_ = capacity;
 }
 
 void PtyReader::work() {
@@ -58,7 +59,7 @@ void PtyReader::work() {
 
 bool PtyReader::wait_for_room() {
     std::unique_lock lock(mutex_);
-    room_.wait(lock, [this] { return stopping_ || end_ - begin_ < capacity; });
+    room_.wait(lock, [this] { return stopping_ || end_ - begin_ < read_ahead_; });
     return !stopping_;
 }
 
@@ -75,8 +76,12 @@ Pty::ReadState PtyReader::fill() {
     std::size_t room = 0;
     {
         const std::lock_guard lock(mutex_);
+        const std::size_t unread = end_ - begin_;
         place = end_ % capacity;
-        room = std::min(capacity - place, capacity - (end_ - begin_));
+        room = std::min(capacity - place, std::max(read_ahead_, unread) - unread);
+    }
+    if (room == 0) {
+        return Pty::ReadState::nothing_yet;  // it was told to read less far ahead meanwhile
     }
     const Pty::ReadResult result = pty_.read({ring_.get() + place, room});
     const std::lock_guard lock(mutex_);
@@ -117,6 +122,14 @@ void PtyReader::consume(std::size_t bytes) {
     {
         const std::lock_guard lock(mutex_);
         begin_ += bytes;
+    }
+    room_.notify_one();
+}
+
+void PtyReader::set_read_ahead(std::size_t bytes) {
+    {
+        const std::lock_guard lock(mutex_);
+        read_ahead_ = std::min(bytes, capacity);
     }
     room_.notify_one();
 }

@@ -29,6 +29,9 @@ class PtyReader {
     /// The oldest bytes not yet consumed, as far as they stand in one piece.
     [[nodiscard]] std::string_view unread();
     void consume(std::size_t bytes);
+    /// Reads no more than so many bytes ahead (256 KiB at most): what is read has to be worked off before the
+    /// answer to a key is seen.
+    void set_read_ahead(std::size_t bytes);
     /// Nobody holds the terminal open, and everything was read. It may be opened again.
     [[nodiscard]] bool hung_up();
 
@@ -53,6 +56,7 @@ class PtyReader {
     std::condition_variable room_;
     std::size_t begin_ = 0;  ///< of what is unread, counted on and on
     std::size_t end_ = 0;
+    std::size_t read_ahead_ = capacity;
     bool called_ = false;
     bool hung_up_ = false;
     bool stopping_ = false;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "toolkit/pane/pty_stream.h"
 
+#include <algorithm>
 #include <utility>
 
 #include <poll.h>
@@ -20,7 +21,11 @@ constexpr int echo_quiet_milliseconds = 20;
 // Keys that came longer ago have been answered.
 constexpr int recent_key_milliseconds = 150;
 // Output can ask for answers faster than a program that does not listen takes them.
-constexpr std::size_t unread_replies_limit = 1'048'576;
+constexpr std::size_t unread_replies_limit = 65'536;
+// So much time's work is read ahead: at the pace of a slice that took all its time.
+constexpr int slices_ahead = 4;
+constexpr std::size_t least_ahead = 4096;  // what the kernel hands out at once
+constexpr std::size_t most_ahead = 262'144;
 
 }  // namespace
 
@@ -38,14 +43,17 @@ PtyStream::PtyStream(std::unique_ptr<Pty> pty, Events events)
 void PtyStream::close() {
     readable_.setEnabled(false);
     writable_.setEnabled(false);
+    replies_.clear();
     reader_.reset();
     pty_.reset();
 }
 
 void PtyStream::write(std::string_view bytes) {
     pty_->write(bytes);
-    writable_.setEnabled(pty_->pending() > 0);
+    watch_for_room();
 }
+
+void PtyStream::watch_for_room() { writable_.setEnabled(pty_->pending() > 0 || !replies_.empty()); }
 
 void PtyStream::type(std::string_view bytes) {
     if (bytes.empty()) {
@@ -57,14 +65,26 @@ void PtyStream::type(std::string_view bytes) {
 }
 
 void PtyStream::reply(std::string_view bytes) {
-    if (pty_->pending() < unread_replies_limit) {
-        write(bytes);
+    if (unread_replies_ + bytes.size() <= unread_replies_limit) {
+        unread_replies_ += bytes.size();
+        replies_.emplace_back(bytes);
+        write_replies();
     }
+}
+
+/// One by one, when the program has taken what was written before: keys do not wait behind all of them.
+void PtyStream::write_replies() {
+    while (pty_->pending() == 0 && !replies_.empty()) {
+        unread_replies_ -= replies_.front().size();
+        pty_->write(replies_.front());
+        replies_.pop_front();
+    }
+    watch_for_room();
 }
 
 void PtyStream::write_pending() {
     pty_->flush();
-    writable_.setEnabled(pty_->pending() > 0);
+    write_replies();
 }
 
 void PtyStream::await_echo() {
@@ -108,6 +128,8 @@ std::size_t PtyStream::read_pieces() {
         reader_->consume(taken);
         total += taken;
     }
+    const bool is_slow = clock.hasExpired(slice_milliseconds);
+    reader_->set_read_ahead(is_slow ? std::max(total * slices_ahead, least_ahead) : most_ahead);
     return total;
 }
 

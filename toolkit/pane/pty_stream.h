@@ -8,9 +8,11 @@
 #include <QObject>
 #include <QSocketNotifier>
 
+#include <deque>
 #include <functional>
 #include <memory>
 #include <optional>
+#include <string>
 #include <string_view>
 
 /// Moves bytes between a program on a pty and its terminal: what the program writes in bounded slices of the
@@ -36,8 +38,8 @@ class PtyStream final : public QObject {
     void write(std::string_view bytes);
     /// The same for keys, which the program is expected to answer.
     void type(std::string_view bytes);
-    /// The same for the terminal's own answers: they are dropped where a program asks and asks and does not
-    /// read them.
+    /// The same for the terminal's own answers, which keys may overtake: they are dropped where a program
+    /// asks and asks and does not read them.
     void reply(std::string_view bytes);
 
     /// Reads what the program has written, and what it is about to echo of the last key typed. Waits at most
@@ -54,6 +56,8 @@ class PtyStream final : public QObject {
     [[nodiscard]] std::size_t read_pieces();
     void end_slice();
     void write_pending();
+    void write_replies();
+    void watch_for_room();
 
     std::unique_ptr<terminal::Pty> pty_;
     std::unique_ptr<PtyReader> reader_;
@@ -62,5 +66,7 @@ class PtyStream final : public QObject {
     QSocketNotifier writable_;
     std::optional<std::size_t> last_words_;  ///< of a program that has ended: so much was read
     QElapsedTimer since_key_;
-    bool echo_due_ = false;  ///< a key was typed and nothing has been read since
+    std::deque<std::string> replies_;  ///< not written yet
+    std::size_t unread_replies_ = 0;   ///< their bytes
+    bool echo_due_ = false;            ///< a key was typed and nothing has been read since
 };

@@ -72,6 +72,18 @@ TEST(PtyStream, NothingIsLostOrReorderedRoundTheRing) {
     EXPECT_TRUE(listener.text == expected) << listener.text.size();
 }
 
+TEST(PtyStream, KeysOvertakeAnswersThatNobodyReads) {
+    Listener listener("stty raw -echo; echo asks; head -c 100000 | tr -dc x; echo read");
+    ASSERT_TRUE(listener.wait([&] { return listener.text == "asks\n"; })) << listener.text;
+    for (int answer = 0; answer < 1000; ++answer) {
+        listener.stream.reply(std::string(1000, '.'));
+    }
+    listener.stream.type("x");
+    listener.stream.write(std::string(100'000, '.'));
+    ASSERT_TRUE(listener.wait([&] { return listener.text.ends_with("read\n"); })) << listener.text;
+    EXPECT_EQ(listener.text, "asks\nxread\n");
+}
+
 TEST(PtyStream, TerminalThatNobodyHoldsIsTakenUpAgain) {
     Listener listener("tty=$(tty); exec </dev/null >/dev/null 2>&1; sleep 0.3; echo back >$tty; sleep 0.3");
     ASSERT_TRUE(listener.wait([&] { return listener.text == "back\r\n"; })) << listener.text;
