@@ -61,7 +61,7 @@ bool has_editor() {
     return setup.text_editor.value() != TextEditorSetup::user_defined || !setup.user_editor.text().empty();
 }
 
-std::optional<CommandLine> editor_line(std::string_view path) {
+std::optional<CommandLine> editor_line(std::string_view path, EditorAsker asker) {
     if (!has_editor()) {
         return std::nullopt;
     }
@@ -71,7 +71,8 @@ std::optional<CommandLine> editor_line(std::string_view path) {
         return CommandLine::of_user(setup.user_editor.text()).escaped(path);
     }
     const Editor& editor = editors[static_cast<std::size_t>(choice)];
-    CommandLine line(editor.words);
+    const bool another_blank = asker == EditorAsker::file_tree && choice == 0;
+    CommandLine line(another_blank ? Words("open -a /Applications/TextEdit.app ") : editor.words);
     line.escaped(path);
     if (editor.options != nullptr) {
         editor.options(line);
@@ -79,8 +80,8 @@ std::optional<CommandLine> editor_line(std::string_view path) {
     return line;
 }
 
-Message edit_file(const std::string& path) {
-    const std::optional<CommandLine> line = editor_line(path);
+Message edit_file(const std::string& path, EditorAsker asker) {
+    const std::optional<CommandLine> line = editor_line(path, asker);
     if (!line) {
         return no_editor;
     }

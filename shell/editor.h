@@ -23,10 +23,14 @@ inline const Message no_editor = "User editor not specified";
 /// Whether one is chosen.
 [[nodiscard]] bool has_editor();
 
+/// Who opens a file. The file tree puts another blank behind the first editor.
+enum class EditorAsker : bool { usual, file_tree };
+
 /// The command that opens a file in the editor, ready for the " &" behind it; nothing while there is none.
-[[nodiscard]] std::optional<CommandLine> editor_line(std::string_view path);
+[[nodiscard]] std::optional<CommandLine> editor_line(std::string_view path,
+                                                     EditorAsker asker = EditorAsker::usual);
 
 /// Opens a file in the editor and shows the command on the Message Board.
-[[nodiscard]] Message edit_file(const std::string& path);
+[[nodiscard]] Message edit_file(const std::string& path, EditorAsker asker = EditorAsker::usual);
 /// The same, but nobody is told anything.
 void edit_file_silently(const std::string& path);

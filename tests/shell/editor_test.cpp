@@ -45,6 +45,9 @@ TEST(Editor, CommandIsMadeOfTheSetup) {
         const std::optional<CommandLine> line = editor_line("a b");
         EXPECT_EQ(line ? std::optional(line->read_by(ShellFamily::other).text) : std::nullopt, command);
     }
+    setup.text_editor.set_value(0);
+    EXPECT_EQ(editor_line("a b", EditorAsker::file_tree)->read_by(ShellFamily::other).text,
+              "open -a /Applications/TextEdit.app  a\\ b");
     setup.font_name.set_text("9x15");
     CommandLine options;
     gedit_command(options);
