@@ -2,6 +2,7 @@
 #include "toolkit/text_conversion.h"
 
 #include <QStringDecoder>
+#include <QStringList>
 
 namespace {
 
@@ -106,9 +107,17 @@ QString visible_text(std::string_view text) {
 }
 
 QString plain_tool_tip(std::string_view text) {
-    return text.empty() ? QString()
-                        : QStringLiteral("<p style=\"white-space:pre-wrap\">%1</p>")
-                              .arg(visible_text(text).toHtmlEscaped());
+    return text.empty() ? QString() : plain_tool_tip(std::vector{std::string(text)});
+}
+
+QString plain_tool_tip(const std::vector<std::string>& lines) {
+    QStringList shown;
+    for (const std::string& line : lines) {
+        shown += visible_text(line).toHtmlEscaped();
+    }
+    return shown.isEmpty() ? QString()
+                           : QStringLiteral("<p style=\"white-space:pre-wrap\">%1</p>")
+                                 .arg(shown.join(QStringLiteral("<br>")));
 }
 
 QString without_mnemonic(std::string_view label) {

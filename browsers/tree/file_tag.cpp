@@ -35,16 +35,16 @@ std::string FileTag::path() const {
     return own_path_ != nullptr ? *own_path_ : path_in(above_->path(), label);
 }
 
-std::string FileTag::tool_tip() const {
-    std::string text = path();
+std::vector<std::string> FileTag::tool_tip() const {
+    std::vector<std::string> lines{path()};
     if (link_target_ != nullptr) {
-        text += fmt::format("\n-> {}", *link_target_);
+        lines.push_back(fmt::format("-> {}", *link_target_));
     }
-    text += fmt::format("\n{}, {} bytes, {}", file_type_text(mode_), size_, status_time(modified_));
+    lines.push_back(fmt::format("{}, {} bytes, {}", file_type_text(mode_), size_, status_time(modified_)));
     if (read_error_ != 0) {
-        text += fmt::format("\nCannot be read: {}", std::strerror(read_error_));
+        lines.push_back(fmt::format("Cannot be read: {}", std::strerror(read_error_)));
     }
-    return text;
+    return lines;
 }
 
 NodeReference::NodeReference(FileTag& tag, TreeNode* node) {

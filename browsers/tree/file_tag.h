@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <vector>
 
 class TreeNode;
 
@@ -24,7 +25,7 @@ class FileTag final : public NodeRecord {
     /// Empty where the path is that of the node above with the label behind it.
     [[nodiscard]] std::string own_path() const { return own_path_ == nullptr ? std::string() : *own_path_; }
     /// What is known since the file was looked at.
-    [[nodiscard]] std::string tool_tip() const override;
+    [[nodiscard]] std::vector<std::string> tool_tip() const override;
     [[nodiscard]] std::string description() const override { return path(); }
     /// A directory could not be read, with this errno.
     void set_read_error(int error) { read_error_ = error; }

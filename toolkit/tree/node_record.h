@@ -3,6 +3,7 @@
 
 #include <string>
 #include <utility>
+#include <vector>
 
 /// What a client keeps of a node; it derives from this. The node owns it.
 struct NodeRecord {
@@ -11,8 +12,8 @@ struct NodeRecord {
     NodeRecord(const NodeRecord&) = delete;
     NodeRecord& operator=(const NodeRecord&) = delete;
 
-    /// Asked only when somebody wants to know; empty for nothing.
-    [[nodiscard]] virtual std::string tool_tip() const { return {}; }
+    /// Its lines. Asked only when somebody wants to know; empty for nothing.
+    [[nodiscard]] virtual std::vector<std::string> tool_tip() const { return {}; }
     /// What assistive programs are told beside the label.
     [[nodiscard]] virtual std::string description() const { return {}; }
 

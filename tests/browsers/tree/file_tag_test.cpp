@@ -13,6 +13,8 @@
 
 namespace {
 
+using Lines = std::vector<std::string>;
+
 /// Stands for a node: only its address counts.
 TreeNode* node_number(std::uintptr_t number) { return reinterpret_cast<TreeNode*>(number); }
 
@@ -33,10 +35,10 @@ TEST(FileTag, TellsWhatWasSeen) {
     setenv("TZ", "UTC", 1);
     tzset();
     const FileTag file("a", "/a", nullptr, {.mode = S_IFREG, .size = 12, .link_target = "b"});
-    EXPECT_EQ(file.tool_tip(), "/a\n-> b\nRegular, 12 bytes, 1970-01-01  00:00:00");
+    EXPECT_EQ(file.tool_tip(), (Lines{"/a", "-> b", "Regular, 12 bytes, 1970-01-01  00:00:00"}));
     const FileTag directory("d", "/d", nullptr, {.mode = S_IFDIR, .size = 1, .read_error = EACCES});
     EXPECT_EQ(directory.tool_tip(),
-              "/d\nDirectory, 1 bytes, 1970-01-01  00:00:00\nCannot be read: Permission denied");
+              (Lines{"/d", "Directory, 1 bytes, 1970-01-01  00:00:00", "Cannot be read: Permission denied"}));
 }
 
 TEST(Trace, KeepsTheWayBackOfAHundredSteps) {

@@ -70,9 +70,7 @@ TEST_F(TreeTest, WhatIsNoDirectoryAndALoopOfLinksDoNoHarm) {
     TreeNode* const top = root(path("top"));
     EXPECT_EQ(children(top), (Labels{"a", "b c", "fifo", "loop", "sub", "zip"}));
     EXPECT_EQ(open(child(top, "fifo")), "Not a directory");
-    const std::string tip = file_tag(child(top, "fifo")).tool_tip();
-    EXPECT_TRUE(tip.starts_with(path("top/fifo") + "\nFIFO, 0 bytes, ")) << tip;
-    EXPECT_TRUE(tip.ends_with("\nCannot be read: Not a directory")) << tip;
+    EXPECT_EQ(file_tag(child(top, "fifo")).tool_tip().back(), "Cannot be read: Not a directory");
     TreeNode* loop = child(top, "loop");
     for (int depth = 0; depth < 5; ++depth) {
         open(loop);

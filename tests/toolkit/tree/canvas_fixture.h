@@ -22,7 +22,7 @@ inline std::vector<std::string> told;
 
 struct SampleRecord : NodeRecord {
     SampleRecord(const std::string& shown, std::string kept) : NodeRecord(shown), path(std::move(kept)) {}
-    [[nodiscard]] std::string tool_tip() const override { return path + " (tip)"; }
+    [[nodiscard]] std::vector<std::string> tool_tip() const override { return {path + " (tip)"}; }
     [[nodiscard]] std::string description() const override { return path; }
 
     std::string path;
