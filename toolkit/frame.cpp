@@ -5,6 +5,7 @@
 #include "toolkit/answer.h"
 #include "toolkit/footer.h"
 #include "toolkit/return_key.h"
+#include "toolkit/standing.h"
 #include "toolkit/text_conversion.h"
 
 #include <QBoxLayout>
@@ -19,6 +20,7 @@
 #include <algorithm>
 #include <cassert>
 #include <optional>
+#include <utility>
 
 namespace {
 
@@ -72,6 +74,14 @@ class FrameWidget : public QWidget {
             }
         }
     }
+    /// All pop-ups of the main window that have been made known to the window manager.
+    void set_standing_of_popups(Standing standing) const {
+        for (QWidget* popup : findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+            if (popup->isWindow() && popup->testAttribute(Qt::WA_WState_Created)) {
+                set_standing(*popup, standing);
+            }
+        }
+    }
     /// Where the user has put the window; nothing while it stands where it was placed.
     [[nodiscard]] std::optional<QPoint> users_place() const { return users_place_; }
     void place(QPoint at) {
@@ -85,6 +95,13 @@ class FrameWidget : public QWidget {
             users_place_ = pos();
         }
         QWidget::hideEvent(event);
+    }
+    void changeEvent(QEvent* event) override {
+        QWidget::changeEvent(event);
+        const bool is_state = event->type() == QEvent::WindowStateChange && parentWidget() == nullptr;
+        if (is_state && std::exchange(was_icon_, isMinimized()) && !isMinimized()) {
+            set_standing_of_popups(Standing::owned);
+        }
     }
     void closeEvent(QCloseEvent* event) override {
         event->setAccepted(close_notify == nullptr);
@@ -124,6 +141,7 @@ class FrameWidget : public QWidget {
         focusNextChild();
     }
 
+    bool was_icon_ = false;
     std::optional<QPoint> placed_;
     std::optional<QPoint> users_place_;
 };
@@ -177,6 +195,9 @@ void Frame::show() {
     if (widget_->isMinimized()) {
         widget_->showNormal();
     }
+    if (widget_->parentWidget() != nullptr && widget_->parentWidget()->isMinimized()) {
+        set_standing(*widget_, Standing::alone);  // it would be an icon, too
+    }
     widget_->show();
     widget_->raise();
     widget_->activateWindow();
@@ -227,7 +248,10 @@ void Frame::open_sized(int right, int down, int width, int height) {
     show();
 }
 
-void Frame::iconify() { widget_->showMinimized(); }
+void Frame::iconify() {
+    widget_->set_standing_of_popups(Standing::alone);
+    widget_->showMinimized();
+}
 
 void Frame::on_close(void (*notify)()) { widget_->close_notify = notify; }
 
