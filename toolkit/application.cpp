@@ -3,6 +3,7 @@
 
 #include "toolkit/frame.h"
 #include "toolkit/resource_database.h"
+#include "toolkit/resources.h"
 #include "toolkit/text_conversion.h"
 #include "toolkit/theme.h"
 
@@ -186,7 +187,8 @@ std::string xv_init(std::vector<std::string>& arguments, const std::function<voi
     application->setApplicationDisplayName(QString());
     application->setQuitOnLastWindowClosed(false);
     main_geometry = options.geometry;
-    apply_theme();
+    const bool dark = defaults_get_string("orvik.palette", "Orvik.Palette", "light") == "dark";
+    apply_theme(dark ? Shade::dark : Shade::light);
     end_in_order_without_display();
     end_on_signals();
     return {};

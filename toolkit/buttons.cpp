@@ -4,6 +4,7 @@
 #include "toolkit/answer.h"
 #include "toolkit/button_picture.h"
 #include "toolkit/text_conversion.h"
+#include "toolkit/theme.h"
 
 #include <QIcon>
 #include <QPushButton>
@@ -28,7 +29,7 @@ std::string picture_name(std::string_view accessible_name) {
 QIcon button_picture(std::string_view name) {
     return picture_directory.empty()
                ? QIcon()
-               : QIcon(to_qstring(picture_directory) + '/' + to_qstring(name) + QStringLiteral(".svg"));
+               : themed_icon(to_qstring(picture_directory) + '/' + to_qstring(name) + QStringLiteral(".svg"));
 }
 
 Button::Button(Container& parent, Label label, Notify notify)

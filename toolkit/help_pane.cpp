@@ -5,6 +5,7 @@
 #include "toolkit/return_key.h"
 #include "toolkit/text_conversion.h"
 #include "toolkit/text_size.h"
+#include "toolkit/theme.h"
 
 #include <QBoxLayout>
 #include <QFileInfo>
@@ -30,9 +31,9 @@ class Browser final : public QTextBrowser {
   protected:
     QVariant loadResource(int type, const QUrl& name) override {
         if (type != QTextDocument::ImageResource) {
-            return QTextBrowser::loadResource(type, name);
+            return in_theme(QTextBrowser::loadResource(type, name).toByteArray());
         }
-        const QIcon picture(source().resolved(name).toLocalFile());
+        const QIcon picture = themed_icon(source().resolved(name).toLocalFile());
         return picture.pixmap(QSize(picture_size, picture_size), devicePixelRatioF());
     }
 };
@@ -117,6 +118,7 @@ class HelpPaneWidget final : public QWidget {
                 QTextEdit::ExtraSelection selection;
                 selection.cursor = match;
                 selection.format.setBackground(match_colour);
+                selection.format.setForeground(Qt::black);
                 matches.append(selection);
             }
             result_->setText(matches.isEmpty()     ? QStringLiteral("Not found")

@@ -2,13 +2,16 @@
 #include "toolkit/theme.h"
 
 #include <QApplication>
+#include <QFile>
 #include <QPainter>
 #include <QPalette>
 #include <QProxyStyle>
 #include <QStyleFactory>
 #include <QStyleOptionMenuItem>
+#include <QSvgRenderer>
 
 #include <algorithm>
+#include <array>
 
 namespace {
 
@@ -17,9 +20,46 @@ constexpr int menu_item_padding = 5;
 constexpr int button_padding = 24;
 constexpr int title_indent = 12;
 
-const QColor text_colour(0x1f, 0x24, 0x2d);
-const QColor faded_colour(0x6a, 0x72, 0x80);
-const QColor line_colour(0xd3, 0xd7, 0xdf);
+/// The colours of one of the two sets.
+struct Colours {
+    QColor button;
+    QColor window;
+    QColor base;
+    QColor alternate_base;
+    QColor text;
+    QColor faded;
+    QColor line;
+    QColor tool_tip;
+};
+
+const Colours light_colours{.button = QColor(0xe6, 0xe9, 0xef),
+                            .window = QColor(0xee, 0xf0, 0xf4),
+                            .base = Qt::white,
+                            .alternate_base = QColor(0xf5, 0xf6, 0xf9),
+                            .text = QColor(0x1f, 0x24, 0x2d),
+                            .faded = QColor(0x6a, 0x72, 0x80),
+                            .line = QColor(0xd3, 0xd7, 0xdf),
+                            .tool_tip = QColor(0xff, 0xfb, 0xe6)};
+const Colours dark_colours{.button = QColor(0x3a, 0x42, 0x4e),
+                           .window = QColor(0x2a, 0x30, 0x39),
+                           .base = QColor(0x1f, 0x24, 0x2b),
+                           .alternate_base = QColor(0x25, 0x2b, 0x33),
+                           .text = QColor(0xe2, 0xe6, 0xec),
+                           .faded = QColor(0x9a, 0xa3, 0xb1),
+                           .line = QColor(0x4a, 0x53, 0x60),
+                           .tool_tip = QColor(0x3a, 0x3a, 0x2c)};
+
+const Colours* colours = &light_colours;
+
+/// What pictures and help pages are drawn with by day, and what stands for it by night.
+struct ColourPair {
+    const char* light;
+    const char* dark;
+};
+constexpr std::array colour_pairs{
+    ColourPair{"#39424e", "#c8d0dc"}, ColourPair{"#2f6fb5", "#74b0f0"}, ColourPair{"#ffffff", "#2a3039"},
+    ColourPair{"#eef0f4", "#3a424e"}, ColourPair{"#f6f7f9", "#2f3640"},
+};
 
 /// Fusion with roomier menus, whose title line reads as a heading.
 class OrvikStyle : public QProxyStyle {
@@ -50,6 +90,17 @@ class OrvikStyle : public QProxyStyle {
         return size;
     }
 
+    /// Fusion draws outlines in a shade of the window's colour, which nobody would see on a dark one.
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override {
+        if (colours == &dark_colours &&
+            (draw_outlined<QStyleOptionButton>(element, option, painter, widget) ||
+             draw_outlined<QStyleOptionFrame>(element, option, painter, widget))) {
+            return;
+        }
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
+    }
+
     void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override {
         const QStyleOptionMenuItem* title = title_in(element == CE_MenuItem ? option : nullptr);
@@ -59,16 +110,30 @@ class OrvikStyle : public QProxyStyle {
         }
         painter->save();
         painter->setFont(heading(title->font));
-        painter->setPen(faded_colour);
+        painter->setPen(colours->faded);
         painter->drawText(title->rect.adjusted(title_indent, 0, -title_indent, -3), Qt::AlignVCenter,
                           title->text);
-        painter->setPen(line_colour);
+        painter->setPen(colours->line);
         painter->drawLine(title->rect.bottomLeft() + QPoint(title_indent, -2),
                           title->rect.bottomRight() - QPoint(title_indent, 2));
         painter->restore();
     }
 
   private:
+    template <typename Option>
+    bool draw_outlined(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const {
+        const auto* known = qstyleoption_cast<const Option*>(option);
+        const bool outlined = element == PE_IndicatorCheckBox || element == PE_IndicatorRadioButton ||
+                              element == PE_PanelLineEdit || element == PE_FrameLineEdit;
+        if (known == nullptr || !outlined) {
+            return false;
+        }
+        Option lighter(*known);
+        lighter.palette.setColor(QPalette::Window, colours->faded);
+        QProxyStyle::drawPrimitive(element, &lighter, painter, widget);
+        return true;
+    }
     static bool is_separator(const QStyleOption* option) {
         const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
         return item != nullptr && item->menuItemType == QStyleOptionMenuItem::Separator;
@@ -86,19 +151,51 @@ class OrvikStyle : public QProxyStyle {
 
 }  // namespace
 
-void apply_theme() {
+void apply_theme(Shade shade) {
+    colours = shade == Shade::dark ? &dark_colours : &light_colours;
     QApplication::setStyle(new OrvikStyle);
-    QPalette palette(QColor(0xe6, 0xe9, 0xef), QColor(0xee, 0xf0, 0xf4));
-    palette.setColor(QPalette::Base, Qt::white);
-    palette.setColor(QPalette::AlternateBase, QColor(0xf5, 0xf6, 0xf9));
+    QPalette palette(colours->button, colours->window);
+    palette.setColor(QPalette::Base, colours->base);
+    palette.setColor(QPalette::AlternateBase, colours->alternate_base);
     palette.setColor(QPalette::Highlight, QColor(0x2f, 0x6f, 0xb5));
     palette.setColor(QPalette::HighlightedText, Qt::white);
-    palette.setColor(QPalette::PlaceholderText, faded_colour);
-    palette.setColor(QPalette::ToolTipBase, QColor(0xff, 0xfb, 0xe6));
-    palette.setColor(QPalette::ToolTipText, text_colour);
+    palette.setColor(QPalette::PlaceholderText, colours->faded);
+    palette.setColor(QPalette::ToolTipBase, colours->tool_tip);
+    palette.setColor(QPalette::ToolTipText, colours->text);
+    if (shade == Shade::dark) {
+        palette.setColor(QPalette::Link, QColor(colour_pairs[1].dark));
+    }
     for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
-        palette.setColor(role, text_colour);
-        palette.setColor(QPalette::Disabled, role, faded_colour.lighter(130));
+        palette.setColor(role, colours->text);
+        palette.setColor(QPalette::Disabled, role,
+                         shade == Shade::dark ? colours->faded.darker(130) : colours->faded.lighter(130));
     }
     QApplication::setPalette(palette);
+}
+
+QByteArray in_theme(QByteArray drawn) {
+    if (colours == &dark_colours) {
+        for (const ColourPair& pair : colour_pairs) {
+            drawn.replace(pair.light, pair.dark);
+        }
+    }
+    return drawn;
+}
+
+QIcon themed_icon(const QString& path) {
+    if (colours == &light_colours) {
+        return QIcon(path);
+    }
+    QFile file(path);
+    QSvgRenderer drawing(file.open(QIODevice::ReadOnly) ? in_theme(file.readAll()) : QByteArray());
+    QIcon icon;
+    for (const int size : {16, 20, 24, 32, 40, 48}) {  // as asked for on usual screens, and on finer ones
+        QPixmap picture(size, size);
+        picture.fill(Qt::transparent);
+        QPainter painter(&picture);
+        drawing.render(&painter);
+        painter.end();
+        icon.addPixmap(picture);
+    }
+    return icon;
 }

@@ -41,6 +41,7 @@ bool is_control(char32_t c) { return c < 0x20 || (c >= 0x7f && c < 0xa0); }
 void show_text(QPlainTextEdit& view, const std::string& text) {
     QTextCharFormat mark;
     mark.setBackground(QColor(0xff, 0xd9, 0x80));
+    mark.setForeground(Qt::black);
     QTextCursor cursor = view.textCursor();
     QString plain;
     for (const uint character : to_qstring(std::string_view(text).substr(0, shown_bytes)).toUcs4()) {
