@@ -3,8 +3,8 @@
 
 #include "browsers/notify.h"
 #include "browsers/tree/file_tree.h"
+#include "browsers/window_work.h"
 #include "shell/send.h"
-#include "toolkit/long_work.h"
 #include "ui/file_status.h"
 
 #include <utility>
@@ -16,6 +16,7 @@
 namespace {
 
 constexpr std::string_view items_label = "Files examined";
+constexpr std::string_view changed_label = "Files changed";
 
 void say_illegal(Frame& frame) { frame.set_left_footer("Illegal file"); }
 
@@ -31,6 +32,10 @@ mode_t chosen_mode() {
     return mode_of(
         {.owner = window.owner.value(), .group = window.group.value(), .world = window.world.value()});
 }
+
+/// The boxes are those of another file still.
+bool boxes_are_to_come() { return waits_for_work(file_status(), items_label); }
+const Message still_examined = "The file is still being examined";
 
 bool in_version_control() { return file_status().file_system.value() == FileStatus::clearcase_vob; }
 
@@ -48,6 +53,7 @@ void show_file_status(Frame& frame, const std::string& path, const std::string& 
             GetFilePermissions(frame, facts);
             GetFileStatus(frame, facts, name);
         });
+    await_work(file_status(), hardly_noticed);
 }
 
 void GetFileStatus(Frame& frame, const FileFacts& facts, const std::string& name) {
@@ -149,21 +155,26 @@ Message FilePermissionsSetAll() {
     if (selected.nodes.empty()) {
         return "No files selected";
     }
-    start_work(
-        file_status(), items_label,
+    if (boxes_are_to_come()) {
+        return still_examined;
+    }
+    return work_for(
+        file_status(), changed_label,
         [selected, mode = chosen_mode(), only_look = in_version_control()](Progress& progress) {
             return change_all(selected, mode, only_look, progress);
         },
         [mode = chosen_mode(), typed = in_version_control()](const Changes& changes) {
-            file_status().set_left_footer(typed ? protect_all(changes, mode) : result_of(changes));
+            return typed ? protect_all(changes, mode) : result_of(changes);
         });
-    return {};
 }
 
 Message Set_permissions() {
     const std::string path = file_status().file_name.text();
     if (path.empty()) {
         return "No file selected";
+    }
+    if (boxes_are_to_come()) {
+        return still_examined;
     }
     const mode_t mode = chosen_mode();
     if (in_version_control()) {
@@ -173,18 +184,16 @@ Message Set_permissions() {
         bool done = false;
         FileFacts facts_otherwise;
     };
-    start_work(
-        file_status(), items_label,
+    return work_for(
+        file_status(), changed_label,
         [=](Progress& /*progress*/) {
             const bool done = path.find('\0') == std::string::npos && chmod(path.c_str(), mode) == 0;
             return Change{done, done ? FileFacts{} : examine_file(path)};
         },
-        [](const Change& change) {
+        [](const Change& change) -> Message {
             if (!change.done) {
                 GetFilePermissions(file_status(), change.facts_otherwise);
             }
-            file_status().set_left_footer(change.done ? "Permissions changed"
-                                                      : "Couldn't change permissions");
+            return change.done ? "Permissions changed" : "Couldn't change permissions";
         });
-    return {};
 }

@@ -24,7 +24,8 @@ Message make_root(const std::string& path, std::optional<mode_t> mode) {
     }
     const std::string directory = remove_trailing_slashes(path);
     file_tree_browser().open();
-    return SetRootDisplay(directory.empty() ? "/" : directory);
+    (void)SetRootDisplay(directory.empty() ? "/" : directory);  // the tree's footer tells what comes of it
+    return {};
 }
 
 const WalkRule& one_destination() {

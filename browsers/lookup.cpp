@@ -5,10 +5,10 @@
 #include "browsers/notify.h"
 #include "browsers/paths.h"
 #include "browsers/tree/open_node.h"
+#include "browsers/window_work.h"
 #include "shell/doubleclick.h"
 #include "shell/operands.h"
 #include "shell/send.h"
-#include "toolkit/long_work.h"
 #include "ui/file_tree_browser.h"
 #include "ui/lookup_directories_main.h"
 #include "ui/lookup_directories_tree.h"
@@ -61,12 +61,12 @@ Message message_of(ScanResult result, Said said) {
 using PathStep = std::function<std::string(const std::string& expanded)>;
 
 /// Expands what is in the field, takes a step from there, and lists the subdirectories of where that leads.
-void list_from_field(const Lookup& lookup, const PathStep& step, Said said) {
+Message list_from_field(const Lookup& lookup, const PathStep& step, Said said) {
     struct Found {
         std::string path;
         Scan scan;
     };
-    start_work(
+    return work_for(
         lookup.window, "Names read",
         [written = lookup.field.text(), step](Progress& progress) {
             std::string path = step(path_meant(written));
@@ -77,7 +77,7 @@ void list_from_field(const Lookup& lookup, const PathStep& step, Said said) {
             lookup.field.set_name(listing.path);
             const ScanResult result = add_dir_to_list(lookup.list, std::move(listing.scan));
             lookup.list.clear_selection();
-            lookup.window.set_left_footer(message_of(result, said));
+            return message_of(result, said);
         });
 }
 
@@ -86,7 +86,7 @@ std::string stay(const std::string& path) { return path; }
 /// A double click, or Return, in the list goes down.
 Message go_down(const Lookup& lookup, const ListEvent& event) {
     if (doubleclick(event) || event.kind == ListEvent::Kind::activate) {
-        list_from_field(
+        return list_from_field(
             lookup,
             [name = lookup.list.row(event.row)](const std::string& path) {
                 return path_in(path == "/" ? path : remove_trailing_slashes(path), name);
@@ -100,8 +100,7 @@ Message list_tree_lookup(const PathStep& step, Said said) {
     if (file_tree_browser().root_directory.text().empty()) {
         return "Root directory not specified";
     }
-    list_from_field(tree_lookup(), step, said);
-    return {};
+    return list_from_field(tree_lookup(), step, said);
 }
 
 const Message no_lookup_directory = "Lookup directory not specified";
@@ -127,9 +126,8 @@ Message LookupTreeList(const ListEvent& event) { return go_down(tree_lookup(), e
 void BaseWindowLookup() { lookup_directories_main().open(); }
 
 Message LookupMainDisplay() {
-    list_from_field(
+    return list_from_field(
         main_lookup(), [](const std::string& path) { return path.empty() ? "/" : path; }, Said::hint);
-    return {};
 }
 
 Message LookupMainCurrent() {
@@ -137,17 +135,15 @@ Message LookupMainCurrent() {
     if (current.empty()) {
         return "Current directory not set";
     }
-    list_from_field(
+    return list_from_field(
         main_lookup(), [current](const std::string& /*path*/) { return current; }, Said::hint);
-    return {};
 }
 
 Message LookupMainUp() {
     if (lookup_directories_main().dir.text().empty()) {
         return no_lookup_directory;
     }
-    list_from_field(main_lookup(), parent_directory, Said::hint);
-    return {};
+    return list_from_field(main_lookup(), parent_directory, Said::hint);
 }
 
 Message LookupMainLs() { return type_with_dir(CommandLine("ls -al")); }

@@ -95,8 +95,7 @@ Message FileTreeDoubleClick() {
         window_bell();
         return "Clear all other selection";
     }
-    open_node(node);
-    return {};
+    return open_node(node);
 }
 
 Message FileTreeGoBack() {

@@ -4,11 +4,11 @@
 #include "browsers/listing.h"
 #include "browsers/paths.h"
 #include "browsers/tree/file_tree.h"
+#include "browsers/window_work.h"
 #include "shell/editor.h"
 #include "shell/operands.h"
 #include "shell/process.h"
 #include "shell/text.h"
-#include "toolkit/long_work.h"
 #include "ui/file_list_browser.h"
 #include "ui/file_tree_browser.h"
 
@@ -39,16 +39,17 @@ void add_children(TreeNode* node, std::vector<TreeEntry> entries) {
     }
 }
 
+void show_list(const std::string& /*path*/, int /*count*/) {
+    file_list_browser().open();
+    say("Files displayed in File List Manager");
+}
+
 /// For directories with more entries than the tree is to show.
 void hand_over_to_list(const std::string& path) {
     const Message refusal = list_in_browser({.directory = path,
                                              .name = Listing::Name::exact,
                                              .texts = {.too_many = "Too many files to sort"},
-                                             .listed =
-                                                 [](const std::string& /*path*/, int /*count*/) {
-                                                     file_list_browser().open();
-                                                     say("Files displayed in File List Manager");
-                                                 },
+                                             .listed = show_list,
                                              .failed = say});
     if (!refusal.empty()) {
         say(refusal);
@@ -81,10 +82,12 @@ Examined root_meant(const std::string& written, TreeFilter filter, Progress& pro
     return root;
 }
 
-void show_root(Examined root) {
+/// What stands in the footer is what there is to say.
+Message said() { return file_tree_browser().left_footer(); }
+
+Message show_root(Examined root) {
     if (!root.refusal.empty() || root.listing.result == TreeListing::Result::stopped) {
-        say(root.refusal.empty() ? "Stopped" : root.refusal);
-        return;
+        return root.refusal.empty() ? "Stopped" : root.refusal;
     }
     FileTreeBrowser& browser = file_tree_browser();
     browser.root_directory.set_name(root.path);
@@ -101,15 +104,16 @@ void show_root(Examined root) {
         browser.current_file.set_name(root.path);
     }
     SetupTimerFileTree(centring_delay);
+    return said();
 }
 
-void show_opened(TreeNode* node, Examined examined) {
+Message show_opened(TreeNode* node, Examined examined) {
     if (S_ISREG(examined.glance.mode)) {
-        say(edit_file(examined.path));
-        return;
+        return edit_file(examined.path, EditorAsker::file_tree);
     }
     AddInstanceNames(node, std::move(examined.listing));
     SetupTimerFileTree(centring_delay);
+    return said();
 }
 
 }  // namespace
@@ -141,17 +145,16 @@ Message SetRootDisplay(const std::string& path) {
     if (path.empty()) {
         return "Root directory name not specified";
     }
-    start_work(
+    return work_for(
         file_tree_browser(), items_label,
         [path, filter = filter_of_browser()](Progress& progress) {
             return root_meant(path, filter, progress);
         },
-        [](Examined root) { show_root(std::move(root)); });
-    return {};
+        [](Examined root) { return show_root(std::move(root)); });
 }
 
-void open_node(TreeNode* node) {
-    start_work(
+Message open_node(TreeNode* node) {
+    return work_for(
         file_tree_browser(), items_label,
         [path = file_tag(node).path(), filter = filter_of_browser()](Progress& progress) {
             Examined examined{.path = path};
@@ -163,10 +166,10 @@ void open_node(TreeNode* node) {
             return examined;
         },
         [reference = reference_to(node)](Examined examined) {
-            if (!examined.refusal.empty()) {
-                say(examined.refusal);
-            } else if (TreeNode* const still_there = reference.node()) {
-                show_opened(still_there, std::move(examined));
+            TreeNode* const still_there = reference.node();
+            if (!examined.refusal.empty() || still_there == nullptr) {
+                return examined.refusal;
             }
+            return show_opened(still_there, std::move(examined));
         });
 }

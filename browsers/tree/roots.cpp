@@ -4,11 +4,11 @@
 #include "browsers/paths.h"
 #include "browsers/tree/file_tree.h"
 #include "browsers/tree/open_node.h"
+#include "browsers/window_work.h"
 #include "shell/operands.h"
 #include "shell/process.h"
 #include "shell/selected_text.h"
 #include "shell/send.h"
-#include "toolkit/long_work.h"
 #include "ui/file_tree_browser.h"
 #include "ui/main_window.h"
 
@@ -17,8 +17,6 @@
 namespace {
 
 constexpr std::string_view items_label = "Files examined";
-
-void say(std::string_view message) { file_tree_browser().set_left_footer(message); }
 
 /// "Root Directory:" as its user means it, and whether that is there.
 struct RootField {
@@ -75,7 +73,7 @@ Message SetBookmarkRoot(const std::string& path) { return path.empty() ? "" : Se
 
 Message FileTreeUp() {
     const std::string written = file_tree_browser().root_directory.text();
-    start_work(
+    return work_for(
         file_tree_browser(), items_label,
         [written](Progress& /*progress*/) {
             FileGlance glance;
@@ -83,18 +81,14 @@ Message FileTreeUp() {
             root.is_there = glance_at(root.path, glance);
             return root;
         },
-        [](const RootField& root) {
+        [](const RootField& root) -> Message {
             if (root.path.empty()) {
-                say("Illegal file name");
-                return;
+                return "Illegal file name";
             }
             file_tree_browser().root_directory.set_name(root.is_there ? parent_directory(root.path)
                                                                       : root.path);
-            if (!root.is_there) {
-                say("Illegal directory");
-            }
+            return root.is_there ? "" : "Illegal directory";
         });
-    return {};
 }
 
 Message FileTreeSetDirectory() {
@@ -102,13 +96,12 @@ Message FileTreeSetDirectory() {
     if (written.empty()) {
         return "Directory name not specified";
     }
-    start_work(
+    return work_for(
         file_tree_browser(), items_label,
         [written](Progress& /*progress*/) { return current_directory(written); },
         [](const CurrentDirectory& directory) {
-            say(directory.refusal.empty()
-                    ? send(CommandLine("cd").double_quoted(directory.path), Remember::last_command)
-                    : directory.refusal);
+            return directory.refusal.empty()
+                       ? send(CommandLine("cd").double_quoted(directory.path), Remember::last_command)
+                       : directory.refusal;
         });
-    return {};
 }

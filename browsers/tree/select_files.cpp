@@ -4,7 +4,7 @@
 #include "browsers/tree/file_tree.h"
 #include "browsers/tree/name_pattern.h"
 #include "browsers/tree/walk.h"
-#include "toolkit/long_work.h"
+#include "browsers/window_work.h"
 #include "ui/select_files_window.h"
 
 #include <fmt/printf.h>
@@ -94,7 +94,7 @@ Message select(const Matches& matches, const NodeReference& directory) {
 
 /// Selects what is found below a directory; only what the tree shows is looked through.
 Message SelectFilesInTree(const NodeReference& directory, const Search& search) {
-    start_work(
+    return work_for(
         select_files_window(), "Files examined",
         [candidates = candidates_below(directory.node(), search),
          target = search.target](Progress& progress) {
@@ -102,10 +102,7 @@ Message SelectFilesInTree(const NodeReference& directory, const Search& search) 
             add_matches(candidates, target, progress, matches);
             return matches;
         },
-        [directory](const Matches& matches) {
-            select_files_window().set_left_footer(select(matches, directory));
-        });
-    return {};
+        [directory](const Matches& matches) { return select(matches, directory); });
 }
 
 }  // namespace

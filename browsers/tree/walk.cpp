@@ -2,8 +2,8 @@
 #include "browsers/tree/walk.h"
 
 #include "browsers/tree/file_tree.h"
+#include "browsers/window_work.h"
 #include "toolkit/frame.h"
-#include "toolkit/long_work.h"
 
 #include <algorithm>
 #include <utility>
@@ -75,15 +75,14 @@ Message walk_selection(Frame& asker, const WalkRule& rule, WalkAction action) {
     if (selected.nodes.empty()) {
         return Message(rule.none);
     }
-    start_work(
+    return work_for(
         asker, "Files examined", [selected](Progress& progress) { return examine(selected, progress); },
         [&asker, rule, action = std::move(action)](const Walk& walk) {
             const std::string_view why_not = refusal(rule, walk);
             const Message message = why_not.empty() ? action(walk.nodes) : Message(why_not);
-            asker.set_left_footer(message);
             if (rule.also_tells != nullptr) {
                 rule.also_tells->set_left_footer(message);
             }
+            return message;
         });
-    return {};
 }

@@ -31,12 +31,12 @@ class TreeWindows : public RecordedWindows {
     /// later.
     template <typename Step>
     static std::string footer_after(Step step, Frame& window = file_tree_browser()) {
-        window.set_left_footer(pending);
+        window.set_left_footer("");
         const Message answer = step();
         if (!answer.empty()) {
             return answer;
         }
-        EXPECT_TRUE(wait([&] { return window.left_footer() != pending; }));
+        settle();
         return window.left_footer();
     }
     /// Makes a directory a root and gives its node.
@@ -75,5 +75,12 @@ class TreeWindows : public RecordedWindows {
         return footer_after(FileTreeDoubleClick);
     }
 
-    static constexpr const char* pending = "<pending>";
+    /// Has the work that was started end.
+    static void settle() {
+        EXPECT_TRUE(wait([] {
+            return std::ranges::none_of(all_windows(), [](const Frame* window) {
+                return window->widget()->cursor().shape() == Qt::WaitCursor;
+            });
+        }));
+    }
 };
