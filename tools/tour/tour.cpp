@@ -60,8 +60,10 @@ const std::map<int, std::string> settings{
     {56, "$"},  // the prompt's last character
     {58, "notebook.txt"},
     {60, "messageboard.txt"},
+    {54, "1"},  // the tree's letters: small
     {62, "6"},
     {63, "gvim"},
+    {64, "500"},  // the most files that the tree shows of a directory
 };
 
 struct Stop {
@@ -171,6 +173,31 @@ class Tour {
         take_desktop("file-list-menu");
         press_keys(std::array{"Escape", "Escape", "Escape"});
     }
+    /// Draws a directory as a tree, opens directories in it one after the other, and selects what is named
+    /// last.
+    void show_tree(const std::string& root, const std::vector<std::string>& labels,
+                   const std::string& picture) {
+        const std::string title = "File Tree Browser";
+        const Accessible browser = program_.open(display_, "Browse", "File Tree", title);
+        const Accessible canvas = browser.find({"tree", title + " tree"});
+        if (!browser.find({"text", "Root Directory:"}).set_text(root) ||
+            !browser.find({"push button", "Set Root (root directory)"}).press()) {
+            give_up("\"Root Directory:\" does not take a root");
+        }
+        for (const std::string& label : labels) {
+            Accessible node;
+            if (!wait_until([&] { return static_cast<bool>(node = canvas.find({"table cell", label})); })) {
+                give_up("the tree does not show " + label);
+            }
+            if (!node.take_focus() || !wait_until([&] { return node.focused(); })) {
+                give_up("the keyboard does not come to " + label);
+            }
+            display_.press_key(label == labels.back() ? "space" : "Return");
+        }
+        std::this_thread::sleep_for(std::chrono::milliseconds{600});  // then the view is centred
+        take_window(title, picture);
+        press_escape();
+    }
     /// Opens menus, item by item, and leaves them open for the picture.
     void show_menu(const char* menu, const char* item, const std::string& picture) {
         if (!program_.choose(display_, menu, {item})) {
@@ -240,6 +267,7 @@ void play(Tour& tour, const fs::path& home) {
         tour.show_popup(stop);
     }
     tour.show_file_list(home / "src", "build.sh");
+    tour.show_tree(home / "orvik", {"browsers", "tree", "file_tree.cpp"}, "file-tree");
     tour.choose("My Tools", "Biggest files");
     tour.show_menu("Edit", "Current", "edit-menu");
     tour.show_menu("BM", "Scripts", "bookmark-menu");
@@ -267,6 +295,7 @@ int main(int argc, char** argv) {
             ("cd '" + home.path().string() + "' && sh make-repository && rm make-repository").c_str()) != 0) {
         give_up("the example repository could not be made");
     }
+    fs::create_directory_symlink(ORVIK_DATA "/..", home / "orvik");
     fs::create_directories(argv[2]);
     Program program({.program = argv[1],
                      .data = ORVIK_DATA,
