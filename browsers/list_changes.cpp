@@ -11,6 +11,7 @@
 #include "shell/text.h"
 #include "toolkit/notice.h"
 
+#include <cerrno>
 #include <cstdio>
 
 #include <sys/stat.h>
@@ -63,20 +64,16 @@ Message copy_past(InTheWay hindrance, const std::string& source, const std::stri
     if (hindrance == InTheWay::everything) {
         return "File not copied";
     }
-    const bool may =
-        hindrance == InTheWay::nothing || agreed(file_list_browser(), "File exists. Overwrite it ?", target);
+    const bool may = hindrance == InTheWay::nothing ||
+                     agreed(file_list_browser(), "File exists. Overwrite it ?", {target});
     return may ? copy(source, target) : Message();
 }
 
-Message renamed(RenameResult result) {
-    switch (result) {
-        case RenameResult::renamed:
-            return list_again();
-        case RenameResult::exists:
-            return "File already exists.";
-        default:
-            return "File not renamed";
+Message renamed(int error) {
+    if (error == 0) {
+        return list_again();
     }
+    return error == EEXIST ? "File already exists." : "File not renamed";
 }
 
 }  // namespace
@@ -86,7 +83,7 @@ Message File_menu_remove() {
     if (!file) {
         return file.refusal;
     }
-    if (!agreed(file_list_browser(), "Remove file ?", file.path)) {
+    if (!agreed(file_list_browser(), "Remove file ?", {file.path})) {
         return {};
     }
     return ask_disk([path = entry_of(file.path)] { return remove_file(path); },

@@ -27,15 +27,6 @@ constexpr std::size_t most_bytes = setup_lines * (longest_setup_line + 1);
 
 std::string loaded_file;
 
-const WalkRule& one_parent_directory() {
-    static const WalkRule rule{
-        .none = "No directory selected",
-        .illegal = "Illegal directory",
-        .checks = {{[](const WalkCounts& counts) { return counts.directories != 1 || counts.files > 0; },
-                    "Select one parent directory"}}};
-    return rule;
-}
-
 /// Saves the setup into a directory of the tree, which gets a leaf for it unless it has one.
 Message save_setup_into(const WalkedNode& directory, const std::string& name) {
     const std::string path = path_in(directory.path, name);

@@ -7,17 +7,20 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QStringList>
 
 #include <algorithm>
-#include <vector>
+#include <iterator>
 
 int notice_prompt(Frame& owner, std::string_view message, std::initializer_list<std::string_view> buttons,
-                  DefaultButton default_button, std::string_view detail) {
+                  DefaultButton default_button, const std::vector<std::string>& details) {
     QMessageBox box(owner.widget());
     box.setTextFormat(Qt::PlainText);
     box.setText(to_qstring(message));
-    if (!detail.empty()) {
-        box.setInformativeText(visible_text(detail));
+    if (!details.empty()) {
+        QStringList lines;
+        std::transform(details.begin(), details.end(), std::back_inserter(lines), visible_text);
+        box.setInformativeText(lines.join(u'\n'));
         // It would be taken for HTML otherwise where it looks so.
         for (QLabel* label : box.findChildren<QLabel*>()) {
             label->setTextFormat(Qt::PlainText);
@@ -37,6 +40,6 @@ int notice_prompt(Frame& owner, std::string_view message, std::initializer_list<
     return static_cast<int>(chosen - made.begin());
 }
 
-bool agreed(Frame& owner, std::string_view question, std::string_view detail) {
-    return notice_prompt(owner, question, {"Yes", "Cancel"}, DefaultButton::last, detail) == 0;
+bool agreed(Frame& owner, std::string_view question, const std::vector<std::string>& details) {
+    return notice_prompt(owner, question, {"Yes", "Cancel"}, DefaultButton::last, details) == 0;
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "commands/notify.h"
+#include "toolkit/buttons.h"
 #include "toolkit/fields.h"
 #include "toolkit/frame.h"
 
@@ -11,6 +13,9 @@ struct AddNewDirectory : CommandFrame {
     AddNewDirectory() : CommandFrame("Add New Directory") { directory_name.set_display_length(36); }
 
     TextField directory_name{panel, "Directory Name:"};
+    Row buttons{panel, Place::field};
+    Button add{buttons, "Add", Add_new_directory};
+    Stretch behind_buttons{buttons};
 };
 
 inline std::unique_ptr<AddNewDirectory> Orvik_popup33;

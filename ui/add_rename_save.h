@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "commands/notify.h"
 #include "settings/notify.h"
 #include "toolkit/buttons.h"
 #include "toolkit/fields.h"
@@ -14,6 +15,8 @@ struct AddRenameSave : CommandFrame {
 
     TextField new_name{panel, "New Name:"};
     Row buttons{panel, Place::field};
+    Button rename_button{buttons, "Rename", Rename_file_button};
+    Button new_button{buttons, "New", Add_file_button};
     Button save{buttons, "Save", Save_setup_button};
     Stretch behind_buttons{buttons};
 };

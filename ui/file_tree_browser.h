@@ -2,6 +2,7 @@
 #pragma once
 
 #include "browsers/notify.h"
+#include "commands/notify.h"
 #include "toolkit/buttons.h"
 #include "toolkit/choices.h"
 #include "toolkit/fields.h"
@@ -83,6 +84,8 @@ struct FileTreeBrowser : CommandFrame {
                        .double_click = FileTreeDoubleClick,
                        .selection = FileTreeSelectionChanged,
                        .refresh = FileTreeRefresh,
+                       .rename = FileTreeRename,
+                       .remove = FileTreeRemove,
                        .resize = resize_tree},
                       Menu("Options", options_menu_items),
                       "Set a root directory: type one above, or choose Select"};

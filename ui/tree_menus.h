@@ -19,12 +19,24 @@ inline constexpr std::array select_root_menu_items{
 /// On the canvas.
 inline constexpr std::array options_menu_items{
     MenuItem{"File Operations :"},
+    MenuItem{"Copy", copy_file},
+    MenuItem{"Copy and Rename", copy_rename_file},
+    MenuItem{"Copy from File List", copy_file_from_list},
     MenuItem{"Copy to Working", copy_file_to_work},
+    MenuItem{"Link (Symbolic)", add_link_symbolic},
+    MenuItem{"Move", move_file},
     MenuItem{"Move to working", move_file_to_work},
+    MenuItem{"New", add_file},
+    MenuItem{"Rename", rename_file},
+    MenuItem{"Remove", delete_file},
+    MenuItem{"Replace", replace_file},
     menu_line,
     MenuItem{"Directory Operations :"},
     MenuItem{"Copy to Working", copy_dir_to_work},
     MenuItem{"Move to Working", move_dir_to_work},
+    MenuItem{"New", add_directory},
+    MenuItem{"Rename", rename_directory},
+    MenuItem{"Remove", delete_directory},
     menu_line,
     MenuItem{"Auxiliary Operations :"},
     MenuItem{"Bookmark", add_bookmark},
@@ -36,6 +48,7 @@ inline constexpr std::array options_menu_items{
 
 /// What no other menu carries.
 inline constexpr std::array more_menu_items{
+    MenuItem{"Link (Hard)", add_link_hard},
     MenuItem{"Set Directory", set_directory},
     MenuItem{"Set Parent Root", set_parent_root},
     menu_line,

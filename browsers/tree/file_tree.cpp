@@ -11,6 +11,17 @@
 #include <fmt/format.h>
 #include <sys/stat.h>
 
+namespace {
+
+std::unique_ptr<FileTag> tag_below(const TreeNode* parent, const std::string& label, const std::string& path,
+                                   FileGlance glance) {
+    const FileTag* const above = parent == nullptr ? nullptr : &file_tag(parent);
+    const bool in_its_place = above != nullptr && path_in(above->path(), label) == path;
+    return std::make_unique<FileTag>(label, in_its_place ? std::string() : path, above, std::move(glance));
+}
+
+}  // namespace
+
 TreeCanvas& file_tree() { return file_tree_browser().canvas; }
 
 FileTag& file_tag(const TreeNode* node) { return static_cast<FileTag&>(file_tree().record(node)); }
@@ -30,14 +41,18 @@ TreeNode* AddOneLeaf(const std::string& label, const std::string& path, TreeCanv
         file_tree_browser().set_left_footer("Illegal file");
         return nullptr;
     }
-    const FileTag* above = parent == nullptr ? nullptr : &file_tag(parent);
-    const bool in_its_place = above != nullptr && path_in(above->path(), label) == path;
     const mode_t mode = glance.mode;
-    auto tag =
-        std::make_unique<FileTag>(label, in_its_place ? std::string() : path, above, std::move(glance));
+    auto tag = tag_below(parent, label, path, std::move(glance));
     tag->group = group;
     tag->is_root = is_root;
     return add_leaf(tree, parent, std::move(tag), mode, font_size);
+}
+
+TreeNode* add_examined(const std::string& label, const std::string& path, TreeNode* parent, FileGlance glance,
+                       int font_size, int position) {
+    const mode_t mode = glance.mode;
+    return add_leaf(file_tree(), parent, tag_below(parent, label, path, std::move(glance)), mode, font_size,
+                    position);
 }
 
 TreeNode* GetRootObject(TreeNode* node) {

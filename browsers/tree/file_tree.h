@@ -29,6 +29,10 @@ TreeNode* AddOneLeaf(const std::string& label, const std::string& path, TreeCanv
 TreeNode* add_leaf(TreeCanvas& tree, TreeNode* parent, std::unique_ptr<FileTag> tag, mode_t mode,
                    int font_size, int position = TreeCanvas::at_end);
 
+/// The same for a path below a parent, which need not be that of its directory.
+TreeNode* add_examined(const std::string& label, const std::string& path, TreeNode* parent, FileGlance glance,
+                       int font_size, int position = TreeCanvas::at_end);
+
 /// The root of the tree that holds a node; null when the node is a root itself.
 TreeNode* GetRootObject(TreeNode* node);
 

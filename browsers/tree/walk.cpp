@@ -67,14 +67,26 @@ const WalkedNode& directory_among(const std::vector<WalkedNode>& nodes) {
     return found == nodes.end() ? nodes.front() : *found;
 }
 
-Message walk_selection(Frame& asker, const WalkRule& rule, WalkAction action) {
-    Walk selected;
+std::vector<WalkedNode> selected_nodes() {
+    std::vector<WalkedNode> nodes;
     for (TreeNode* node : rectobj_get_selected_list(file_tree())) {
-        selected.nodes.push_back({.reference = reference_to(node), .path = file_tag(node).path()});
+        nodes.push_back({.reference = reference_to(node), .path = file_tag(node).path()});
     }
-    if (selected.nodes.empty()) {
+    return nodes;
+}
+
+WalkRule one_parent_directory() {
+    return {.none = "No directory selected",
+            .illegal = "Illegal directory",
+            .checks = {{[](const WalkCounts& counts) { return counts.directories != 1 || counts.files > 0; },
+                        "Select one parent directory"}}};
+}
+
+Message walk(Frame& asker, const WalkRule& rule, std::vector<WalkedNode> nodes, WalkAction action) {
+    if (nodes.empty()) {
         return Message(rule.none);
     }
+    Walk selected{.nodes = std::move(nodes)};
     return work_for(
         asker, "Files examined", [selected](Progress& progress) { return examine(selected, progress); },
         [&asker, rule, action = std::move(action)](const Walk& walk) {
@@ -85,4 +97,8 @@ Message walk_selection(Frame& asker, const WalkRule& rule, WalkAction action) {
             }
             return message;
         });
+}
+
+Message walk_selection(Frame& asker, const WalkRule& rule, WalkAction action) {
+    return walk(asker, rule, selected_nodes(), std::move(action));
 }

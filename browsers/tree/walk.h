@@ -49,6 +49,14 @@ const WalkedNode& directory_among(const std::vector<WalkedNode>& nodes);
 /// What an action does with the nodes, all of which are in the tree still. Returns its message.
 using WalkAction = std::function<Message(const std::vector<WalkedNode>&)>;
 
-/// Walks the selection for a window: it is busy meanwhile, and what is to be said then stands in its left
+/// The selected nodes in their order, not examined yet.
+std::vector<WalkedNode> selected_nodes();
+
+/// For what is put into a directory under a new name.
+WalkRule one_parent_directory();
+
+/// Walks nodes for a window: it is busy meanwhile, and what is to be said then stands in its left
 /// footer. Returns what can be said at once.
+Message walk(Frame& asker, const WalkRule& rule, std::vector<WalkedNode> nodes, WalkAction action);
+/// The same for the selection.
 Message walk_selection(Frame& asker, const WalkRule& rule, WalkAction action);

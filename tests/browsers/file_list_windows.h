@@ -3,18 +3,15 @@
 
 #include "shell/doubleclick.h"
 #include "tests/settings/menu_windows.h"
+#include "tests/support/notice_answerer.h"
 #include "ui/file_list_browser.h"
 
 #include <QAbstractButton>
 #include <QLineEdit>
 #include <QListView>
-#include <QMessageBox>
-#include <QTimer>
-
-#include <optional>
 
 /// The "File List Browser" on a directory of its own, "/list" of the home.
-class FileListWindows : public MenuWindows {
+class FileListWindows : public MenuWindows, protected NoticeAnswerer {
   protected:
     void SetUp() override {
         MenuWindows::SetUp();
@@ -61,34 +58,4 @@ class FileListWindows : public MenuWindows {
             QTest::mouseDClick(view().viewport(), Qt::LeftButton, {}, place_of(row));
         });
     }
-    /// Answers the next notice; `asked` has its texts then.
-    void answer(const char* button) {
-        asked.reset();
-        answering_.setSingleShot(false);
-        answering_.setInterval(5);
-        answering_.callOnTimeout(&answering_, [this, button] {
-            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-            if (box == nullptr) {
-                return;
-            }
-            answering_.stop();
-            answering_.disconnect();
-            asked = from_qstring(box->text()) + "|" + from_qstring(box->informativeText());
-            for (QAbstractButton* each : box->buttons()) {
-                if (each->text() == QLatin1String(button)) {
-                    each->click();
-                }
-            }
-        });
-        answering_.start();
-    }
-    void TearDown() override {
-        answering_.stop();
-        MenuWindows::TearDown();
-    }
-
-    std::optional<std::string> asked;
-
-  private:
-    QTimer answering_;
 };

@@ -180,10 +180,10 @@ TEST(FileRename, KeepsOneNameWhenKilledAndTakesNone) {
     home.write("other", "other");
     fs::create_symlink("nowhere", home / "dangling");
     for (const char* name : {"other", "dangling", "a"}) {
-        EXPECT_EQ(rename_to_new(home / "a", home / name), RenameResult::exists) << name;
+        EXPECT_EQ(rename_to_new(home / "a", home / name), EEXIST) << name;
     }
     for (const auto& [from, to] : {std::pair{"none", "new"}, {"a", "none/new"}, {"a", ""}}) {
-        EXPECT_EQ(rename_to_new(home / from, to == ""s ? "" : (home / to).string()), RenameResult::failed);
+        EXPECT_EQ(rename_to_new(home / from, to == ""s ? "" : (home / to).string()), ENOENT);
     }
     for (int i = 0; i < 200; ++i) {
         kill_in([&] {
