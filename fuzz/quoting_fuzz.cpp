@@ -108,6 +108,8 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     check_hook("csh", name);
     check_hook("bash", name);
     require(read_word(script_word(name, ShellFamily::other)) == path, "sh reads another name");
+    require(read_word(script_double_quoted(name, ShellFamily::other)) == path,
+            "sh reads another name in quotes");
     require(read_word(script_text(name, ShellFamily::other)) == name, "sh reads another text");
     require(read_word("'" + inside_single_quotes(name) + "'") == name, "quotes do not hold");
     return 0;

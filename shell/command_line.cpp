@@ -75,7 +75,13 @@ ComposedLine CommandLine::typed_into(const Shell& shell) const {
 
 ComposedLine CommandLine::read_by(ShellFamily shell) const {
     return compose([shell](const Piece& piece) {
-        return std::optional(piece.kind == Kind::text ? script_text(piece.text, shell)
-                                                      : script_word(piece.text, shell));
+        switch (piece.kind) {
+            case Kind::double_quoted:
+                return std::optional(script_double_quoted(piece.text, shell));
+            case Kind::text:
+                return std::optional(script_text(piece.text, shell));
+            default:
+                return std::optional(script_word(piece.text, shell));
+        }
     });
 }

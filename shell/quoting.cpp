@@ -50,6 +50,14 @@ std::string octal_word(std::string_view text, bool keep_high) {
 
 bool begins_like_an_option(std::string_view name) { return name.starts_with('-') || name.starts_with('+'); }
 
+/// Whether neither a shell nor its line editor acts on anything in a name in double quotes but, perhaps,
+/// bytes beyond ASCII.
+bool is_inert_in_double_quotes(std::string_view name) {
+    constexpr std::string_view live = "\"$`\\!";
+    return !name.empty() && !begins_like_an_option(name) &&
+           name.find_first_of(live) == std::string_view::npos && !has_control_characters(name);
+}
+
 /// Without its blanks, bytes that are no text may become some.
 bool is_ordinary_but_for_blanks(std::string_view text, const Shell& shell) {
     return is_plain(text, shell) && is_ordinary(remove_spaces(text), shell);
@@ -114,10 +122,7 @@ std::optional<std::string> shell_word(std::string_view name, const Shell& shell)
 }
 
 std::optional<std::string> double_quoted_word(std::string_view name, const Shell& shell) {
-    constexpr std::string_view live_in_double_quotes = "\"$`\\!";
-    const bool inert = !name.empty() && !begins_like_an_option(name) &&
-                       name.find_first_of(live_in_double_quotes) == std::string_view::npos &&
-                       !has_control_characters(name) && is_plain(name, shell) &&
+    const bool inert = is_inert_in_double_quotes(name) && is_plain(name, shell) &&
                        (shell.family != ShellFamily::unknown || is_ordinary(name, shell));
     return inert ? fmt::format("\"{}\"", name) : shell_word(name, shell);
 }
@@ -138,6 +143,10 @@ std::string script_text(std::string_view text, ShellFamily shell) {
 std::string script_word(std::string_view name, ShellFamily shell) {
     const std::string path = as_operand(name);
     return is_ordinary_but_for_blanks(path, script_reader) ? ConvertSpaces(path) : script_text(path, shell);
+}
+
+std::string script_double_quoted(std::string_view name, ShellFamily shell) {
+    return is_inert_in_double_quotes(name) ? fmt::format("\"{}\"", name) : script_word(name, shell);
 }
 
 std::string inside_single_quotes(std::string_view text) {

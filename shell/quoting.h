@@ -35,6 +35,9 @@ std::string script_text(std::string_view text, ShellFamily shell);
 /// that is enough.
 std::string script_word(std::string_view name, ShellFamily shell);
 
+/// The same in double quotes where they keep the shell from acting on the name.
+std::string script_double_quoted(std::string_view name, ShellFamily shell);
+
 /// A file name as an operand: one that begins like an option, with "-" or "+", gets "./" in front.
 std::string as_operand(std::string_view name);
 

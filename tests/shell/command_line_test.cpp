@@ -18,7 +18,7 @@ TEST(CommandLine, WritesOperandsForItsReader) {
         {CommandLine("cp").path("a").word("."), "cp a .", "cp a ."},
         {CommandLine("cp").path("a b").path("c\nd"), "cp 'a b' $'c\\012d'", "cp a\\ b 'c\nd'"},
         {CommandLine("rm").path("-rf"), "rm ./-rf", "rm ./-rf"},
-        {CommandLine("cd").double_quoted("a b"), "cd \"a b\"", "cd a\\ b"},
+        {CommandLine("cd").double_quoted("a b"), "cd \"a b\"", "cd \"a b\""},
         {CommandLine("cd").double_quoted("$(id)"), "cd '$(id)'", "cd '$(id)'"},
         {CommandLine("vi").escaped("a b").in_background(), "vi a\\ b &", "vi a\\ b &"},
         {CommandLine("vi").escaped("a;b"), "vi 'a;b'", "vi 'a;b'"},

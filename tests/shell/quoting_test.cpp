@@ -33,8 +33,9 @@ TEST(ScriptWord, GivesAnyShellExactlyTheName) {
         std::string script = reader.head;
         std::string expected;
         for (const HostileName& row : hostile_names) {
-            script += "printf '%s\\000' " + script_word(row.name, reader.family) + " >>out\n";
-            expected += as_operand(row.name) + '\0';
+            script += "printf '%s\\000%s\\000' " + script_word(row.name, reader.family) + ' ' +
+                      script_double_quoted(row.name, reader.family) + " >>out\n";
+            expected += as_operand(row.name) + '\0' + as_operand(row.name) + '\0';
         }
         directory.write("script", script);
         const std::string line =
