@@ -2,11 +2,16 @@
 #include "shell/background.h"
 
 #include "shell/command_line.h"
+#include "shell/detached.h"
+#include "shell/process.h"
 #include "tests/support/scratch_directory.h"
 #include "tests/support/wait_until.h"
 #include "ui/message_board.h"
 #include "ui/windows.h"
 
+#include <QTest>
+
+#include <array>
 #include <cerrno>
 #include <csignal>
 #include <fstream>
@@ -47,6 +52,82 @@ TEST_F(Background, TheLineIsShownAndRun) {
     EXPECT_EQ(message_board().text.text(), command + " &\n");
     EXPECT_EQ(result(), "the user's own\n" + home_.path().string() + "\n");
     unsetenv("ORVIK_TEST");
+}
+
+TEST_F(Background, AnEarlyFailureIsTold) {
+    const struct {
+        std::string command;
+        std::string told;
+    } cases[] = {
+        {"true; echo fine >&2", ""},
+        {"exit 3", "Failed with status 3: exit 3\n"},
+        {"kill -9 $$", "Failed with status 137: kill -9 $$\n"},
+        {"echo one >&2; printf 'two\\033\\n' >&2; exit 1",
+         "Failed with status 1: echo one >&2; printf 'two\\033\\n' >&2; exit 1\ntwo \n"},
+        {"(sleep 9 & ) ; no-such-program x",
+         "Failed with status 127: (sleep 9 & ) ; no-such-program x\nsh: 1: no-such-program: not found\n"},
+        {"sh -c 'exec ./plain'",
+         "Failed with status 127: sh -c 'exec ./plain'\nsh: 1: exec: ./plain: not found\n"},
+    };
+    for (const auto& row : cases) {
+        const std::string shown = row.command + " &\n";
+        textsw_reset(message_board().text);
+        run_in_background(CommandLine::of_user(row.command));
+        run_in_background(CommandLine::of_user(recorded("true")));
+        const std::string both = shown + recorded("true") + " &\n" + row.told;
+        EXPECT_EQ(result(), "");
+        EXPECT_TRUE(wait_until([&] { return message_board().text.text() == both; }, patience,
+                               [] { QTest::qWait(5); }))
+            << message_board().text.text();
+        std::filesystem::remove(home_ / "result");
+    }
+}
+
+TEST_F(Background, AFailureIsWatchedForTwoSecondsAndErrorsArePassedOn) {
+    const DetachedShell late = start_detached_shell(recorded("sleep 2.2; exit 1"));
+    EXPECT_EQ(early_failure(late.outcome), std::nullopt);
+    EXPECT_FALSE(std::filesystem::exists(home_ / "result")) << "the answer comes before the end";
+
+    // A process that stands for the tool, with a standard error of its own, ends at once.
+    std::array<int, 2> errors{};
+    ASSERT_EQ(pipe2(errors.data(), O_CLOEXEC), 0);
+    const pid_t tool = fork();
+    if (tool == 0) {
+        dup2(errors[1], STDERR_FILENO);
+        _exit(start_detached_shell("echo early >&2; sleep 2.2; echo late >&2; exit 1").error);
+    }
+    close(errors[1]);
+    ASSERT_EQ(waitpid(tool, nullptr, 0), tool);
+    std::string passed_on;
+    std::array<char, 100> text{};
+    for (ssize_t count = 0; (count = read(errors[0], text.data(), text.size())) > 0;) {
+        passed_on.append(text.data(), static_cast<std::size_t>(count));
+    }
+    close(errors[0]);
+    EXPECT_EQ(passed_on, "early\nlate\n");
+
+    // Nobody reads there any more: what a program writes does not end it.
+    ASSERT_EQ(pipe2(errors.data(), O_CLOEXEC), 0);
+    const pid_t closed = fork();
+    if (closed == 0) {
+        dup2(errors[1], STDERR_FILENO);
+        _exit(start_detached_shell("sleep 2.2; for n in 1 2 3; do /bin/echo x >&2 || exit; sleep .1; done; " +
+                                   recorded("echo alive"))
+                  .error);
+    }
+    close(errors[0]);
+    close(errors[1]);
+    ASSERT_EQ(waitpid(closed, nullptr, 0), closed);
+    std::filesystem::remove(home_ / "result");
+    EXPECT_EQ(result(), "alive\n");
+}
+
+TEST_F(Background, TheToolsOwnCommandsAreFoundFirst) {
+    home_.write_script("bin/open", "#!/bin/sh\necho ours\n");
+    orvik_home = home_.path();
+    run_in_background(CommandLine::of_user(recorded("open; command -v env")));
+    orvik_home.clear();
+    EXPECT_EQ(result(), "ours\n/usr/bin/env\n");
 }
 
 TEST_F(Background, NothingOfTheToolIsInherited) {
@@ -91,7 +172,7 @@ TEST_F(Background, AProgramOutlivesTheToolAndItsTerminal) {
     if (tool == 0) {  // stands for the tool: its group is hung up as its terminal would do it
         setsid();
         std::signal(SIGHUP, SIG_DFL);
-        if (start_detached_shell(line) == 0) {
+        if (start_detached_shell(line).error == 0) {
             kill(0, SIGHUP);
         }
         _exit(1);
@@ -113,7 +194,7 @@ TEST_F(Background, AShellThatCannotBeStartedIsReported) {
     getrlimit(RLIMIT_NOFILE, &limit);
     const rlimit none{.rlim_cur = 0, .rlim_max = limit.rlim_max};
     setrlimit(RLIMIT_NOFILE, &none);
-    EXPECT_EQ(start_detached_shell("true"), EMFILE);
+    EXPECT_EQ(start_detached_shell("true").error, EMFILE);
     setrlimit(RLIMIT_NOFILE, &limit);
 }
 
