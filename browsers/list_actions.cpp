@@ -3,23 +3,19 @@
 #include "browsers/browser_work.h"
 #include "browsers/file_status.h"
 #include "browsers/file_type.h"
-#include "browsers/first_lines.h"
+#include "browsers/head.h"
 #include "browsers/listed_file.h"
 #include "browsers/notify.h"
 #include "shell/background.h"
 #include "shell/editor.h"
-#include "shell/files.h"
-#include "shell/messages.h"
 #include "shell/operands.h"
 #include "shell/print.h"
 #include "shell/program_variable.h"
 #include "shell/send.h"
+#include "shell/viewer.h"
 #include "ui/default_settings.h"
 #include "ui/file_status.h"
-#include "ui/message_board.h"
 #include "ui/remote_copy.h"
-
-#include <cerrno>
 
 #include <fmt/format.h>
 #include <sys/stat.h>
@@ -46,26 +42,6 @@ Message with_examined_file(Ask ask, Action action) {
         missing_for_commands);
 }
 
-/// What "head" shows of a file, or why it cannot.
-struct Head {
-    std::string lines;
-    Message refusal;
-};
-
-Head head_of(const std::string& path) {
-    constexpr int lines = 10;
-    constexpr std::size_t line_length = 1023;
-    const std::optional<mode_t> mode = file_mode(path);
-    if (!mode || !S_ISREG(*mode)) {
-        return {.refusal = mode ? "Not a regular file" : "Illegal file"};
-    }
-    const FileContents file = read_file(path, lines * line_length);
-    if (file.error != 0 && file.error != EFBIG) {
-        return {.refusal = "Can't open file for read"};
-    }
-    return {.lines = std::string(first_lines(file.text, lines, line_length))};
-}
-
 /// Types a command for a file that an environment variable names.
 Message send_to_program(const char* variable, Words value) {
     return with_file([=](const ListedFile& file) {
@@ -85,13 +61,7 @@ Message FileListBrowserEdit() {
 }
 
 Message FileListBrowserDocument() {
-    return with_file([](const ListedFile& file) {
-        Message refusal = unset_program("OPENFRAME");
-        if (refusal.empty()) {
-            run_in_background(CommandLine("$OPENFRAME").path(file.path));
-        }
-        return refusal;
-    });
+    return with_file([](const ListedFile& file) { return view_file(Viewer::framemaker, file.path); });
 }
 
 Message FileListBrowserPrint() {
@@ -101,8 +71,7 @@ Message FileListBrowserPrint() {
         if (!command) {
             return name_refusal(file.name);
         }
-        // The usual command ends in a blank.
-        run_in_background(CommandLine::of_user(*command), users_command.empty() ? " &" : "&");
+        run_in_background(CommandLine::of_user(*command), print_ampersand(users_command));
         return {};
     });
 }
@@ -135,13 +104,8 @@ Message FileListBrowserCd() {
 }
 
 Message FileListBrowserHead() {
-    return with_examined_file(head_of, [](const ListedFile& file, const Head& head) {
-        if (head.refusal.empty()) {
-            report(fmt::format(" \n\n{} \n\n{}", file.path, head.lines));
-            message_board().open();
-        }
-        return head.refusal;
-    });
+    return with_examined_file(head_of,
+                              [](const ListedFile& /*file*/, const Head& head) { return show_head(head); });
 }
 
 Message File_menu_select() {

@@ -35,3 +35,41 @@ Message copy_file_to_work();
 Message move_file_to_work();
 Message copy_dir_to_work();
 Message move_dir_to_work();
+
+// "Options" and "More" menus: what opens, runs, prints and compares the selected files.
+Message archive_files();
+Message list_file();
+Message edit_file();
+Message open_framemaker();
+Message open_pdf();
+Message open_word();
+Message open_html();
+Message open_jpg();
+Message open_tagtool();
+Message open_in_zebra();
+Message header_file();
+Message print_file();
+Message run_bg_file();
+Message run_fg_file();
+Message vcompare_file();
+Message compare_file();
+Message start_xterm();
+Message execute_command();
+
+// "Execute Unix Command".
+Message Execute_unix_command();
+Message UnixCommandExecuteBG();
+
+// "Concatenate Files".
+Message concatenate_files();
+Message ConcatenateRun();
+
+// "Copy To Selected Directory".
+Message copy_to_selected();
+Message CopyToSelectedDir();
+
+// "USB Memory".
+void UsbMemoryOpen();
+Message USBmemoryMount();
+Message USBmemoryUnmount();
+Message USBmemoryDisplay();

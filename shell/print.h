@@ -11,3 +11,8 @@
 /// name for the shell and is not searched for placeholders. Nothing for a name that it cannot be given there.
 std::optional<std::string> print_command(std::string_view users_command, std::string_view path,
                                          std::string_view name);
+
+/// What stands behind that command to run it in the background.
+constexpr std::string_view print_ampersand(std::string_view users_command) {
+    return users_command.empty() ? " &" : "&";
+}

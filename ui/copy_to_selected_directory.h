@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "commands/notify.h"
+#include "toolkit/buttons.h"
 #include "toolkit/fields.h"
 #include "toolkit/frame.h"
 
@@ -10,9 +12,13 @@
 struct CopyToSelectedDirectory : CommandFrame {
     CopyToSelectedDirectory() : CommandFrame("Copy To Selected Directory") {
         file_name.set_display_length(36);
+        copy.set_default();
     }
 
     TextField file_name{panel, "File Name:"};
+    Row buttons{panel, Place::field};
+    Button copy{buttons, "Copy", CopyToSelectedDir};
+    Stretch behind_buttons{buttons};
 };
 
 inline std::unique_ptr<CopyToSelectedDirectory> Orvik_popup35;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "commands/notify.h"
+#include "toolkit/buttons.h"
 #include "toolkit/choices.h"
 #include "toolkit/fields.h"
 #include "toolkit/frame.h"
@@ -16,6 +18,11 @@ struct UsbMemory : CommandFrame {
     }
 
     CheckBox sudo{panel, "Sudo"};
+    Row buttons{panel, Place::field};
+    Button mount{buttons, "Mount", USBmemoryMount};
+    Button unmount{buttons, "Unmount", USBmemoryUnmount};
+    Button display{buttons, "Display", USBmemoryDisplay};
+    Stretch behind_buttons{buttons};
     TextField name{panel, "Name:"};
 };
 

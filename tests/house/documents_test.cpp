@@ -52,6 +52,8 @@ Names variables_in_code() {
     Names names =
         found_in(program(),
                  R"re((?:getenv|environment_value|environment_text|open_with|unset_program)\("([A-Z_]+)")re");
+    // The shell reads those that stand for programs in commands.
+    names.merge(found_in(program(), R"re("(?:open -a )?\$(OPEN[A-Z]+|DIFF)")re"));
     names.merge(Names{"DISPLAY", "LC_ALL", "LC_CTYPE", "LANG"});  // the libraries read them
     return names;
 }
