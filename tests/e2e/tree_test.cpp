@@ -1,59 +1,12 @@
 // SPDX-License-Identifier: MIT
 // The "File Tree Browser" with real bash: a project is drawn, opened, looked at, and gone to.
-#include "tests/e2e/orvik_test.h"
+#include "tests/e2e/tree_window.h"
 
 namespace {
 
-class Tree : public OrvikTest {
-  protected:
-    Tree() {
-        for (const char* file : {"project/src/main.c", "project/src/lib/a.c", "project/Makefile",
-                                 "project/odd\tname", "project/.hidden"}) {
-            home_.write(file, "");
-        }
-    }
-
-    /// The window with the project as its root.
-    void show_project() {
-        start_with_shell("/bin/bash");
-        type("cd project\n");
-        expect_cwd(home_ / "project");
-        browser_ = open_window("File Tree Browser");
-        choose("Select", "Current");
-        expect_awaited([this] { return field(browser_, "Root Directory:"); }, (home_ / "project").string());
-        EXPECT_TRUE(press("Set Root (root directory)"));
-        expect_left("Total number of files : 4. Files displayed : 3");
-        canvas_ = browser_.find({"tree", "File Tree Browser tree"});
-    }
-    void choose(std::string_view menu, std::string_view item) {
-        display().click(browser_.find({"push button", menu}).place());
-        choose_in_open_menu(item);
-    }
-    void choose_in_open_menu(std::string_view item) {
-        const Accessible found = browser_.find({"menu item", item});
-        ASSERT_TRUE(wait_until([&] { return found.showing(); })) << browser_.tree();
-        display().click(found.place());
-    }
-    [[nodiscard]] bool press(std::string_view button) const {
-        return browser_.find({"push button", button}).press();
-    }
-    [[nodiscard]] Accessible node(std::string_view label) const {
-        return canvas_.find({"table cell", label});
-    }
-    void double_click(std::string_view label) {
-        display().click(node(label).place());
-        display().click(node(label).place());
-    }
-    void expect_left(const std::string& expected) const {
-        expect_awaited([this] { return footer(browser_, "left footer"); }, expected);
-    }
-
-    Accessible browser_;
-    Accessible canvas_;
-};
-
 TEST_F(Tree, IsWalkedAndTheShellFollows) {
     show_project();
+    expect_left("Total number of files : 4. Files displayed : 3");
     double_click("src");
     expect_left("Total number of files : 2. Files displayed : 2");
     const std::string top = home_ / "project";
