@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // What listing a large directory costs, beside `ls -lU` on the same one. Needs a display:
 // tests/support/with_display gives it one.
+#include "bench/large_directory.h"
 #include "browsers/file_list.h"
-#include "tests/support/scratch_directory.h"
 #include "ui/file_list_browser.h"
 #include "ui/windows.h"
 
@@ -16,28 +16,6 @@
 #include <fmt/format.h>
 
 namespace {
-
-constexpr int most_files = 9997;
-
-const ScratchDirectory& large_directory() {
-    static const ScratchDirectory directory;
-    static const bool filled = [] {
-        for (int i = 0; i < most_files; ++i) {
-            directory.write(fmt::format("some file {}.cpp", (i * 7919) % most_files), "");
-        }
-        return true;
-    }();
-    (void)filled;
-    return directory;
-}
-
-void ListWithLs(benchmark::State& state) {
-    const std::string command = fmt::format("exec ls -lU '{}' >/dev/null", large_directory().path().string());
-    for (auto _ : state) {
-        benchmark::DoNotOptimize(std::system(command.c_str()));
-    }
-}
-BENCHMARK(ListWithLs)->UseRealTime()->Unit(benchmark::kMillisecond);
 
 /// Read, sort, fill the list of the open browser, and paint.
 void ListInTheBrowser(benchmark::State& state) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What a large tree costs: a directory expanded beside `ls -lU` on the same one, and what a user does in a
 // tree of 100,000 nodes. Needs a display: tests/support/with_display gives it one.
+#include "bench/large_directory.h"
 #include "browsers/tree/file_tree.h"
 #include "browsers/tree/listing.h"
 #include "browsers/tree/open_node.h"
@@ -27,7 +28,6 @@
 
 namespace {
 
-constexpr int most_files = 9997;
 constexpr int many = 100'000;
 
 struct TreeWindow : CommandFrame {
@@ -68,26 +68,6 @@ struct TreeWindow : CommandFrame {
     QAbstractScrollArea* view = nullptr;
     ulong time = 0;  ///< of mouse events
 };
-
-const ScratchDirectory& large_directory() {
-    static const ScratchDirectory directory;
-    static const bool filled = [] {
-        for (int i = 0; i < most_files; ++i) {
-            directory.write(fmt::format("some file {}.cpp", (i * 7919) % most_files), "");
-        }
-        return true;
-    }();
-    (void)filled;
-    return directory;
-}
-
-void ListWithLs(benchmark::State& state) {
-    const std::string command = fmt::format("exec ls -lU '{}' >/dev/null", large_directory().path().string());
-    for (auto _ : state) {
-        benchmark::DoNotOptimize(std::system(command.c_str()));
-    }
-}
-BENCHMARK(ListWithLs)->UseRealTime()->Unit(benchmark::kMillisecond);
 
 /// Read, examined, sorted, added and painted.
 void ExpandInTheTree(benchmark::State& state) {
