@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "shell/current_command.h"
 #include "fuzz/check.h"
 #include "fuzz/input.h"
+#include "shell/current_command.h"
 #include "shell/expand_path.h"
 #include "shell/operands.h"
 #include "shell/text.h"

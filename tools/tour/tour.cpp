@@ -137,7 +137,8 @@ class Tour {
             give_up("no command line waits for the editor");
         }
         take_main_window("waiting-lines");
-        if (!strip().find({"push button", "Drop"}).press() || !wait_until([&] { return !strip().showing(); })) {
+        if (!strip().find({"push button", "Drop"}).press() ||
+            !wait_until([&] { return !strip().showing(); })) {
             give_up("the command line is not dropped");
         }
     }
