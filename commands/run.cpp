@@ -11,7 +11,7 @@
 #include "ui/execute_unix_command.h"
 #include "ui/file_tree_browser.h"
 
-#include <ranges>
+#include <algorithm>
 
 #include <fmt/format.h>
 
@@ -19,12 +19,10 @@ namespace {
 
 /// The last selected node of a kind; null when there is none.
 const WalkedNode* last_of(const std::vector<WalkedNode>& nodes, mode_t kind) {
-    for (const WalkedNode& node : std::views::reverse(nodes)) {
-        if ((node.glance.mode & S_IFMT) == kind) {
-            return &node;
-        }
-    }
-    return nullptr;
+    const auto found = std::find_if(nodes.rbegin(), nodes.rend(), [kind](const WalkedNode& node) {
+        return (node.glance.mode & S_IFMT) == kind;
+    });
+    return found == nodes.rend() ? nullptr : &*found;
 }
 
 /// A program is a directory here, as the bundles of macOS are.

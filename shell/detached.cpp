@@ -176,7 +176,7 @@ void note_child(int /*signal*/) {}
         fail(failure);
     }
     move_descriptor(errors, STDERR_FILENO, failure);
-    move_descriptor(failure, kept_for_failure, kept_for_failure);
+    move_descriptor(failure, kept_for_failure, failure);
     terminal::close_descriptors_from(kept_for_failure + 1, start.descriptor_limit);
     execve(system_shell, start.shell.data(), start.environment.data());
     fail(kept_for_failure);

@@ -87,7 +87,7 @@ Message message_of(const Deeds& deeds, const Doings& doings) {
 }
 
 Message show(const Deeds& deeds, Doings doings, int font_size) {
-    const Message message = message_of(deeds, doings);
+    Message message = message_of(deeds, doings);
     {
         const RepaintHold hold(file_tree());
         for (std::size_t i = 0; i < doings.deeds.size(); ++i) {

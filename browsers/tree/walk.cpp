@@ -91,7 +91,7 @@ Message walk(Frame& asker, const WalkRule& rule, std::vector<WalkedNode> nodes, 
         asker, "Files examined", [selected](Progress& progress) { return examine(selected, progress); },
         [&asker, rule, action = std::move(action)](const Walk& walk) {
             const std::string_view why_not = refusal(rule, walk);
-            const Message message = why_not.empty() ? action(walk.nodes) : Message(why_not);
+            Message message = why_not.empty() ? action(walk.nodes) : Message(why_not);
             if (rule.also_tells != nullptr) {
                 rule.also_tells->set_left_footer(message);
             }
