@@ -118,24 +118,21 @@ bool is_at_prompt(const CurrentCommand& shown, const std::optional<std::string>&
     return !awaited.front().at_prompt && (typed ? shown.text == *typed : settled);
 }
 
-/// Whether a program takes every key itself: what is typed to it cannot come to be a command.
-bool keys_belong_to_program() {
-    const PaneUse use = main_window().termpane.use();
-    return !use.reads_lines && !is_shell(waiting_lines().reader());
-}
-
 }  // namespace
 
 void file_typed_command() {
     constexpr int history_on = 0;
     TerminalPane& terminal = main_window().termpane;
-    if (command_history_setup().history_list.value() != history_on || keys_belong_to_program()) {
+    const bool shell_reads = is_shell(waiting_lines().reader());
+    // What is typed to a program that takes every key itself cannot come to be a command.
+    const bool may_become_command = shell_reads || terminal.use().reads_lines;
+    if (command_history_setup().history_list.value() != history_on || terminal.child() < 0 ||
+        !may_become_command) {
         return;
     }
     const TerminalPane::CurrentLine line = terminal.shown_line();
     const CurrentCommand shown = command_on(line);
     const std::optional<std::string> typed = terminal.typed_line();
-    const bool shell_reads = is_shell(waiting_lines().reader());
     const bool at_prompt = shell_reads && is_at_prompt(shown, typed, line.settled);
     if (at_prompt) {
         awaited.clear();  // was another program's input

@@ -13,7 +13,6 @@
 #include "ui/file_tree_browser.h"
 #include "ui/file_tree_browser_setup.h"
 
-#include <fmt/format.h>
 #include <sys/stat.h>
 
 namespace {
@@ -47,13 +46,11 @@ struct NamedCopy {
 };
 
 NamedCopy copy_into(const std::string& directory, const ListedFile& source, Progress& progress) {
-    for (const std::string& name : {source.name, fmt::format("{}_NEW", source.name)}) {
-        const std::string target = path_in(directory, name);
-        if (!is_there(target)) {
-            return {.name = name, .result = file_copy(target, source.path, &progress)};
-        }
+    const std::optional<std::string> name = name_for_copy(directory, source.name);
+    if (!name) {
+        return {};
     }
-    return {};
+    return {.name = *name, .result = file_copy(path_in(directory, *name), source.path, &progress)};
 }
 
 Message show_copy(const NamedCopy& copy, const WalkedNode& directory) {

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "browsers/listed_file.h"
 
+#include "browsers/paths.h"
 #include "shell/text.h"
 #include "ui/file_list_browser.h"
-
-#include <optional>
 
 #include <fmt/printf.h>
 #include <sys/stat.h>
@@ -20,6 +19,15 @@ std::string path_of(const std::string& name) {
 bool is_there(const std::string& path) {
     struct stat info {};
     return lstat(path.c_str(), &info) == 0;
+}
+
+std::optional<std::string> name_for_copy(const std::string& directory, const std::string& name) {
+    for (std::string free : {name, name + "_NEW"}) {
+        if (!is_there(path_in(directory, free))) {
+            return free;
+        }
+    }
+    return std::nullopt;
 }
 
 std::string listed_name() {

@@ -3,6 +3,7 @@
 
 #include "toolkit/notify.h"
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -23,6 +24,10 @@ struct MissingTexts {
 
 /// Whether anything has a path; a link that leads nowhere is there, too.
 bool is_there(const std::string& path);
+
+/// The name that a copy gets in a directory: the given one or, where something has it, that with "_NEW"
+/// behind. Nothing where both are taken.
+std::optional<std::string> name_for_copy(const std::string& directory, const std::string& name);
 
 /// What "File Name:" stands for. A search that ignores case leaves the row it has found there in lower case:
 /// that means the selected row's file, unless a file of that very name exists.

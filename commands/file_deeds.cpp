@@ -38,14 +38,8 @@ Deed copy_as(const FileAndDirectory& at, const std::string& name) {
 }
 
 Deed copy_into(const FileAndDirectory& at) {
-    std::string name = getfilename(at.file);
-    if (is_there(path_in(at.directory, name))) {
-        name += "_NEW";
-    }
-    if (is_there(path_in(at.directory, name))) {
-        return {.fault = "File alrerady exists", .ends = true};
-    }
-    return copy_as(at, name);
+    const std::optional<std::string> name = name_for_copy(at.directory, getfilename(at.file));
+    return name ? copy_as(at, *name) : Deed{.fault = "File alrerady exists", .ends = true};
 }
 
 Deed move_into(const FileAndDirectory& at) {

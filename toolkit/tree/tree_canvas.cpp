@@ -61,8 +61,6 @@ std::vector<TreeNode*> TreeCanvas::children(const TreeNode* node) const {
     return widget_->tree().children(node);
 }
 
-bool TreeCanvas::has_children(const TreeNode* node) const { return node->children != nullptr; }
-
 TreeNode* TreeCanvas::parent(const TreeNode* node) const { return widget_->tree().parent(node); }
 
 int TreeCanvas::position_among_siblings(const TreeNode* node) const { return widget_->tree().position(node); }

@@ -54,7 +54,6 @@ class TreeCanvas {
     [[nodiscard]] int size() const;  ///< how many nodes there are
     [[nodiscard]] std::vector<TreeNode*> roots() const;
     [[nodiscard]] std::vector<TreeNode*> children(const TreeNode* node) const;
-    [[nodiscard]] bool has_children(const TreeNode* node) const;
     /// Null for a root.
     [[nodiscard]] TreeNode* parent(const TreeNode* node) const;
     /// Among its siblings, or the roots.
