@@ -131,12 +131,11 @@ Message LookupMainDisplay() {
 }
 
 Message LookupMainCurrent() {
-    const std::string current = main_window().cwd.text();
-    if (current.empty()) {
+    if (main_window().cwd.text().empty()) {
         return "Current directory not set";
     }
     return list_from_field(
-        main_lookup(), [current](const std::string& /*path*/) { return current; }, Said::hint);
+        main_lookup(), [](const std::string& /*path*/) { return main_window().cwd.text(); }, Said::hint);
 }
 
 Message LookupMainUp() {
