@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // From a key press to its painted echo: a real window, a real pty and a program that answers each key. Needs
 // a display: tests/support/with_display gives it one.
+#include "bench/floods.h"
 #include "tests/support/scratch_directory.h"
 #include "toolkit/pane/pane.h"
 #include "toolkit/pane/view.h"
@@ -134,38 +135,6 @@ void key_to_echo_while_resized(benchmark::State& state) {
         return state.SkipWithError("the program did not start");
     }
     press_keys(state, typist, Window::is_resized);
-}
-
-std::string coloured_line(int number) {
-    return "\x1b[1;3" + std::to_string(number % 8) + "mline " + std::to_string(number) +
-           "\x1b[0m the quick brown fox jumps over the lazy dog\r\n";
-}
-
-std::string utf8(int code) {
-    return {static_cast<char>(0xc0 | code >> 6), static_cast<char>(0x80 | (code & 0x3f))};
-}
-
-/// Letters with marks over them, ever others: each is laid out anew.
-std::string line_of_clusters(int number) {
-    std::string line;
-    for (int cell = 0; cell < 60; ++cell) {
-        const int serial = number * 60 + cell;
-        line += static_cast<char>('a' + serial % 26);
-        line += utf8(0x300 + serial / 26 % 112) + utf8(0x300 + serial / 2912 % 112);
-    }
-    return line + "\r\n";
-}
-
-/// Few bytes that are much work: a character, 65,535 times over.
-std::string repeated_character(int /*number*/) { return "x\x1b[65535b\r\n"; }
-
-/// Asks the terminal who it is, thirty times a line.
-std::string line_of_queries(int /*number*/) {
-    std::string line;
-    for (int query = 0; query < 30; ++query) {
-        line += "\x1b[c";
-    }
-    return line + "\r\n";
 }
 
 /// While another program shows a large file over and over in the same terminal.

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "bench/floods.h"
 #include "terminal/terminal.h"
 #include "terminal/text.h"
 
@@ -92,6 +93,15 @@ void write_text(benchmark::State& state, const std::string& text, terminal::Size
 void plain(benchmark::State& state) { write_text(state, plain_text(), small); }
 void coloured(benchmark::State& state) { write_text(state, coloured_text(), small); }
 void utf8(benchmark::State& state) { write_text(state, utf8_text(), small); }
+
+void flood(benchmark::State& state, std::string (*line)(int)) {
+    std::string text;
+    for (int number = 0; text.size() < text_size; ++number) {
+        text += line(number);
+    }
+    write_text(state, text, small);
+}
+
 void scrolling_small(benchmark::State& state) { write_text(state, line_feeds(), small); }
 void scrolling_large(benchmark::State& state) { write_text(state, line_feeds(), large); }
 
@@ -153,6 +163,9 @@ void search_exactly(benchmark::State& state) { search(state, terminal::LetterCas
 BENCHMARK(plain);
 BENCHMARK(coloured);
 BENCHMARK(utf8);
+BENCHMARK_CAPTURE(flood, clusters, line_of_clusters);
+BENCHMARK_CAPTURE(flood, queries, line_of_queries);
+BENCHMARK_CAPTURE(flood, repeated, repeated_character);
 BENCHMARK(scrolling_small);
 BENCHMARK(scrolling_large);
 BENCHMARK(scrollback_memory)->Arg(10'000)->Arg(1'000'000)->Unit(benchmark::kMillisecond);

@@ -19,7 +19,7 @@ class InternTable {
   public:
     using Id = std::uint32_t;
 
-    InternTable(std::size_t capacity, Value first) : capacity_(capacity), slots_(first_slots, empty_slot) {
+    InternTable(std::size_t capacity, Value first) : capacity_(capacity), slots_(first_slots) {
         add(std::move(first));
     }
 
@@ -30,13 +30,10 @@ class InternTable {
 
     /// The number of a value, or nothing when the table is full.
     std::optional<Id> intern(const Value& value) {
-        for (std::size_t slot = first_slot(value);; slot = next(slot)) {
-            const Id id = slots_[slot];
-            if (id == empty_slot) {
-                break;
-            }
-            if (values_[id] == value) {
-                return id;
+        const std::uint32_t hash = hash_of(value);
+        for (std::size_t slot = first_slot(hash); slots_[slot].id != no_id; slot = next(slot)) {
+            if (slots_[slot].hash == hash && values_[slots_[slot].id] == value) {
+                return slots_[slot].id;
             }
         }
         if (size() >= capacity_) {
@@ -70,11 +67,15 @@ class InternTable {
 
   private:
     static constexpr std::size_t first_slots = 256;
-    static constexpr Id empty_slot = std::numeric_limits<Id>::max();
+    static constexpr Id no_id = std::numeric_limits<Id>::max();
+    /// With the value's hash most values that differ are told apart without looking for them in memory.
+    struct Slot {
+        Id id = no_id;
+        std::uint32_t hash = 0;
+    };
 
-    [[nodiscard]] std::size_t first_slot(const Value& value) const {
-        return Hash{}(value) & (slots_.size() - 1);
-    }
+    static std::uint32_t hash_of(const Value& value) { return static_cast<std::uint32_t>(Hash{}(value)); }
+    [[nodiscard]] std::size_t first_slot(std::uint32_t hash) const { return hash & (slots_.size() - 1); }
     [[nodiscard]] std::size_t next(std::size_t slot) const { return (slot + 1) & (slots_.size() - 1); }
 
     Id add(Value value) {
@@ -99,14 +100,15 @@ class InternTable {
         return id;
     }
     void enter(Id id) {
-        std::size_t slot = first_slot(values_[id]);
-        while (slots_[slot] != empty_slot) {
+        const std::uint32_t hash = hash_of(values_[id]);
+        std::size_t slot = first_slot(hash);
+        while (slots_[slot].id != no_id) {
             slot = next(slot);
         }
-        slots_[slot] = id;
+        slots_[slot] = {id, hash};
     }
     void rebuild(std::size_t slot_count, const std::vector<bool>& taken) {
-        slots_.assign(slot_count, empty_slot);
+        slots_.assign(slot_count, Slot{});
         for (std::size_t id = 0; id < values_.size(); ++id) {
             if (taken[id]) {
                 enter(static_cast<Id>(id));
@@ -117,7 +119,7 @@ class InternTable {
     std::size_t capacity_;
     std::vector<Value> values_;
     std::vector<Id> free_;
-    std::vector<Id> slots_;  // open addressing with linear probing; a power of two, at most half full
+    std::vector<Slot> slots_;  // open addressing with linear probing; a power of two, at most half full
     std::size_t refused_ = 0;
     std::size_t patience_ = 1;
 };

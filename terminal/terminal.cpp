@@ -60,10 +60,14 @@ void Terminal::finish() {
         count_change();
     }
     if (!replies_.empty()) {
-        client_.reply(replies_);
-        replies_.clear();
+        hand_over_replies();
     }
     assert(is_wholly_consistent());
+}
+
+void Terminal::hand_over_replies() {
+    client_.reply(replies_);
+    replies_.clear();
 }
 
 void Terminal::clear_all() {

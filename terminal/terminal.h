@@ -191,7 +191,7 @@ class Terminal final : private ParserHandler {
     void advance_cursor(int columns, int limit);
     void put(char32_t character);
     void put_visible(char32_t character, int width);
-    void combine(char32_t character);
+    std::size_t combine(std::span<const char32_t> text);
     void wrap();
     [[nodiscard]] int right_limit() const;
     const Cell& blank() { return pen_.blank(tables_); }
@@ -363,6 +363,7 @@ class Terminal final : private ParserHandler {
 
     // functions/report.cpp: replies
     void reply(std::string_view bytes);
+    void hand_over_replies();
     void da1(Function function);
     void da2(Function function);
     void da3(Function function);

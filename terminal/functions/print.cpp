@@ -94,7 +94,9 @@ void Terminal::print(std::span<const char32_t> text) {
     }
     while (!text.empty()) {
         std::size_t count = print_run(text);
-        if (count == 0) {  // the first needs care
+        if (count == 0 && character_width(text.front()) == 0) {
+            count = combine(text);
+        } else if (count == 0) {  // the first needs care
             const char32_t character = text.front();
             put(character < first_extended ? sets_.take(static_cast<char>(character)) : character);
             count = 1;
@@ -158,7 +160,7 @@ void Terminal::advance_cursor(int columns, int limit) {
 void Terminal::put(char32_t character) {
     const int width = character_width(character);
     if (width == 0) {
-        combine(character);
+        combine({&character, 1});
         return;
     }
     last_character_ = character;
@@ -188,30 +190,36 @@ void Terminal::put_visible(char32_t character, int width) {
     advance_cursor(width, limit);
 }
 
-/// Joins a combining character to the one before the cursor. One that finds none is dropped, and so is one
-/// too many.
-void Terminal::combine(char32_t character) {
+/// Joins the combining characters at the front of `text` to the one before the cursor; returns how many there
+/// are. Those that find none are dropped, and so are those too many.
+std::size_t Terminal::combine(std::span<const char32_t> text) {
+    const auto end = std::ranges::find_if(text, [](char32_t each) { return character_width(each) != 0; });
+    const auto count = static_cast<std::size_t>(end - text.begin());
     const bool behind_last = cursor_.wrap_pending || (fills_row_ && last_character_ != 0);
     int column = behind_last ? cursor_.column : cursor_.column - 1;
     if (column > 0 && screen_->cell(cursor_.row, column).is_wide_tail()) {
         --column;
     }
     if (column < 0) {
-        return;
+        return count;
     }
     Cell cell = screen_->cell(cursor_.row, column);
-    std::string text;
-    append_text(cell, text);
-    if (count_characters(text) >= max_cluster_characters) {
-        return;
+    std::string cluster;
+    append_text(cell, cluster);
+    const std::size_t present = count_characters(cluster);
+    if (present >= max_cluster_characters) {
+        return count;
     }
-    append_utf8(character, text);
+    for (const char32_t character : text.first(std::min(count, max_cluster_characters - present))) {
+        append_utf8(character, cluster);
+    }
     spend(cluster_work);
-    const auto id = tables_.intern_cluster(text);
+    const auto id = tables_.intern_cluster(cluster);
     if (id) {
         cell.glyph = (cell.glyph & (Cell::wide | Cell::guarded | Cell::area_guarded)) | Cell::cluster | *id;
         screen_->replace(cursor_.row, column, cell);
     }
+    return count;
 }
 
 /// The text goes on in the next row.
@@ -228,20 +236,40 @@ void Terminal::wrap() {
     cursor_.column = cursor_.column < margins_.left ? 0 : margins_.left;
 }
 
+/// Row by row, from a row made once: so much can be asked for that it must be no more work than other text.
 void Terminal::rep(Function function) {
     if (last_character_ == 0) {
         return;
     }
-    std::array<char32_t, 256> characters;
-    characters.fill(last_character_);
-    const int count = std::min(function.parameters.count(0), size().columns * size().rows);
-    spend(count * character_width(last_character_));
-    for (auto rest = static_cast<std::size_t>(count); rest > 0;) {
-        const std::size_t done = print_run(std::span(characters).first(std::min(rest, characters.size())));
-        if (done == 0) {
-            put_visible(last_character_, character_width(last_character_));
+    const int width = character_width(last_character_);
+    int rest = std::min(function.parameters.count(0), size().columns * size().rows);
+    if (!inner_.autowrap) {
+        rest = std::min(rest, size().columns);  // more would write over the last column
+    }
+    spend(rest * width);
+    const Cell& attributes = pen_.cell(tables_);
+    const std::uint32_t wide = width == 2 ? Cell::wide : 0U;
+    for (std::size_t at = 0; at < run_.size(); ++at) {
+        const bool tail = width == 2 && at % 2 == 1;
+        run_[at] = attributes;
+        run_[at].glyph |= tail ? Cell::wide_tail : last_character_ | wide;
+    }
+    const int longest = static_cast<int>(run_.size()) - 1;
+    while (rest > 0) {
+        if (cursor_.wrap_pending) {
+            wrap();
         }
-        rest -= std::max<std::size_t>(done, 1);
+        const int limit = right_limit();
+        const int count = std::min(std::min(limit - cursor_.column, longest) / width, rest);
+        if (count > 0) {
+            make_room(count * width, limit);
+            screen_->write(cursor_.row, cursor_.column,
+                           std::span(run_).first(static_cast<std::size_t>(count * width)));
+            advance_cursor(count * width, limit);
+        } else {
+            put_visible(last_character_, width);
+        }
+        rest -= std::max(count, 1);
     }
 }
 

@@ -12,21 +12,22 @@ namespace terminal {
 
 namespace {
 
-constexpr int reply_work = 64;  // about as many cells are written in the time
+constexpr int reply_work = 64;                // about as many cells are written in the time
+constexpr std::size_t replies_at_once = 512;  // the user's keys go between
 
 }  // namespace
 
 /// Replies are written in 7-bit form; the C1 controls in them become single bytes for who wants them so. They
-/// are handed over together when the output read with their questions has been worked off.
+/// are handed over whole and some together, at the latest when the output read with their questions has been
+/// worked off.
 void Terminal::reply(std::string_view bytes) {
     spend(reply_work);
-    if (controls_ == Controls::of_7_bits) {
-        replies_ += bytes;
-        return;
-    }
     for (std::size_t i = 0; i < bytes.size(); ++i) {
-        const bool c1 = bytes[i] == '\x1b' && i + 1 < bytes.size();
+        const bool c1 = controls_ == Controls::of_8_bits && bytes[i] == '\x1b' && i + 1 < bytes.size();
         replies_ += c1 ? static_cast<char>(bytes[++i] + 0x40) : bytes[i];
+    }
+    if (replies_.size() >= replies_at_once) {
+        hand_over_replies();
     }
 }
 

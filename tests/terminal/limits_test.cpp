@@ -67,11 +67,11 @@ TEST(Limits, WorkCanBeBounded) {
     EXPECT_EQ(at.terminal.write_within(text, 50'000), text.size());
 }
 
-TEST(Limits, RepliesGoTogether) {
+TEST(Limits, RepliesGoTogetherAndWhole) {
     Screened at;
-    at.terminal.write(repeated("\033[5n", 1'000));
-    EXPECT_EQ(at.recorder.replies, repeated("\033[0n", 1'000));
-    EXPECT_EQ(at.recorder.reply_calls, 1);
+    at.terminal.write(repeated("\033[6n", 1'000));  // 86 of the answers are more than 512 bytes
+    EXPECT_EQ(at.recorder.replies, repeated("\033[1;1R", 1'000));
+    EXPECT_EQ(at.recorder.reply_calls, 12);
 }
 
 TEST(Limits, ParametersAreFewAndSmall) {
