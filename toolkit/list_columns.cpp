@@ -6,7 +6,7 @@
 #include <QAbstractItemView>
 #include <QPainter>
 
-#include <ranges>
+#include <algorithm>
 
 namespace {
 
@@ -34,14 +34,14 @@ void ListColumns::paint(QPainter* painter, const QStyleOptionViewItem& item, con
     painter->save();
     painter->setPen(text_colour(item));
     painter->setFont(item.font);
-    for (const ListColumn& column : std::ranges::reverse_view(columns_)) {
+    std::for_each(columns_.rbegin(), columns_.rend(), [&](const ListColumn& column) {
         room.setRight(room.right() - gap);
         const int width = item.fontMetrics.averageCharWidth() * column.characters;
         const QRect place(room.right() - width, room.top(), width, room.height());
         painter->drawText(place, Qt::AlignRight | Qt::AlignVCenter | Qt::TextSingleLine,
                           visible_text(column.text(index.row())));
         room.setRight(place.left() - gap);
-    }
+    });
     painter->restore();
     row.rect.setRight(room.right());
     QStyledItemDelegate::paint(painter, row, index);

@@ -36,13 +36,11 @@ void TypedLine::type(char byte) {
     const bool is_text = static_cast<unsigned char>(byte) >= ' ' && byte != delete_key;
     if (ends_line(byte)) {
         text_ = std::string();
-    } else if (!text_ || text_->size() == longest_line) {
-        text_.reset();
-    } else if (is_text) {
+    } else if (text_ && is_text && text_->size() < longest_line) {
         *text_ += byte;
-    } else if (byte == delete_key || byte == control('H')) {
+    } else if (text_ && (byte == delete_key || byte == control('H'))) {
         erase_character(*text_);
-    } else if (byte == control('U')) {
+    } else if (text_ && byte == control('U')) {
         text_->clear();
     } else {
         text_.reset();
