@@ -261,11 +261,12 @@ void Terminal::rep(Function function) {
         }
         const int limit = right_limit();
         const int count = std::min(std::min(limit - cursor_.column, longest) / width, rest);
-        if (count > 0) {
-            make_room(count * width, limit);
+        const int columns = count * width;
+        if (columns > 0) {
+            make_room(columns, limit);
             screen_->write(cursor_.row, cursor_.column,
-                           std::span(run_).first(static_cast<std::size_t>(count * width)));
-            advance_cursor(count * width, limit);
+                           std::span(run_).first(static_cast<std::size_t>(columns)));
+            advance_cursor(columns, limit);
         } else {
             put_visible(last_character_, width);
         }
