@@ -81,6 +81,10 @@ Message LookupMainList(const ListEvent& event);
 Message Set_permissions();
 Message FilePermissionsSetAll();
 
+// The button "Plot", and "Plot Setup Window".
+void FileTreePlot();
+Message Plot_to_file();
+
 // "Select Files".
 Message SelectFilesSelectButton();
 

@@ -17,14 +17,14 @@ DISPLAY_PACKAGES=(
 )
 
 # The pictures of the tour, and what it shows.
-TOUR_PACKAGES=("${DISPLAY_PACKAGES[@]}" imagemagick git vim-tiny)
+TOUR_PACKAGES=("${DISPLAY_PACKAGES[@]}" imagemagick git vim-tiny poppler-utils)
 
 # The tests, and the shells they start.
 TEST_PACKAGES=(
     "${RUN_PACKAGES[@]}" "${DISPLAY_PACKAGES[@]}"
     libgtest-dev libbenchmark-dev
     bash tcsh ksh zsh dash busybox fish
-    procps xclip less vim-tiny python3-minimal openssh-client
+    procps xclip less vim-tiny python3-minimal openssh-client ghostscript poppler-utils
 )
 
 # What only a machine for tests should have: it starts a service, so ./test leaves it to its user, and what

@@ -39,6 +39,7 @@ struct FileTreeBrowser : CommandFrame {
     Button clear_tree{actions, "Clear Tree", Clear_tree};
     Button clear_all{actions, "Clear All", FileTreeClearAll};
     MenuButton bookmark_menu{actions, "BM", Menu({})};
+    Button plot{actions, "Plot", FileTreePlot};
     MenuButton more_menu{actions, "More", Menu("More", more_menu_items)};
     Stretch before_directories{actions};
     CheckBox directories_only{actions, "Directories Only"};

@@ -85,7 +85,7 @@ Names keys_in_code() {
 /// `.orvik-message` and `.orvik-vob` belong to mail and ClearCase, which are yet to come.
 Names files_in_code() {
     return found_in(program(),
-                    R"re("[^"\n]*?(\.orvik-(?!message|vob)[a-z]+|Orvik\.setup|\w+(?:book|board)\.txt)\b)re");
+                    R"re("[^"\n]*?(\.orvik-(?!message|vob)[a-z]+|Orvik\.setup|\w+(?:book|board)\.txt|orvik\.plot)\b)re");
 }
 
 /// Where the names of one kind stand.

@@ -64,6 +64,7 @@ const std::map<int, std::string> settings{
     {62, "6"},
     {63, "gvim"},
     {64, "500"},  // the most files that the tree shows of a directory
+    {80, "lp"},
 };
 
 struct Stop {
@@ -197,7 +198,26 @@ class Tour {
         }
         std::this_thread::sleep_for(std::chrono::milliseconds{600});  // then the view is centred
         take_window(title, picture);
+    }
+    /// Plots the tree that is shown as PDF, and makes a picture of the page too.
+    void plot_tree(const std::string& paper, const std::string& scale, const std::string& name) {
+        const std::string title = "Plot Setup Window";
+        if (!program_.window("File Tree Browser").find({"push button", "Plot"}).press()) {
+            give_up("the tree has no button \"Plot\"");
+        }
+        const Accessible window = program_.window(title);
+        const fs::path file = fs::absolute(folder_) / (name + ".pdf");
+        fs::remove(file);
+        if (!window.find({"radio button", "File"}).press() || !window.find({"radio button", paper}).press() ||
+            !window.find({"radio button", scale}).press() ||
+            !window.find({"text", "File Name:"}).set_text(file.string()) ||
+            !window.find({"push button", "Plot"}).press() || !wait_until([&] { return fs::exists(file); })) {
+            give_up("the tree is not plotted: " + window.tree());
+        }
+        take_window(title, "plot-setup");
         press_escape();
+        run("pdftoppm -png -singlefile -r 96 '" + file.string() + "' '" +
+            fs::path(file).replace_extension().string() + "'");
     }
     /// Opens menus, item by item, and leaves them open for the picture.
     void show_menu(const char* menu, const char* item, const std::string& picture) {
@@ -235,12 +255,15 @@ class Tour {
             }
         }
     }
+    static void run(const std::string& command) {
+        if (std::system(command.c_str()) != 0) {
+            give_up("no picture could be made: " + command);
+        }
+    }
     void take(const std::string& picture, const std::string& crop) {
         std::this_thread::sleep_for(std::chrono::milliseconds{300});  // painting is not announced
         const fs::path file = folder_ / (picture + ".png");
-        if (std::system(("import -window root " + crop + "'" + file.string() + "'").c_str()) != 0) {
-            give_up("no picture could be taken: " + file.string());
-        }
+        run("import -window root " + crop + "'" + file.string() + "'");
         std::printf("tour: %s\n", file.c_str());
     }
 
@@ -269,6 +292,8 @@ void play(Tour& tour, const fs::path& home) {
     }
     tour.show_file_list(home / "src", "build.sh");
     tour.show_tree(home / "orvik", {"browsers", "tree", "file_tree.cpp"}, "file-tree");
+    tour.plot_tree("A2", "50%", "plot");
+    tour.press_escape();
     tour.choose("My Tools", "Biggest files");
     tour.show_menu("Edit", "Current", "edit-menu");
     tour.show_menu("BM", "Scripts", "bookmark-menu");
