@@ -118,8 +118,7 @@ Message File_menu_select() {
 Message File_menu_copy_remote() {
     return with_file(
         [](const ListedFile& /*file*/) -> Message {
-            remote_copy().copies_listed_file = true;
-            remote_copy().open();
+            remote_copy().open_for(RemoteCopy::Side::listed_file);
             return {};
         },
         {.directory = "Destination directory not defined", .name = "Destination file name not defined"});

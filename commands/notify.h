@@ -3,6 +3,8 @@
 
 #include "toolkit/notify.h"
 
+struct ListEvent;
+
 // The notify procedures of commands/, bound to controls by the windows and menus in ui/.
 
 // "Options" and "More" menus of the tree: what puts files into the selected directory.
@@ -73,3 +75,40 @@ void UsbMemoryOpen();
 Message USBmemoryMount();
 Message USBmemoryUnmount();
 Message USBmemoryDisplay();
+
+// "Remote Hosts".
+Message RemoteHostsRlogin();
+Message RemoteHostsSsh();
+Message RemoteHostsSetDisplay();
+
+// "Remote File Transfer".
+Message remote_file_transfer();
+Message RemoteFileTransferHost();
+Message RemoteFIleTransferCopyToHost();
+Message RemoteFIleTransferCopyfromHost();
+
+// "Remote copy" and "Copy to Public".
+Message copy_file_remote();
+Message Copy_to_remote_button();
+Message Copy_from_remote_button();
+Message copy_to_public();
+Message CopyToPublicCopy();
+
+// "Pack / Unpack Using Tar".
+Message make_tar_file();
+Message PackUnpackGetDestDir();
+Message MakeTarFileRun();
+Message PackUnpackUsingTarUnpack();
+Message PackUnpackGzip();
+Message PackUnpackGunzip();
+
+// "Send Email" and "Email Addresses".
+Message send_file();
+Message SendMailClear();
+Message SendFIleAddresses();
+Message SendFIleSendButton();
+Message EmailAddressesEdit();
+Message EmailAddressesLoad();
+Message EmailAddressesSave();
+Message EmailAddressesSort();
+Message EmailaAddressesList(const ListEvent& event);

@@ -108,6 +108,12 @@ void Choice::set_value(int value) {
     (button != nullptr ? button : buttons_->button(0))->setChecked(true);
 }
 
+void Choice::set_tool_tip(std::string_view text) {
+    for (QAbstractButton* button : buttons_->buttons()) {
+        button->setToolTip(plain_tool_tip(text));
+    }
+}
+
 CheckBoxes::CheckBoxes(Container& parent, Label label, std::initializer_list<std::string_view> items,
                        Notify notify)
     : buttons_(make_items<QCheckBox>(parent, label, items, Exclusive::no, notify)) {}

@@ -19,6 +19,8 @@ class Choice {
     [[nodiscard]] int value() const;
     /// An index without an item stands for the first item.
     void set_value(int value);
+    /// What the choice is about, shown under the pointer.
+    void set_tool_tip(std::string_view text);
 
   private:
     QButtonGroup* buttons_;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "commands/notify.h"
+#include "toolkit/buttons.h"
 #include "toolkit/choices.h"
 #include "toolkit/fields.h"
 #include "toolkit/frame.h"
@@ -9,7 +11,10 @@
 
 /// "Remote Hosts": the hosts that the shell logs in to.
 struct RemoteHosts : CommandFrame {
-    RemoteHosts() : CommandFrame("Remote Hosts", 2) {}
+    RemoteHosts() : CommandFrame("Remote Hosts", 2) {
+        rlogin.set_tool_tip("rlogin does not encrypt and is rarely installed today");
+        set_display.set_tool_tip("What you start in the shell then shows its windows on that host");
+    }
 
     TextField host_1{panel, "Host 1:"};
     TextField user_id_1{panel, {"User ID:", "User ID: (host 1)"}};
@@ -23,6 +28,11 @@ struct RemoteHosts : CommandFrame {
     TextField user_id_5{panel, {"User ID:", "User ID: (host 5)"}};
     TextField my_host{panel, "My Host:"};
     Choice select_host{panel, "Select Host", {"Host 1", "Host 2", "Host 3", "Host 4", "Host 5", "My Host"}};
+    Row buttons{panel};
+    Button rlogin{buttons, "Rlogin", RemoteHostsRlogin};
+    Button ssh{buttons, "Secure Shell (ssh)", RemoteHostsSsh};
+    Button set_display{buttons, "Set Display", RemoteHostsSetDisplay};
+    Stretch behind_buttons{buttons};
 };
 
 inline std::unique_ptr<RemoteHosts> Orvik_popup19;

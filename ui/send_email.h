@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "commands/notify.h"
+#include "toolkit/buttons.h"
 #include "toolkit/fields.h"
 #include "toolkit/frame.h"
 #include "toolkit/text_pane.h"
@@ -11,6 +13,11 @@
 struct SendEmail : CommandFrame {
     SendEmail() : CommandFrame("Send Email") { text.set_display_size(72, 16); }
 
+    Row buttons{panel};
+    Button clear{buttons, "Clear", SendMailClear};
+    Button addresses{buttons, "Addresses", SendFIleAddresses};
+    Button send{buttons, "Send", SendFIleSendButton};
+    Stretch behind_buttons{buttons};
     TextField to{panel, "To:"};
     TextField cc{panel, "Cc:"};
     TextField subject{panel, "Subject:"};

@@ -22,6 +22,7 @@ inline constexpr std::array options_menu_items{
     MenuItem{"Compare", vcompare_file},
     MenuItem{"Concatenate", concatenate_files},
     MenuItem{"Copy", copy_file},
+    MenuItem{"Copy Remote", copy_file_remote},
     MenuItem{"Copy and Rename", copy_rename_file},
     MenuItem{"Copy from File List", copy_file_from_list},
     MenuItem{"Copy to Selected", copy_to_selected},
@@ -55,6 +56,7 @@ inline constexpr std::array options_menu_items{
     MenuItem{"Bookmark", add_bookmark},
     MenuItem{"Clear Branch", clear_branch},
     MenuItem{"File Status", display_status},
+    MenuItem{"Pack/Unpack File(s)", make_tar_file},
     MenuItem{"Select Files", select_files},
     MenuItem{"Set New Root", set_new_root},
 };
@@ -72,6 +74,9 @@ inline constexpr std::array more_menu_items{
     MenuItem{"Set Parent Root", set_parent_root},
     MenuItem{"Terminal Here", start_xterm},
     menu_line,
+    MenuItem{"Send Email", send_file},
+    MenuItem{"Remote File Transfer", remote_file_transfer},
+    MenuItem{"Copy to Public", copy_to_public},
     MenuItem{"USB Memory", UsbMemoryOpen},
     MenuItem{"Browser Setup", FileTreeBrowserSetupOpen},
 };

@@ -13,10 +13,10 @@ class Tree : public OrvikTest {
         }
     }
 
-    /// The window with the project as its root.
-    void show_project() {
+    /// The window with the project as its root, in a shell that has been given other lines before.
+    void show_project(const std::string& lines = {}) {
         start_with_shell("/bin/bash");
-        type("cd project\n");
+        type(lines + "cd project\n");
         expect_cwd(home_ / "project");
         browser_ = open_window("File Tree Browser");
         choose("Select", "Current");

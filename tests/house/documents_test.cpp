@@ -82,10 +82,11 @@ Names keys_in_code() {
     return names;
 }
 
-/// `.orvik-message` and `.orvik-vob` belong to mail and ClearCase, which are yet to come.
+/// `.orvik-vob` belongs to ClearCase, which is yet to come.
 Names files_in_code() {
-    return found_in(program(),
-                    R"re("[^"\n]*?(\.orvik-(?!message|vob)[a-z]+|Orvik\.setup|\w+(?:book|board)\.txt|orvik\.plot)\b)re");
+    return found_in(
+        program(),
+        R"re("[^"\n]*?(\.orvik-(?!vob)[a-z]+|\.email-addresses|Orvik\.setup|\w+(?:book|board)\.txt|orvik\.plot)\b)re");
 }
 
 /// Where the names of one kind stand.
