@@ -5,6 +5,8 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
+#include <filesystem>
+#include <system_error>
 
 #include <unistd.h>
 
@@ -27,6 +29,21 @@ std::string environment_value(const char* name, const char* failure) {
     return value;
 }
 
+/// ORVIK_HOME; where that is unset, the data that was installed beside this program, and what runs in the
+/// terminal finds them by the variable too.
+std::string installation_directory() {
+    namespace fs = std::filesystem;
+    if (std::getenv("ORVIK_HOME") == nullptr) {
+        std::error_code error;
+        const fs::path program = fs::read_symlink("/proc/self/exe", error);
+        const fs::path installed = program.parent_path().parent_path() / "share/orvik";
+        if (fs::is_directory(installed, error)) {
+            setenv("ORVIK_HOME", installed.c_str(), 1);
+        }
+    }
+    return environment_value("ORVIK_HOME", "Can't get ORVIK_HOME enviroment variable");
+}
+
 }  // namespace
 
 void read_process_values() {
@@ -45,6 +62,6 @@ void read_process_values() {
     user_name = environment_value("LOGNAME", "Can't get login user name");
     shell_name = environment_value("SHELL", "Can't get shell name");
     user_shell = {.family = shell_family(shell_name), .utf8 = environment_is_utf8()};
-    orvik_home = environment_value("ORVIK_HOME", "Can't get ORVIK_HOME enviroment variable");
+    orvik_home = installation_directory();
     pid = getpid();
 }

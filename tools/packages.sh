@@ -31,6 +31,9 @@ TEST_PACKAGES=(
 # needs it is skipped.
 CI_PACKAGES=(openssh-server)
 
+# What builds the Debian package and checks it.
+PACKAGE_PACKAGES=(dpkg-dev file lintian desktop-file-utils appstream groff-base)
+
 # What checks the form of the code.
 TIDY_PACKAGES=(clang-format clang-tidy)
 
