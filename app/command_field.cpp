@@ -12,6 +12,8 @@ Message send_command_field(TextField& field) {
         record_command(command);
         if (default_settings().clear_command_line.value()) {
             field.set_text("");
+        } else {
+            field.select_all();  // the next command takes its place
         }
     }
     return refusal;

@@ -56,4 +56,10 @@ Message BaseWindowLastCommand() {
     return recall_last_command();
 }
 
+Message BaseWindowPreviousCommand() { return history_previous(); }
+
+Message BaseWindowNextCommand() { return history_next(); }
+
+void BaseWindowLeaveCommand() { main_window().termpane.set_focus(); }
+
 Message BaseWindowMoveButton() { return move_typed_command(CommandAsker::move_button); }

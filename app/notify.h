@@ -58,6 +58,9 @@ Message BaseWindowScrollDown();
 Message BaseWindowLastCommand();
 Message BaseWindowClearCommand();
 Message BaseWindowMoveButton();
+Message BaseWindowPreviousCommand();
+Message BaseWindowNextCommand();
+void BaseWindowLeaveCommand();
 
 // Main window: "Quit".
 void Quit_button();

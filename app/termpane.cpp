@@ -116,6 +116,11 @@ bool termpane_event_proc(KeyEvent& event) {
         waiting_lines().user_ended_line();
         return false;
     }
+    if (event.is_control_shift('L')) {
+        main_window().command.set_focus();
+        main_window().command.select_all();
+        return true;
+    }
     if (main_window().termpane.use().full_screen) {
         return false;
     }

@@ -46,8 +46,9 @@ void apply_label(const UserButton& user) {
 
 void show_command(const UserButton& user) {
     const std::string command = (user_buttons().*user.command).text();
-    (main_window().*user.button)
-        .set_tool_tip(command.empty() ? "No command yet: define it in \"User Buttons\"" : command);
+    Button& button = main_window().*user.button;
+    button.set_tool_tip(command.empty() ? "No command yet: define it in \"User Buttons\"" : command);
+    button.set_unset(command.empty());
 }
 
 Message press(const UserButton& user) {

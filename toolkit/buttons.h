@@ -4,9 +4,9 @@
 #include "toolkit/notify.h"
 #include "toolkit/panel.h"
 
-class QPushButton;
+class LabelButton;
 
-/// A push button with a label.
+/// A push button with a label, which is shown shortened where it does not fit, and whole in the tool tip.
 class Button {
   public:
     Button(Container& parent, Label label, Notify notify);
@@ -22,18 +22,23 @@ class Button {
     /// A click leaves the keyboard where it is; the Tab key still gets to the button.
     void leave_focus();
     void set_shown(bool shown);
+    /// Drawn as one that has nothing to do yet; a click still tells so.
+    void set_unset(bool unset);
 
   private:
-    QPushButton* widget_;
+    LabelButton* widget_;
 };
 
-/// A push button with a picture; its name is its tool tip too. A click on it leaves the keyboard where it is.
+/// A push button with a picture. A click on it leaves the keyboard where it is. The tool tip says what it
+/// does in a sentence, with the key that does the same.
 class ImageButton {
   public:
     /// The picture is a file of that name, without ".svg", in the picture directory.
-    ImageButton(Container& parent, std::string_view accessible_name, std::string_view picture, Notify notify);
+    ImageButton(Container& parent, std::string_view accessible_name, std::string_view picture, Notify notify,
+                std::string_view tool_tip);
     /// The picture's name is the button's with "_" for blanks.
-    ImageButton(Container& parent, std::string_view accessible_name, Notify notify);
+    ImageButton(Container& parent, std::string_view accessible_name, Notify notify,
+                std::string_view tool_tip);
 
     /// Where the pictures of all image buttons made later are. Until it is known they have none.
     static void set_picture_directory(std::string_view path);

@@ -14,6 +14,7 @@
 #include <QWidget>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -93,6 +94,11 @@ QButtonGroup* make_items(Container& parent, Label label, std::initializer_list<s
     return buttons;
 }
 
+void call_after_change(const QButtonGroup& buttons, std::function<void()> action) {
+    QObject::connect(&buttons, &QButtonGroup::idToggled, &buttons,
+                     [action = std::move(action)] { action(); });
+}
+
 }  // namespace
 
 Choice::Choice(Container& parent, Label label, std::initializer_list<std::string_view> items, Notify notify)
@@ -111,8 +117,13 @@ void Choice::set_value(int value) {
 void Choice::set_tool_tip(std::string_view text) {
     for (QAbstractButton* button : buttons_->buttons()) {
         button->setToolTip(plain_tool_tip(text));
+        button->setAccessibleDescription(visible_text(text));
     }
 }
+
+QWidget* Choice::widget() const { return static_cast<QWidget*>(buttons_->parent()); }
+
+void Choice::on_change(std::function<void()> action) { call_after_change(*buttons_, std::move(action)); }
 
 CheckBoxes::CheckBoxes(Container& parent, Label label, std::initializer_list<std::string_view> items,
                        Notify notify)
@@ -136,6 +147,10 @@ void CheckBoxes::set_value(unsigned value) {
         button->setChecked(((value >> static_cast<unsigned>(buttons_->id(button))) & 1U) != 0);
     }
 }
+
+QWidget* CheckBoxes::widget() const { return static_cast<QWidget*>(buttons_->parent()); }
+
+void CheckBoxes::on_change(std::function<void()> action) { call_after_change(*buttons_, std::move(action)); }
 
 ColumnHeadings::ColumnHeadings(Container& parent, std::initializer_list<Heading> headings) {
     auto* line = new QWidget(parent.widget());
@@ -162,3 +177,9 @@ CheckBox::CheckBox(Container& parent, Label label)
 bool CheckBox::value() const { return widget_->isChecked(); }
 
 void CheckBox::set_value(bool value) { widget_->setChecked(value); }
+
+void CheckBox::on_change(std::function<void()> action) {
+    QObject::connect(widget_, &QCheckBox::toggled, widget_, [action = std::move(action)] { action(); });
+}
+
+QWidget* CheckBox::widget() const { return widget_; }

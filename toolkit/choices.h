@@ -4,6 +4,7 @@
 #include "toolkit/notify.h"
 #include "toolkit/panel.h"
 
+#include <functional>
 #include <initializer_list>
 #include <string_view>
 
@@ -21,6 +22,9 @@ class Choice {
     void set_value(int value);
     /// What the choice is about, shown under the pointer.
     void set_tool_tip(std::string_view text);
+    /// `action` is called after its user has chosen another item.
+    void on_change(std::function<void()> action);
+    [[nodiscard]] QWidget* widget() const;
 
   private:
     QButtonGroup* buttons_;
@@ -40,6 +44,9 @@ class CheckBoxes {
     [[nodiscard]] unsigned value() const;
     /// Bits without an item are ignored.
     void set_value(unsigned value);
+    /// `action` is called after its user has changed a box.
+    void on_change(std::function<void()> action);
+    [[nodiscard]] QWidget* widget() const;
 
   private:
     QButtonGroup* buttons_;
@@ -62,6 +69,9 @@ class CheckBox {
     CheckBox(Container& parent, Label label);
     [[nodiscard]] bool value() const;
     void set_value(bool value);
+    /// `action` is called after every change, by whomever.
+    void on_change(std::function<void()> action);
+    [[nodiscard]] QWidget* widget() const;
 
   private:
     QCheckBox* widget_;

@@ -27,8 +27,14 @@ class LineEdit : public QLineEdit {
         }
     }
 
+    void set_keys(const FieldKeys& keys) { keys_ = keys; }
+
   protected:
     void keyPressEvent(QKeyEvent* event) override {
+        if (const Notify of_key = procedure_of(*event)) {
+            notify_from(this, of_key);
+            return;
+        }
         QLineEdit::keyPressEvent(event);
         if (is_return(*event) && notify_) {
             event->accept();
@@ -37,7 +43,24 @@ class LineEdit : public QLineEdit {
     }
 
   private:
+    [[nodiscard]] Notify procedure_of(const QKeyEvent& event) const {
+        if ((event.modifiers() & ~Qt::KeypadModifier) != 0) {
+            return {};
+        }
+        switch (event.key()) {
+            case Qt::Key_Up:
+                return keys_.up;
+            case Qt::Key_Down:
+                return keys_.down;
+            case Qt::Key_Escape:
+                return keys_.escape;
+            default:
+                return {};
+        }
+    }
+
     Notify notify_;
+    FieldKeys keys_;
     QString name_;
     QString shown_;
 };
@@ -95,6 +118,8 @@ void TextField::on_change(std::function<void()> action) {
     QObject::connect(widget_, &QLineEdit::textChanged, widget_, [action = std::move(action)] { action(); });
 }
 
+void TextField::set_keys(const FieldKeys& keys) { widget_->set_keys(keys); }
+
 void TextField::set_focus() { widget_->setFocus(); }
 
 void TextField::select_all() { widget_->selectAll(); }
@@ -106,6 +131,8 @@ void TextField::set_display_length(int characters) {
 }
 
 void TextField::set_tool_tip(std::string_view text) { widget_->setToolTip(plain_tool_tip(text)); }
+
+QWidget* TextField::widget() const { return widget_; }
 
 NumberField::NumberField(Container& parent, Label label, int initial, Notify notify)
     : widget_(new SpinBox(notify, parent.widget())) {
@@ -122,3 +149,9 @@ NumberField::NumberField(Container& parent, Label label, int initial, Notify not
 int NumberField::value() const { return widget_->value(); }
 
 void NumberField::set_value(int value) { widget_->setValue(value); }
+
+void NumberField::on_change(std::function<void()> action) {
+    QObject::connect(widget_, &QSpinBox::valueChanged, widget_, [action = std::move(action)] { action(); });
+}
+
+QWidget* NumberField::widget() const { return widget_; }

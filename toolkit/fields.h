@@ -11,6 +11,13 @@
 class LineEdit;
 class QSpinBox;
 
+/// What keys besides Return do in a field; where there is nothing, they do the usual.
+struct FieldKeys {
+    Notify up;
+    Notify down;
+    Notify escape;
+};
+
 /// One line of text with a label. Line feeds cannot be entered; bytes that are not UTF-8 are kept.
 class TextField {
   public:
@@ -25,6 +32,7 @@ class TextField {
     void set_name(std::string_view name);
     /// `action` is called after every change of the text, by whomever. For showing it elsewhere.
     void on_change(std::function<void()> action);
+    void set_keys(const FieldKeys& keys);
     void set_focus();
     void select_all();
     /// Scrolls to the first character: a text that does not fit shows its end otherwise.
@@ -33,6 +41,7 @@ class TextField {
     void set_display_length(int characters);
     /// What the field is for, shown under the pointer.
     void set_tool_tip(std::string_view text);
+    [[nodiscard]] QWidget* widget() const;
 
   private:
     LineEdit* widget_;
@@ -45,6 +54,9 @@ class NumberField {
     NumberField(Container& parent, Label label, int initial = 0, Notify notify = nullptr);
     [[nodiscard]] int value() const;
     void set_value(int value);
+    /// `action` is called after every change of the number, by whomever.
+    void on_change(std::function<void()> action);
+    [[nodiscard]] QWidget* widget() const;
 
   private:
     QSpinBox* widget_;

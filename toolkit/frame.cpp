@@ -4,6 +4,7 @@
 #include "toolkit/accessible_role.h"
 #include "toolkit/answer.h"
 #include "toolkit/footer.h"
+#include "toolkit/mnemonics.h"
 #include "toolkit/return_key.h"
 #include "toolkit/standing.h"
 #include "toolkit/text_conversion.h"
@@ -90,6 +91,10 @@ class FrameWidget : public QWidget {
     }
 
   protected:
+    void showEvent(QShowEvent* event) override {
+        assign_mnemonics(*this);
+        QWidget::showEvent(event);
+    }
     void hideEvent(QHideEvent* event) override {
         if (!event->spontaneous() && placed_ && pos() != placed_ && frame_is_known()) {
             users_place_ = pos();

@@ -3,6 +3,7 @@
 
 #include "toolkit/answer.h"
 #include "toolkit/elided.h"
+#include "toolkit/mnemonics.h"
 #include "toolkit/text_conversion.h"
 
 #include <QMenu>
@@ -24,6 +25,7 @@ Menu::Menu(std::string_view title, std::span<const MenuItem> items) : menu_(std:
         QObject::connect(action, &QAction::triggered, menu_.get(),
                          [menu = menu_.get(), notify = item.notify] { notify_from(menu, notify); });
     }
+    assign_mnemonics(*menu_);
 }
 
 Menu::~Menu() = default;
@@ -80,6 +82,7 @@ Menu& Menu::add_pull_right(std::string_view label, Menu menu, Notify about_to_sh
     QAction* item = menu_->addMenu(added.widget());
     item->setText(without_mnemonic(label));
     item->setEnabled(about_to_show || added.has_entries());
+    assign_mnemonics(*menu_);
     if (about_to_show) {
         QObject::connect(added.widget(), &QMenu::aboutToShow, added.widget(),
                          [menu = added.widget(), about_to_show] { notify_from(menu, about_to_show); });

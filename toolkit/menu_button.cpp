@@ -4,6 +4,7 @@
 #include "toolkit/answer.h"
 #include "toolkit/button_picture.h"
 #include "toolkit/elided.h"
+#include "toolkit/mnemonics.h"
 #include "toolkit/text_conversion.h"
 
 #include <QAccessibleWidget>
@@ -23,23 +24,27 @@ class MenuPushButton : public QPushButton {
         setFocusPolicy(Qt::TabFocus);  // a click leaves the keyboard where it is
         setText(label);  // not sooner: it makes the accessible interface, which is chosen by the type so far
         set_menu(menu);
+        connect(this, &QPushButton::clicked, this, [this] { show_menu(); });  // its mnemonic
     }
 
     [[nodiscard]] QMenu& menu() const { return *menu_; }
     void set_menu(QMenu& menu) {
         menu_ = &menu;
         menu.setParent(this, menu.windowFlags());
+        menu.installEventFilter(this);
         connect(&menu, &QMenu::aboutToHide, this, [this] { setDown(false); });
     }
     void set_about_to_open(Notify notify) { about_to_open_ = notify; }
-    void show_menu() {
+    /// Whether there was something to show.
+    bool show_menu() {
         notify_from(this, about_to_open_);
         if (menu_->isEmpty()) {
-            return;
+            return false;
         }
         setDown(true);
         menu_->setAttribute(Qt::WA_NoMouseReplay);  // a press on the button closes the open menu and no more
         menu_->popup(mapToGlobal(rect().bottomLeft()));
+        return true;
     }
 
     [[nodiscard]] QSize sizeHint() const override {
@@ -48,7 +53,7 @@ class MenuPushButton : public QPushButton {
         initStyleOption(&option);
         const int indicator = style()->pixelMetric(QStyle::PM_MenuButtonIndicator, &option, this);
         const int picture = icon().isNull() ? 0 : iconSize().width();
-        const int wide = fontMetrics().horizontalAdvance(text()) + picture + indicator + padding;
+        const int wide = fontMetrics().horizontalAdvance(shown_label(text())) + picture + indicator + padding;
         return {wide, QPushButton::sizeHint().height()};
     }
 
@@ -74,8 +79,38 @@ class MenuPushButton : public QPushButton {
                 QPushButton::keyPressEvent(event);
         }
     }
+    /// Left and Right in the menu lead to those of the buttons beside this one, as on a menu bar.
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::KeyPress && watched == menu_) {
+            const auto& key = *static_cast<const QKeyEvent*>(event);
+            const QAction* item = menu_->activeAction();
+            const bool opens = item != nullptr && item->menu() != nullptr && item->isEnabled();
+            if (key.key() == Qt::Key_Left || (key.key() == Qt::Key_Right && !opens)) {
+                walk(key.key() == Qt::Key_Left ? -1 : 1);
+                return true;
+            }
+        }
+        return QPushButton::eventFilter(watched, event);
+    }
 
   private:
+    void walk(qsizetype step) {
+        QList<MenuPushButton*> row;
+        for (QPushButton* button : parentWidget()->findChildren<QPushButton*>()) {
+            if (auto* const beside = dynamic_cast<MenuPushButton*>(button)) {
+                row.append(beside);
+            }
+        }
+        const qsizetype own = row.indexOf(this);
+        menu_->close();
+        for (qsizetype steps = 1; steps <= row.size(); ++steps) {
+            MenuPushButton& next = *row[(own + steps * (row.size() + step)) % row.size()];
+            if (next.isVisible() && next.show_menu()) {
+                return;
+            }
+        }
+    }
+
     QMenu* menu_ = nullptr;
     Notify about_to_open_;
 };
@@ -150,4 +185,7 @@ void MenuButton::set_label(std::string_view label) {
     widget_->setAccessibleName(to_qstring(label));
 }
 
-void MenuButton::set_tool_tip(std::string_view text) { widget_->setToolTip(plain_tool_tip(text)); }
+void MenuButton::set_tool_tip(std::string_view text) {
+    widget_->setToolTip(plain_tool_tip(text));
+    widget_->setAccessibleDescription(visible_text(text));
+}

@@ -2,6 +2,7 @@
 #include "toolkit/notice.h"
 
 #include "toolkit/frame.h"
+#include "toolkit/mnemonics.h"
 #include "toolkit/text_conversion.h"
 
 #include <QLabel>
@@ -33,6 +34,7 @@ int notice_prompt(Frame& owner, std::string_view message, std::initializer_list<
         made.push_back(box.addButton(without_mnemonic(label), QMessageBox::ActionRole));
         made.back()->setAccessibleName(to_qstring(label));
     }
+    assign_mnemonics(box);
     box.setDefaultButton(default_button == DefaultButton::first ? made.front() : made.back());
     box.setEscapeButton(made.back());
     box.exec();

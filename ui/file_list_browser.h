@@ -36,18 +36,27 @@ struct FileListBrowser : CommandFrame {
     Stretch behind_menus{menus};
 
     Row actions{panel};
-    ImageButton edit{actions, "edit", FileListBrowserEdit};
-    ImageButton document{actions, "document", "list_document", FileListBrowserDocument};
-    ImageButton print{actions, "print", FileListBrowserPrint};
-    ImageButton home{actions, "home", FileListBrowserHome};
-    ImageButton config_spec{actions, "config spec", FileListBrowserConfigSpec};
-    ImageButton current{actions, "current", FileListBrowserCurrent};
-    ImageButton bookmark{actions, "bookmark", FileListBrowserBookmark};
-    ImageButton permissions{actions, "permissions", FileListBrowserPermissions};
-    ImageButton set_root{actions, "set root", FileListBrowserSetRoot};
-    ImageButton copy_to_working{actions, "copy to working", FileListBrowserCopyToWorking};
-    ImageButton copy_to_tree{actions, "copy to tree", FileListBrowserCopyToTree};
-    ImageButton head{actions, "head", FileListBrowserHead};
+    ImageButton edit{actions, "edit", FileListBrowserEdit, "Open the file in your text editor"};
+    ImageButton document{actions, "document", "list_document", FileListBrowserDocument,
+                         "Open the file as a document, with the command in OPENFRAME"};
+    ImageButton print{actions, "print", FileListBrowserPrint, "Print the file"};
+    ImageButton home{actions, "home", FileListBrowserHome, "List your home directory"};
+    ImageButton config_spec{actions, "config spec", FileListBrowserConfigSpec,
+                            "List the directory of the config specs"};
+    ImageButton current{actions, "current", FileListBrowserCurrent,
+                        "List the current directory of the shell"};
+    ImageButton bookmark{actions, "bookmark", FileListBrowserBookmark,
+                         "Make a bookmark of the file or directory"};
+    ImageButton permissions{actions, "permissions", FileListBrowserPermissions,
+                            "Show the owner, size, times and permissions of the file"};
+    ImageButton set_root{actions, "set root", FileListBrowserSetRoot,
+                         "Make this directory the root of the file tree"};
+    ImageButton copy_to_working{actions, "copy to working", FileListBrowserCopyToWorking,
+                                "Copy the file into the current directory of the shell"};
+    ImageButton copy_to_tree{actions, "copy to tree", FileListBrowserCopyToTree,
+                             "Copy the file into the directory selected in the file tree"};
+    ImageButton head{actions, "head", FileListBrowserHead,
+                     "Show the first ten lines of the file on the Message Board"};
     Stretch behind_actions{actions};
 
     ScrollingList list{panel, "File List Browser list", File_manager_list};
@@ -67,7 +76,7 @@ struct FileListBrowser : CommandFrame {
     Choice case_filter{filtering, {"Case", "Case (filter)"}, {"No", "Yes"}};
     Button display_all{filtering, "Display All", FileListBrowserDisplayAll};
     Button filter{filtering, "Filter", FileListBrowserFilter};
-    ImageButton cd{filtering, "cd", FileListBrowserCd};
+    ImageButton cd{filtering, "cd", FileListBrowserCd, "Change the shell to this directory"};
     TextField start_string{panel, "Start String:"};
     TextField text_string{panel, "Text String"};
 

@@ -57,27 +57,38 @@ struct FileTreeBrowser : CommandFrame {
 
     Row tree{*this};
     ControlGrid side{tree, 2};
-    ImageButton go_back{side, "go back", FileTreeGoBack};
-    ImageButton go_forward{side, "go forward", FileTreeGoForward};
-    ImageButton find_selection{side, "find selection", FileTreeFindSelection};
-    ImageButton find_root{side, "find root", FileTreeFindRoot};
-    ImageButton trace_back{side, "trace back", FileTreeTraceBack};
-    ImageButton select_all{side, "select all", FileTreeSelectAll};
+    ImageButton go_back{side, "go back", FileTreeGoBack, "Go to the parent of what is selected"};
+    ImageButton go_forward{side, "go forward", FileTreeGoForward, "Go down again to where you came from"};
+    ImageButton find_selection{side, "find selection", FileTreeFindSelection, "Scroll to what is selected"};
+    ImageButton find_root{side, "find root", FileTreeFindRoot, "Scroll to the root of the tree"};
+    ImageButton trace_back{side, "trace back", FileTreeTraceBack,
+                           "Select all directories from here up to the root"};
+    ImageButton select_all{side, "select all", FileTreeSelectAll,
+                           "Select everything directly below the selected directory"};
     NewGroup scrolling{side};
-    ImageButton scroll_upper_left{side, "scroll to upper left", FileTreeScrollUpperLeft};
-    ImageButton scroll_upper_right{side, "scroll to upper right", FileTreeScrollUpperRight};
-    ImageButton scroll_lower_left{side, "scroll to lower left", FileTreeScrollLowerLeft};
-    ImageButton scroll_lower_right{side, "scroll to lower right", FileTreeScrollLowerRight};
-    ImageButton scroll_right{side, "scroll right", FileTreeScrollRight};
-    ImageButton scroll_left{side, "scroll left", FileTreeScrollLeft};
-    ImageButton scroll_up{side, "scroll up", "tree_scroll_up", FileTreeScrollUp};
-    ImageButton scroll_down{side, "scroll down", "tree_scroll_down", FileTreeScrollDown};
+    ImageButton scroll_upper_left{side, "scroll to upper left", FileTreeScrollUpperLeft,
+                                  "Show the upper left corner of the tree"};
+    ImageButton scroll_upper_right{side, "scroll to upper right", FileTreeScrollUpperRight,
+                                   "Show the upper right corner of the tree"};
+    ImageButton scroll_lower_left{side, "scroll to lower left", FileTreeScrollLowerLeft,
+                                  "Show the lower left corner of the tree"};
+    ImageButton scroll_lower_right{side, "scroll to lower right", FileTreeScrollLowerRight,
+                                   "Show the lower right corner of the tree"};
+    ImageButton scroll_right{side, "scroll right", FileTreeScrollRight, "Scroll 400 pixels to the right"};
+    ImageButton scroll_left{side, "scroll left", FileTreeScrollLeft, "Scroll 400 pixels to the left"};
+    ImageButton scroll_up{side, "scroll up", "tree_scroll_up", FileTreeScrollUp, "Scroll 200 pixels up"};
+    ImageButton scroll_down{side, "scroll down", "tree_scroll_down", FileTreeScrollDown,
+                            "Scroll 200 pixels down"};
     NewGroup windows{side};
-    ImageButton refresh{side, "refresh", FileTreeRefresh};
-    ImageButton full_size{side, "full size", FileTreeFullSize};
-    ImageButton normal_size{side, "normal size", FileTreeNormalSize};
-    ImageButton iconify_main_window{side, "iconify the main window", FileTreeIconifyMainWindow};
-    ImageButton show_main_window{side, "show the main window", FileTreeShowMainWindow};
+    ImageButton refresh{side, "refresh", FileTreeRefresh, "Draw the tree anew (F5)"};
+    ImageButton full_size{side, "full size", FileTreeFullSize,
+                          "Make the browser large and put it over the main window"};
+    ImageButton normal_size{side, "normal size", FileTreeNormalSize,
+                            "Make the browser smaller and put it beside the main window"};
+    ImageButton iconify_main_window{side, "iconify the main window", FileTreeIconifyMainWindow,
+                                    "Close the main window to its icon"};
+    ImageButton show_main_window{side, "show the main window", FileTreeShowMainWindow,
+                                 "Open the main window again"};
 
     TreeCanvas canvas{tree,
                       "File Tree Browser tree",

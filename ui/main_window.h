@@ -27,6 +27,7 @@ struct MainWindow : Frame {
     MainWindow() : Frame("Orvik Command Tool") {
         cwd.set_display_length(12);
         command.set_display_length(12);
+        command.set_keys({BaseWindowPreviousCommand, BaseWindowNextCommand, BaseWindowLeaveCommand});
         for (Button* button : {&user_button_1, &user_button_2, &user_button_3, &user_button_4, &user_button_5,
                                &user_button_6}) {
             button->share_width();
@@ -40,6 +41,7 @@ struct MainWindow : Frame {
         drop_waiting.set_tool_tip("Drop all lines that wait");
         waiting_list.set_display_size(20, 4);
         waiting_rows.set_shown(false);
+        history_menu.set_tool_tip("The commands given last");
         bookmark_menu.set_tool_tip("Bookmarks: none yet, see \"Bookmarks\" in the \"Setup\" menu");
         resize(normal_width, normal_height);
     }
@@ -62,32 +64,47 @@ struct MainWindow : Frame {
     TextField cwd{control_panel, "Cwd:"};
 
     Row actions{control_panel, Place::field};
-    ImageButton directory_up{actions, "directory up", Directory_up_button};
-    ImageButton directory_down{actions, "directory down", Directory_down_button};
-    ImageButton execute_foreground{actions, "execute foreground", Execute_FG_button};
-    ImageButton execute_background{actions, "execute background", Execute_BG_button};
-    ImageButton copy{actions, "copy", OrvikWindowCopyButton};
-    ImageButton copy_to_notebook{actions, "copy to notebook", CopyToMessageBoard};
-    ImageButton bookmark{actions, "bookmark", BaseWindowBookmark};
-    ImageButton add_bookmark_button{actions, "add bookmark", BaseWindowAddBookmark};
-    ImageButton floating_command_line{actions, "floating command line", FloatingCommandLine};
-    ImageButton set_alias{actions, "set alias", BaseWindowSetAlias};
-    ImageButton wide{actions, "wide", Set_wide_screen};
-    ImageButton normal{actions, "normal", Set_normal_width};
-    ImageButton tall{actions, "tall", Set_small_font};
-    ImageButton clear_terminal{actions, "clear terminal", Set_large_font};
-    ImageButton lookup_directories{actions, "lookup directories", BaseWindowLookup};
-    ImageButton command_list{actions, "command list", BaseWindowCommandList};
+    ImageButton directory_up{actions, "directory up", Directory_up_button,
+                             "Go to the parent directory and list it (F4)"};
+    ImageButton directory_down{actions, "directory down", Directory_down_button,
+                               "Go to the selected directory and list it (F5)"};
+    ImageButton execute_foreground{actions, "execute foreground", Execute_FG_button,
+                                   "Run the program that the selection names"};
+    ImageButton execute_background{actions, "execute background", Execute_BG_button,
+                                   "Run the program that the selection names in the background"};
+    ImageButton copy{actions, "copy", OrvikWindowCopyButton,
+                     "Type the selection into the shell, for you to complete (F6)"};
+    ImageButton copy_to_notebook{actions, "copy to notebook", CopyToMessageBoard,
+                                 "Append the selection to the Notebook"};
+    ImageButton bookmark{actions, "bookmark", BaseWindowBookmark, "Make a bookmark of the selected file"};
+    ImageButton add_bookmark_button{actions, "add bookmark", BaseWindowAddBookmark,
+                                    "Make a bookmark of the current directory"};
+    ImageButton floating_command_line{actions, "floating command line", FloatingCommandLine,
+                                      "Open the Command Window, a line for long commands"};
+    ImageButton set_alias{actions, "set alias", BaseWindowSetAlias,
+                          "Type the prompt hook again, in a shell within the shell"};
+    ImageButton wide{actions, "wide", Set_wide_screen, "Make the window wide"};
+    ImageButton normal{actions, "normal", Set_normal_width, "Give the window its first size again"};
+    ImageButton tall{actions, "tall", Set_small_font, "Make the window high"};
+    ImageButton clear_terminal{actions, "clear terminal", Set_large_font, "Empty the terminal"};
+    ImageButton lookup_directories{actions, "lookup directories", BaseWindowLookup,
+                                   "Look through directories step by step"};
+    ImageButton command_list{actions, "command list", BaseWindowCommandList,
+                             "Open the list of your ready-made commands"};
     Stretch behind_actions{actions};
 
     Row command_row{control_panel, "Command:"};
     TextField command{command_row, {"", "Command:"}, Command_text_line};
     MenuButton history_menu{command_row, "history", "history", Bottom_buttons_menu};
-    ImageButton scroll_up{command_row, "scroll up", BaseWindowScrollUp};
-    ImageButton scroll_down{command_row, "scroll down", BaseWindowScrollDown};
-    ImageButton last_command{command_row, "last command", BaseWindowLastCommand};
-    ImageButton clear_command{command_row, "clear command", BaseWindowClearCommand};
-    ImageButton move{command_row, "move", BaseWindowMoveButton};
+    ImageButton scroll_up{command_row, "scroll up", BaseWindowScrollUp,
+                          "Fetch the previous command of the history (Up)"};
+    ImageButton scroll_down{command_row, "scroll down", BaseWindowScrollDown,
+                            "Fetch the next command of the history (Down)"};
+    ImageButton last_command{command_row, "last command", BaseWindowLastCommand,
+                             "Fetch the last command (Ctrl+L in the terminal)"};
+    ImageButton clear_command{command_row, "clear command", BaseWindowClearCommand, "Empty the line"};
+    ImageButton move{command_row, "move", BaseWindowMoveButton,
+                     "Fetch the half-typed command from the terminal (Ctrl+X there)"};
 
     Row user_button_row{*this};
     Button user_button_1{user_button_row, "Button1", UserButton1};

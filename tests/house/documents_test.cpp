@@ -77,6 +77,9 @@ Names keys_in_code() {
          found_in(tool, R"((?:is_control\(|letter = |none, )'(\w)'(?!, '\1', Action::to_shell))")) {
         names.insert("Ctrl+" + capitalised(letter));
     }
+    for (const std::string& letter : found_in(tool, R"(is_control_shift\('(\w)')")) {
+        names.insert("Ctrl+Shift+" + letter);
+    }
     names.merge(
         found_in(read_file(top / "toolkit/pane/view_keys.cpp"), R"(Qt::Key_(?!Control|Backtab)(\w+))"));
     return names;

@@ -4,6 +4,7 @@
 #include "settings/notify.h"
 #include "shell/messages.h"
 #include "tests/support/recorded_windows.h"
+#include "toolkit/mnemonics.h"
 #include "ui/message_board.h"
 #include "ui/text_editor_setup.h"
 
@@ -31,14 +32,14 @@ class MenuWindows : public RecordedWindows {
         Rows all;
         for (const QAction* action : menu.widget()->actions()) {
             if (!action->isSeparator()) {
-                all.push_back(from_qstring(action->text()));
+                all.push_back(from_qstring(shown_label(action->text())));
             }
         }
         return all;
     }
     static void choose(const Menu& menu, const std::string& line) {
         for (QAction* action : menu.widget()->actions()) {
-            if (from_qstring(action->text()) == line) {
+            if (from_qstring(shown_label(action->text())) == line) {
                 action->trigger();
                 return;
             }

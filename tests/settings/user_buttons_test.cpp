@@ -4,6 +4,7 @@
 #include "settings/notify.h"
 #include "shell/operands.h"
 #include "tests/support/recorded_windows.h"
+#include "toolkit/mnemonics.h"
 #include "ui/function_keys.h"
 #include "ui/user_buttons.h"
 
@@ -25,7 +26,7 @@ class UserButtonsTest : public RecordedWindows {
     static std::vector<std::string> labels() {
         std::vector<std::string> result;
         for (const QPushButton* button : row()->findChildren<QPushButton*>()) {
-            EXPECT_EQ(button->text(), without_mnemonic(from_qstring(button->accessibleName())));
+            EXPECT_EQ(shown_label(button->text()), button->accessibleName());
             result.push_back(from_qstring(button->accessibleName()));
         }
         return result;

@@ -24,7 +24,7 @@ TEST_F(UserMenuTest, IsReadAtStartAndOnUpdateAndSaysWhatIsWrong) {
         {"_MENU\n$MENU_TITLE,T\na & b,ls\n$BUTTON_NAME,Tools\nc\n",
          "",
          "",
-         {"T", "Edit", "Update", "a && b", "c"}},
+         {"T", "Edit", "Update", "a & b", "c"}},
         {"a,ls\n",
          "Not a valid menu definition file\nFirst line of text must be _MENU\n",
          "Not a valid menu definition file",

@@ -27,7 +27,7 @@ class NoticeAnswerer {
             answering_.disconnect();
             asked = from_qstring(box->text()) + "|" + from_qstring(box->informativeText());
             for (QAbstractButton* each : box->buttons()) {
-                if (each->text() == QLatin1String(button)) {
+                if (each->accessibleName() == QLatin1String(button)) {
                     each->click();
                 }
             }

@@ -6,12 +6,14 @@
 #include "toolkit/frame.h"
 #include "toolkit/menu_button.h"
 #include "toolkit/message_item.h"
+#include "toolkit/mnemonics.h"
 #include "toolkit/scrolling_list.h"
 #include "toolkit/text_pane.h"
 
 #include <QAbstractButton>
 #include <QAccessible>
 #include <QApplication>
+#include <QHelpEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -19,6 +21,8 @@
 #include <QPushButton>
 #include <QSpinBox>
 #include <QTest>
+#include <QTextDocumentFragment>
+#include <QToolTip>
 
 #include <gtest/gtest.h>
 
@@ -47,6 +51,8 @@ struct Sample : CommandFrame {
     Row row{panel};
     Button button{row, "Push & go", note};
     MenuButton menu{row, "Menu", Menu("Title", items)};
+    MenuButton empty_menu{row, "Empty", Menu({})};
+    MenuButton last_menu{row, "Last", Menu("Last title", items)};
     TextPane pane{panel, "Sample text"};
 };
 
@@ -58,7 +64,7 @@ struct Answering : CommandFrame {
     Choice choice{panel, "Choice", {"One", "Two"}, answer};
     ScrollingList list{panel, "List", answer_row};
     Button button{panel, "Push", answer};
-    ImageButton image{panel, "Image", answer};
+    ImageButton image{panel, "Image", answer, "Answers"};
     MenuButton menu{panel, "Menu", Menu("Title", answering_items), answer};
     PullRight pull_right{menu, "More", nullptr};
 };
@@ -170,7 +176,7 @@ TEST_F(Controls, AMenuShowsItsTitleAndCallsItsItems) {
     ASSERT_EQ(menu->actions().size(), 3);
     EXPECT_TRUE(menu->actions()[0]->isSeparator());
     EXPECT_EQ(menu->actions()[0]->text(), "Title");
-    EXPECT_EQ(menu->actions()[2]->text(), "Second && third");
+    EXPECT_EQ(menu->actions()[2]->text(), "&Second && third");
     QTest::keyClick(menu, Qt::Key_Down);
     QTest::keyClick(menu, Qt::Key_Down);
     QTest::keyClick(menu, Qt::Key_Return);
@@ -179,6 +185,75 @@ TEST_F(Controls, AMenuShowsItsTitleAndCallsItsItems) {
     QTest::keyClick(find<QPushButton>("Menu"), Qt::Key_Space);
     EXPECT_EQ(QApplication::activePopupWidget(), menu);
     menu->close();
+}
+
+TEST_F(Controls, LeftAndRightWalkFromMenuToMenu) {
+    const auto title = [] {
+        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        return menu == nullptr ? QString() : menu->actions().front()->text();
+    };
+    QTest::keyClick(find<QPushButton>("Menu"), Qt::Key_Space);
+    ASSERT_EQ(title(), "Title");
+    for (const auto& [key, expected] :
+         {std::pair(Qt::Key_Right, "Last title"), std::pair(Qt::Key_Right, "Title"),
+          std::pair(Qt::Key_Left, "Last title"), std::pair(Qt::Key_Left, "Title")}) {
+        QTest::keyClick(QApplication::activePopupWidget(), key);
+        EXPECT_EQ(title(), expected);
+    }
+    QApplication::activePopupWidget()->close();
+}
+
+TEST_F(Controls, AMnemonicOpensItsMenu) {
+    QTest::keyClick(sample.widget(), Qt::Key_M, Qt::AltModifier);
+    EXPECT_TRUE(QTest::qWaitFor([] { return QApplication::activePopupWidget() != nullptr; }, 5000));
+    QApplication::activePopupWidget()->close();
+}
+
+TEST_F(Controls, AFieldActsOnItsKeys) {
+    sample.text.set_keys({.up = note, .escape = note});
+    auto* field = find<QLineEdit>("Text:");
+    QTest::keyClick(field, Qt::Key_Up);
+    QTest::keyClick(field, Qt::Key_Escape);
+    EXPECT_EQ(notified, 2);
+    EXPECT_TRUE(sample.shown()) << "Escape is the field's";
+    QTest::keyClick(field, Qt::Key_Down);
+    EXPECT_EQ(notified, 2);
+}
+
+TEST_F(Controls, ChangesAreTold) {
+    for (const auto& watch : std::initializer_list<std::function<void()>>{
+             [&] { sample.number.on_change(note); }, [&] { sample.choice.on_change(note); },
+             [&] { sample.boxes.on_change(note); }, [&] { sample.single.on_change(note); }}) {
+        watch();
+    }
+    sample.number.set_value(6);
+    EXPECT_EQ(notified, 1);
+    find<QAbstractButton>("Single")->click();
+    EXPECT_EQ(notified, 2);
+    sample.choice.set_value(1);
+    find<QAbstractButton>("A")->click();
+    EXPECT_EQ(notified, 4) << "its own procedure and the watcher";
+}
+
+TEST_F(Controls, AButtonTellsTheLabelThatHasNoRoom) {
+    auto* button = find<QPushButton>("Push & go");
+    sample.button.set_label("A label of a user's own that is long");
+    sample.button.set_tool_tip("make <all>");
+    for (const auto& [width, tip] :
+         {std::pair(60, "A label of a user's own that is long make <all>"), std::pair(600, "make <all>")}) {
+        button->setFixedWidth(width);
+        QHelpEvent event(QEvent::ToolTip, {1, 1}, button->mapToGlobal(QPoint(1, 1)));
+        QApplication::sendEvent(button, &event);
+        EXPECT_EQ(QTextDocumentFragment::fromHtml(QToolTip::text()).toPlainText().simplified(), tip);
+        QToolTip::hideText();
+    }
+}
+
+TEST(Mnemonics, AreLettersOfTheirOwn) {
+    EXPECT_EQ(with_mnemonics({"Save Setup", "Sort", "Sap", "R && &D", "\u00E9", "s", "Save"}),
+              QStringList({"&Save Setup", "S&ort", "S&ap", "&R && D", "\u00E9", "s", "Sa&ve"}));
+    EXPECT_EQ(with_mnemonics({"&& x", "x"}), QStringList({"&& &x", "x"}));
+    EXPECT_EQ(shown_label("a && &b"), "a & b");
 }
 
 TEST_F(Controls, TextGoesInAtTheInsertionPoint) {
@@ -201,7 +276,7 @@ TEST_F(Controls, WhatAProcedureAnswersIsShownInTheWindowOfItsControl) {
     const auto widget = [&](const char* name) { return find_widget<QWidget>(window.widget(), name); };
     const auto item = [&](QMenu* menu, const char* label) {
         for (QAction* action : menu->actions()) {
-            if (action->text() == QLatin1String(label)) {
+            if (shown_label(action->text()) == QLatin1String(label)) {
                 action->trigger();
             }
         }

@@ -3,6 +3,7 @@
 #include "ui/windows.h"
 
 #include "toolkit/frame.h"
+#include "toolkit/mnemonics.h"
 #include "ui/main_window.h"
 
 #include <QAbstractButton>
@@ -161,7 +162,7 @@ TEST_P(EveryWindowAtSize, HasRoomForItsTexts) {
             EXPECT_TRUE(window.rect().contains(QRect(widget->mapTo(&window, QPoint()), widget->size())));
             constexpr int button_margins = 10;
             if (const auto* button = qobject_cast<QPushButton*>(widget)) {  // wants more than its text needs
-                const int text_width = button->fontMetrics().horizontalAdvance(button->text());
+                const int text_width = button->fontMetrics().horizontalAdvance(shown_label(button->text()));
                 EXPECT_GE(button->width(), text_width + button_margins);
             } else if (qobject_cast<QLabel*>(widget) != nullptr ||
                        qobject_cast<QAbstractButton*>(widget) != nullptr) {

@@ -20,5 +20,10 @@ struct KeyEvent {
         return key == terminal::Key::none && text.size() == 1 && text.front() == letter &&
                modifiers == terminal::Modifiers{.control = true};
     }
+    /// The same with shift too; the letter is a capital then.
+    [[nodiscard]] bool is_control_shift(char letter) const {
+        return key == terminal::Key::none && text.size() == 1 && text.front() == letter &&
+               modifiers == terminal::Modifiers{.shift = true, .control = true};
+    }
     bool operator==(const KeyEvent&) const = default;
 };
