@@ -8,6 +8,8 @@
 #include "toolkit/theme.h"
 
 #include <QApplication>
+#include <QElapsedTimer>
+#include <QEvent>
 #include <QIcon>
 #include <QScreen>
 #include <QSocketNotifier>
@@ -137,25 +139,60 @@ void end_on_signals() {
     }
 }
 
-/// Applies an X geometry text (XParseGeometry): negative offsets count from the screen's right and bottom
-/// edges.
-void apply_geometry(QWidget& window, const std::string& geometry) {
+/// An X geometry text (XParseGeometry): negative offsets count from the screen's right and bottom edges.
+struct Geometry {
+    int given = 0;
     int x = 0;
     int y = 0;
-    auto width = static_cast<unsigned>(window.width());
-    auto height = static_cast<unsigned>(window.height());
-    const int given = XParseGeometry(geometry.c_str(), &x, &y, &width, &height);
-    constexpr unsigned largest = 16384;
-    window.resize(static_cast<int>(std::min(width, largest)), static_cast<int>(std::min(height, largest)));
-    if ((given & (XValue | YValue)) == 0) {
-        return;
+    QSize size;
+
+    Geometry(const std::string& text, QSize usual) {
+        auto width = static_cast<unsigned>(usual.width());
+        auto height = static_cast<unsigned>(usual.height());
+        given = XParseGeometry(text.c_str(), &x, &y, &width, &height);
+        constexpr unsigned largest = 16384;
+        size = {static_cast<int>(std::min(width, largest)), static_cast<int>(std::min(height, largest))};
     }
-    const QRect screen = window.screen()->geometry();
-    const bool from_right = (given & XNegative) != 0;
-    const bool from_bottom = (given & YNegative) != 0;
-    window.move(from_right ? screen.right() + 1 + x - window.width() : screen.left() + x,
-                from_bottom ? screen.bottom() + 1 + y - window.height() : screen.top() + y);
-}
+    /// Where a window goes that takes so much room with its frame.
+    [[nodiscard]] QPoint place(const QRect& screen, QSize outer) const {
+        return {(given & XNegative) != 0 ? screen.right() + 1 + x - outer.width() : screen.left() + x,
+                (given & YNegative) != 0 ? screen.bottom() + 1 + y - outer.height() : screen.top() + y};
+    }
+};
+
+/// Places a window as a geometry says: before it is shown, and again once the frame round it is known, which
+/// counts with offsets from the right and the bottom edge.
+class GeometryPlacer : public QObject {
+  public:
+    GeometryPlacer(QWidget& window, const Geometry& geometry)
+        : QObject(&window), window_(window), geometry_(geometry) {
+        place();
+        if ((geometry_.given & (XNegative | YNegative)) != 0) {
+            window_.installEventFilter(this);
+            since_start_.start();
+        }
+    }
+
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+        constexpr int patience = 2000;  // milliseconds; later moves are the user's
+        const bool frame_is_known = window_.frameGeometry() != window_.geometry();
+        if (since_start_.hasExpired(patience)) {
+            deleteLater();
+        } else if (event->type() == QEvent::Move && frame_is_known) {
+            window_.removeEventFilter(this);
+            deleteLater();
+            place();
+        }
+        return false;
+    }
+
+  private:
+    void place() const { window_.move(geometry_.place(window_.screen()->geometry(), window_.frameSize())); }
+
+    QWidget& window_;
+    Geometry geometry_;
+    QElapsedTimer since_start_;
+};
 
 std::string display_failure(const std::string& name) {
     const std::string display = XDisplayName(name.empty() ? nullptr : name.c_str());
@@ -196,11 +233,18 @@ std::string xv_init(std::vector<std::string>& arguments, const std::function<voi
 
 void apply_geometry_option(Frame& main_window) {
     if (!main_geometry.empty()) {
-        apply_geometry(*main_window.widget(), main_geometry);
+        QWidget& window = *main_window.widget();
+        window.resize(Geometry(main_geometry, window.size()).size);
     }
 }
 
 void xv_main_loop(Frame& main_window) {
+    QWidget& window = *main_window.widget();
+    window.ensurePolished();
+    window.resize(window.size().expandedTo(window.minimumSizeHint()));  // as it will be
+    if (const Geometry geometry(main_geometry, window.size()); (geometry.given & (XValue | YValue)) != 0) {
+        new GeometryPlacer(window, geometry);
+    }
     main_window.show();
     QApplication::exec();
 }

@@ -15,7 +15,8 @@ class Frame;
 [[nodiscard]] std::string xv_init(std::vector<std::string>& arguments,
                                   const std::function<void()>& display_answered = {});
 
-/// Gives the main window the size and place of the -geometry option, if there was one.
+/// Gives the main window the size of the -geometry option, if there was one. Its place is seen to when the
+/// window is shown: it depends on the size that the window's controls make of this one.
 void apply_geometry_option(Frame& main_window);
 
 /// Shows the main window and handles events until it is closed or the process is asked to end (SIGTERM,

@@ -9,13 +9,15 @@
 #include "toolkit/standing.h"
 #include "toolkit/text_conversion.h"
 
+#include <QApplication>
 #include <QBoxLayout>
 #include <QCloseEvent>
-#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QPointer>
 #include <QPushButton>
 #include <QScreen>
+#include <QScrollArea>
 #include <QSpinBox>
 
 #include <algorithm>
@@ -34,6 +36,11 @@ int moved_inside(int at, int length, int low, int high) {
     return std::max(low, std::min(at, high - length + 1));
 }
 
+QPoint place_in(const QRect& room, QPoint at, QSize size) {
+    return {moved_inside(at.x(), size.width(), room.left(), room.right()),
+            moved_inside(at.y(), size.height(), room.top(), room.bottom())};
+}
+
 }  // namespace
 
 class FrameWidget : public QWidget {
@@ -45,8 +52,9 @@ class FrameWidget : public QWidget {
         areas = new QVBoxLayout;
         areas->setSpacing(0);
         column->addLayout(areas);
-        // Takes the height that no area wants.
-        column->addSpacerItem(new QSpacerItem(0, 0, QSizePolicy::Minimum, QSizePolicy::Preferred));
+        // Takes the height that no area wants, and keeps room for the title.
+        spacer_ = new QSpacerItem(0, 0, QSizePolicy::Minimum, QSizePolicy::Preferred);
+        column->addSpacerItem(spacer_);
         auto* footers = new QHBoxLayout;
         footers->setContentsMargins(8, 3, 8, 4);
         footers->setSpacing(16);
@@ -66,23 +74,37 @@ class FrameWidget : public QWidget {
     /// Gives the first control the keyboard.
     void focus_first_control() { focusNextChild(); }
 
-    /// Gives a window that has not been placed yet the size that its controls and its title want.
-    void settle_size() {
+    /// Gives a window that has not been placed yet the size that its controls and its title want; its areas
+    /// scroll where that is more than there is room for.
+    void settle_size(QSize room) {
         if (!placed_) {
-            setMinimumWidth(fontMetrics().horizontalAdvance(windowTitle()) + title_bar_buttons);
+            const int title = fontMetrics().horizontalAdvance(windowTitle()) + title_bar_buttons;
+            spacer_->changeSize(std::min(title, room.width()), 0, QSizePolicy::Minimum,
+                                QSizePolicy::Preferred);
+            layout()->invalidate();
             if (!testAttribute(Qt::WA_Resized)) {
                 adjustSize();
+                resize(sizeHint());  // adjusting stops at two thirds of the screen
             }
         }
+        const QSize least = layout()->totalMinimumSize();
+        if (!scrolls_ && (least.width() > room.width() || least.height() > room.height())) {
+            let_areas_scroll();
+        }
+        resize(size().boundedTo(room));
     }
-    /// All pop-ups of the main window that have been made known to the window manager.
-    void set_standing_of_popups(Standing standing) const {
-        for (QWidget* popup : findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
-            if (popup->isWindow() && popup->testAttribute(Qt::WA_WState_Created)) {
-                set_standing(*popup, standing);
+    /// Another window that shows and stands at that very place.
+    [[nodiscard]] bool is_taken(QPoint place) const {
+        for (const QWidget* window : QApplication::topLevelWidgets()) {
+            if (window != this && window->isVisible() &&
+                dynamic_cast<const FrameWidget*>(window) != nullptr && window->pos() == place) {
+                return true;
             }
         }
+        return false;
     }
+    /// Who gets the keyboard back when the window closes.
+    void set_opener(QWidget* opener) { opener_ = opener == this ? opener_.data() : opener; }
     /// Where the user has put the window; nothing while it stands where it was placed.
     [[nodiscard]] std::optional<QPoint> users_place() const { return users_place_; }
     void place(QPoint at) {
@@ -100,12 +122,9 @@ class FrameWidget : public QWidget {
             users_place_ = pos();
         }
         QWidget::hideEvent(event);
-    }
-    void changeEvent(QEvent* event) override {
-        QWidget::changeEvent(event);
-        const bool is_state = event->type() == QEvent::WindowStateChange && parentWidget() == nullptr;
-        if (is_state && std::exchange(was_icon_, isMinimized()) && !isMinimized()) {
-            set_standing_of_popups(Standing::owned);
+        if (!event->spontaneous() && parentWidget() != nullptr) {
+            const bool opener_shows = opener_ != nullptr && opener_->isVisible();
+            return_keyboard(opener_shows ? *opener_ : *parentWidget());
         }
     }
     void closeEvent(QCloseEvent* event) override {
@@ -136,6 +155,21 @@ class FrameWidget : public QWidget {
         return pos() != geometry().topLeft() || owner == nullptr ||
                owner->pos() == owner->geometry().topLeft();
     }
+    void let_areas_scroll() {
+        scrolls_ = true;
+        auto* column = static_cast<QVBoxLayout*>(layout());
+        auto* content = new QWidget;
+        column->removeItem(areas);
+        content->setLayout(areas);
+        auto* scrolling = new QScrollArea(this);
+        scrolling->setFrameShape(QFrame::NoFrame);
+        scrolling->setFocusPolicy(Qt::NoFocus);
+        scrolling->setWidgetResizable(true);
+        scrolling->setWidget(content);
+        column->insertWidget(0, scrolling, 1);
+        scrolling->lower();
+        layout()->activate();  // the least size falls
+    }
     void finish_field() {
         for (QPushButton* button : findChildren<QPushButton*>()) {
             if (button->isDefault()) {
@@ -146,7 +180,9 @@ class FrameWidget : public QWidget {
         focusNextChild();
     }
 
-    bool was_icon_ = false;
+    QSpacerItem* spacer_;
+    QPointer<QWidget> opener_;
+    bool scrolls_ = false;
     std::optional<QPoint> placed_;
     std::optional<QPoint> users_place_;
 };
@@ -200,8 +236,9 @@ void Frame::show() {
     if (widget_->isMinimized()) {
         widget_->showNormal();
     }
-    if (widget_->parentWidget() != nullptr && widget_->parentWidget()->isMinimized()) {
-        set_standing(*widget_, Standing::alone);  // it would be an icon, too
+    if (widget_->parentWidget() != nullptr) {
+        stand_alone(*widget_);
+        widget_->set_opener(QApplication::activeWindow());
     }
     widget_->show();
     widget_->raise();
@@ -217,7 +254,20 @@ bool Frame::shown() const { return widget_->isVisible(); }
 
 void Frame::start_iconified() { widget_->iconified_at_first = true; }
 
-void Frame::resize(int width, int height) { widget_->resize(width, height); }
+void Frame::resize(int width, int height) {
+    if (!shown()) {
+        widget_->resize(width, height);
+        return;
+    }
+    const QRect room = widget_->screen()->availableGeometry();
+    const QSize frame = widget_->frameSize() - widget_->size();
+    const QSize size = QSize(width, height).boundedTo(room.size() - frame).expandedTo(widget_->minimumSize());
+    widget_->resize(size);
+    const QPoint inside = place_in(room, widget_->pos(), size + frame);
+    if (inside != widget_->pos()) {
+        widget_->move(inside);
+    }
+}
 
 int Frame::width() const { return widget_->width(); }
 
@@ -229,9 +279,9 @@ void Frame::place_beside_base(int right, int down) {
     const QWidget* base_widget = base().widget();
     const std::optional<QPoint> users_place = widget_->users_place();
     const QPoint wanted = users_place.value_or(base_widget->pos() + QPoint(right, down));
-    const QScreen* users_screen = users_place ? QGuiApplication::screenAt(*users_place) : nullptr;
+    const QScreen* users_screen = users_place ? QApplication::screenAt(*users_place) : nullptr;
     const QScreen* screen = users_screen != nullptr ? users_screen : base_widget->screen();
-    widget_->settle_size();
+    widget_->settle_size(screen->availableSize() - (base_widget->frameSize() - base_widget->size()));
     place_inside(*screen, wanted);
 }
 
@@ -241,8 +291,15 @@ void Frame::place_inside(const QScreen& screen, QPoint wanted) {
     // The window manager's frame round the new window is not known before it is shown: the main window's
     // serves.
     const QSize size = widget_->size() + base_widget->frameSize() - base_widget->size();
-    widget_->place({moved_inside(wanted.x(), size.width(), room.left(), room.right()),
-                    moved_inside(wanted.y(), size.height(), room.top(), room.bottom())});
+    QPoint at = place_in(room, wanted, size);
+    constexpr QPoint aside(24, 24);
+    for (QPoint next = at; widget_->is_taken(at); at = next) {
+        next = place_in(room, at + aside, size);
+        if (next == at) {
+            break;  // in the screen's corner
+        }
+    }
+    widget_->place(at);
 }
 
 void Frame::open_sized(int right, int down, int width, int height) {
@@ -253,10 +310,7 @@ void Frame::open_sized(int right, int down, int width, int height) {
     show();
 }
 
-void Frame::iconify() {
-    widget_->set_standing_of_popups(Standing::alone);
-    widget_->showMinimized();
-}
+void Frame::iconify() { widget_->showMinimized(); }
 
 void Frame::on_close(void (*notify)()) { widget_->close_notify = notify; }
 

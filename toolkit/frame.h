@@ -39,13 +39,15 @@ class Frame : public Container {
     [[nodiscard]] bool shown() const;
     /// The next `show` shows the icon only.
     void start_iconified();
-    /// Size in pixels, without the window manager's frame.
+    /// Size in pixels, without the window manager's frame. A window that is shown stays on the screen, and
+    /// gets no larger than that.
     void resize(int width, int height);
     void set_width(int width);
     [[nodiscard]] int width() const;
     [[nodiscard]] int height() const;
     /// Shows a pop-up. One that is not shown yet is placed at an offset in pixels from the main window's
-    /// origin, or where the user has put it before; moved back where that would be outside the screen.
+    /// origin, or where the user has put it before; moved back where that would be outside the screen, and
+    /// aside where it would hide another. One that is larger than the screen scrolls.
     void open(int right = 740, int down = 100);
     /// Shows a pop-up at such an offset and in a size of its own, wherever it was; no larger than the screen.
     void open_sized(int right, int down, int width, int height);

@@ -3,6 +3,7 @@
 
 #include "toolkit/frame.h"
 #include "toolkit/mnemonics.h"
+#include "toolkit/standing.h"
 #include "toolkit/text_conversion.h"
 
 #include <QLabel>
@@ -38,6 +39,7 @@ int notice_prompt(Frame& owner, std::string_view message, std::initializer_list<
     box.setDefaultButton(default_button == DefaultButton::first ? made.front() : made.back());
     box.setEscapeButton(made.back());
     box.exec();
+    return_keyboard(*owner.widget());
     const auto chosen = std::find(made.begin(), made.end(), box.clickedButton());
     return static_cast<int>(chosen - made.begin());
 }

@@ -21,32 +21,42 @@ xcb_atom_t atom(xcb_connection_t* connection, std::string_view name) {
     return reply == nullptr ? xcb_atom_t{XCB_ATOM_NONE} : reply->atom;
 }
 
-void set_property(xcb_connection_t* connection, xcb_window_t window, xcb_atom_t name, xcb_atom_t type,
-                  std::uint32_t value) {
-    constexpr int bits = 32;
-    xcb_change_property(connection, XCB_PROP_MODE_REPLACE, window, name, type, bits, 1, &value);
+xcb_connection_t* x_connection() {
+    const auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+    return x11 == nullptr ? nullptr : x11->connection();
+}
+
+/// One that knows the Extended Window Manager Hints, which are all that are in use.
+bool has_window_manager(xcb_connection_t* connection) {
+    const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(connection)).data->root;
+    const auto cookie = xcb_get_property(connection, 0, root, atom(connection, "_NET_SUPPORTING_WM_CHECK"),
+                                         XCB_ATOM_WINDOW, 0, 1);
+    const std::unique_ptr<xcb_get_property_reply_t, decltype(&std::free)> reply(
+        xcb_get_property_reply(connection, cookie, nullptr), &std::free);
+    return reply != nullptr && xcb_get_property_value_length(reply.get()) > 0;
 }
 
 }  // namespace
 
-void set_standing(QWidget& popup, Standing standing) {
-    const auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-    if (x11 == nullptr) {
+void stand_alone(QWidget& popup) {
+    xcb_connection_t* const connection = x_connection();
+    if (connection == nullptr) {
         return;
     }
-    xcb_connection_t* const connection = x11->connection();
     const auto window = static_cast<xcb_window_t>(popup.winId());
-    const bool alone = standing == Standing::alone;
     // The window manager looks at the type when the owner changes.
-    set_property(connection, window, atom(connection, "_NET_WM_WINDOW_TYPE"), XCB_ATOM_ATOM,
-                 atom(connection, alone ? "_NET_WM_WINDOW_TYPE_NORMAL" : "_NET_WM_WINDOW_TYPE_DIALOG"));
-    if (alone) {
-        popup.windowHandle()->setTransientParent(nullptr);
-        xcb_delete_property(connection, window, XCB_ATOM_WM_TRANSIENT_FOR);
-    } else {
-        popup.windowHandle()->setTransientParent(popup.parentWidget()->windowHandle());
-        set_property(connection, window, XCB_ATOM_WM_TRANSIENT_FOR, XCB_ATOM_WINDOW,
-                     static_cast<xcb_window_t>(popup.parentWidget()->winId()));
-    }
+    constexpr int bits = 32;
+    const xcb_atom_t normal = atom(connection, "_NET_WM_WINDOW_TYPE_NORMAL");
+    xcb_change_property(connection, XCB_PROP_MODE_REPLACE, window, atom(connection, "_NET_WM_WINDOW_TYPE"),
+                        XCB_ATOM_ATOM, bits, 1, &normal);
+    popup.windowHandle()->setTransientParent(nullptr);
+    xcb_delete_property(connection, window, XCB_ATOM_WM_TRANSIENT_FOR);
     xcb_flush(connection);
+}
+
+void return_keyboard(QWidget& window) {
+    xcb_connection_t* const connection = x_connection();
+    if (connection != nullptr && !has_window_manager(connection) && window.isVisible()) {
+        window.activateWindow();
+    }
 }

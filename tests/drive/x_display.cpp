@@ -133,6 +133,8 @@ std::optional<WindowId> XDisplay::window(pid_t process, std::string_view title) 
 
 std::string XDisplay::title(WindowId window) const { return connection_->text(window, "_NET_WM_NAME"); }
 
+Rectangle XDisplay::screen() const { return place(connection_->root()); }
+
 Rectangle XDisplay::place(WindowId window) const {
     Window root = None;
     Window child = None;

@@ -32,6 +32,8 @@ class XDisplay {
     /// The managed window of a process with this title; nothing when there is none.
     [[nodiscard]] std::optional<WindowId> window(pid_t process, std::string_view title) const;
     [[nodiscard]] std::string title(WindowId window) const;
+    /// The whole screen.
+    [[nodiscard]] Rectangle screen() const;
     /// The window without the window manager's frame.
     [[nodiscard]] Rectangle place(WindowId window) const;
     /// With that frame.

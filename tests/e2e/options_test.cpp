@@ -57,6 +57,19 @@ TEST_F(Options, OpenedStartsAsWindowAndGeometryPlacesItsFrame) {
     EXPECT_EQ(display().place(window).height, 600);
 }
 
+/// A size smaller than the controls need is made larger; the corner stays where it is said to be.
+TEST_F(Options, GeometryCountsFromTheLowerRightWithTheFrame) {
+    setup_.options = {"-geometry", "300x200-10-20"};
+    start();
+    const WindowId window = x_window();
+    const Rectangle screen = display().screen();
+    const auto right_and_bottom = [&] {
+        const Rectangle place = display().place_with_frame(window);
+        return std::pair(screen.width - place.x - place.width, screen.height - place.y - place.height);
+    };
+    expect_awaited(right_and_bottom, std::pair(10, 20));
+}
+
 TEST_F(Options, FontNameIsAResource) {
     setup_.options = {"-xrm", "Orvik.FontName: DejaVu Sans Mono-14"};
     start_with_recording_shell("shell");

@@ -14,11 +14,14 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTest>
 #include <QTimer>
 
 #include <array>
 #include <memory>
+#include <vector>
 
 #include <gtest/gtest.h>
 #include <xcb/xcb.h>
@@ -119,6 +122,66 @@ TEST_F(FrameTest, PopupIsMovedBackOnTheScreen) {
     popup.open();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(popup.widget()));
     EXPECT_TRUE(wait([&] { return screen.contains(popup.widget()->frameGeometry()); }));
+}
+
+TEST_F(FrameTest, PopupStandsAsideOfThoseThatAreUp) {
+    CommandFrame popups[] = {CommandFrame("First"), CommandFrame("Second"), CommandFrame("Third")};
+    for (CommandFrame& popup : popups) {
+        popup.open(100, 100);
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(popup.widget()));
+    }
+    const QPoint first = popups[0].widget()->pos();
+    EXPECT_TRUE(wait([&] { return popups[1].widget()->pos() == first + QPoint(24, 24); }));
+    EXPECT_TRUE(wait([&] { return popups[2].widget()->pos() == first + QPoint(48, 48); }));
+    popups[0].hide();
+    popups[1].hide();
+    popups[1].open(100, 100);
+    EXPECT_TRUE(wait([&] { return popups[1].widget()->pos() == first; })) << "its stated place is free";
+}
+
+TEST_F(FrameTest, PopupIsNoNarrowerThanItsControlsAndScrollsWhereTheyHaveNoRoom) {
+    const QSize room = QGuiApplication::primaryScreen()->availableSize();
+    CommandFrame popup("Popup");
+    Row row(popup.panel);
+    const std::vector<Button> buttons = [&row] {
+        std::vector<Button> made;
+        for (const char* label :
+             {"A button with a label", "Another button with a label", "And a third one"}) {
+            made.emplace_back(row, label, nullptr);
+        }
+        return made;
+    }();
+    popup.open();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(popup.widget()));
+    EXPECT_EQ(popup.widget()->findChild<QScrollArea*>(), nullptr);
+    const int content = row.widget()->minimumSizeHint().width();
+    popup.resize(100, 100);
+    EXPECT_TRUE(wait([&] { return popup.width() >= content && row.widget()->width() >= content; }));
+
+    CommandFrame large("Large");
+    std::vector<TextField> fields;
+    for (int i = 0; i < 80; ++i) {
+        fields.emplace_back(large.panel, "Field:");
+    }
+    large.open();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(large.widget()));
+    EXPECT_TRUE(wait([&] { return large.widget()->frameGeometry().height() <= room.height(); }));
+    const auto* area = large.widget()->findChild<QScrollArea*>();
+    ASSERT_NE(area, nullptr);
+    fields.back().set_focus();
+    area->window()->setFocus();
+    EXPECT_GT(area->verticalScrollBar()->maximum(), 0);
+    QTest::keyClick(fields.front().widget(), Qt::Key_Escape);
+    EXPECT_FALSE(large.shown());
+}
+
+TEST_F(FrameTest, AShownWindowGetsNoLargerThanTheScreenAndStaysOnIt) {
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    base.widget()->move(screen.center());
+    base.resize(screen.width() + 500, 300);
+    EXPECT_TRUE(wait([&] { return base.width() > screen.width() / 2; }));
+    EXPECT_TRUE(wait([&] { return screen.contains(base.widget()->frameGeometry()); }))
+        << base.widget()->frameGeometry().width();
 }
 
 /// A pop-up with two fields; the second one acts on Return itself.
