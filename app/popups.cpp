@@ -37,7 +37,15 @@ void SetupMenuUserButtons() { user_buttons().open(); }
 void Start_file_tree() { file_tree_browser().open(); }
 void BrowseMenuFullSize() { (void)FileTreeFullSize(); }
 void Start_file_manager() { file_list_browser().open(); }
-void BrowserMenuCommandHistory() { command_history_manager().open(); }
+/// Opens at the newest commands; one that is open stays where its user has scrolled it.
+void BrowserMenuCommandHistory() {
+    CommandHistoryManager& manager = command_history_manager();
+    const bool was_shown = manager.shown();
+    manager.open();
+    if (!was_shown) {
+        manager.list.go_to(manager.list.rows() - 1);
+    }
+}
 void Browse_mess_board() { message_board().open(); }
 void BrowseMenuNoteBook() { notebook().open(); }
 
