@@ -13,6 +13,7 @@
 #include "settings/command_list.h"
 #include "settings/history.h"
 #include "settings/setup_file.h"
+#include "settings/unsaved.h"
 #include "settings/user_buttons.h"
 #include "settings/user_menu.h"
 #include "shell/door.h"
@@ -188,6 +189,7 @@ void start_up(std::vector<std::string> arguments) {
     const CommandLineOptions options = read_options(arguments);
     const bool setup_loaded = load_setup_at_startup() == 1;
     put_options_into_fields(options);
+    watch_setup_windows();
     set_up_user_buttons_at_startup();
     list_files_at_startup(setup_loaded || options.work ? environment_setup().working_directory_1.text() : "");
     size_command_list();

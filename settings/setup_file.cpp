@@ -8,6 +8,7 @@
 #include "settings/notify.h"
 #include "settings/setup_format.h"
 #include "settings/setup_table.h"
+#include "settings/unsaved.h"
 #include "shell/files.h"
 #include "shell/messages.h"
 #include "shell/process.h"
@@ -56,6 +57,7 @@ int save_setup(const std::string& path) {
         report(fmt::format("{} not written: {}\n", path, std::strerror(error)));
         return 0;
     }
+    note_settings_saved();
     return 1;
 }
 
@@ -69,6 +71,7 @@ int load_setup(const std::string& path, WhenDoubtful when_doubtful) {
         return -1;
     }
     set_setup_values(*lines);
+    note_settings_saved();
     loaded_file = path;
     return 1;
 }

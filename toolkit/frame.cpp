@@ -323,6 +323,8 @@ void Frame::add(std::string_view /*label*/, QWidget* area, Place /*place*/) {
 
 QWidget* Frame::widget() const { return widget_; }
 
+bool Frame::holds(const QWidget* control) const { return widget_->isAncestorOf(control); }
+
 AnswerFooter::AnswerFooter(const QWidget* control) {
     QWidget* widget = control->parentWidget();
     while (widget != nullptr && dynamic_cast<FrameWidget*>(widget) == nullptr) {

@@ -58,6 +58,7 @@ class Frame : public Container {
 
     void add(std::string_view label, QWidget* area, Place place) override;
     [[nodiscard]] QWidget* widget() const override;
+    [[nodiscard]] bool holds(const QWidget* control) const;
 
   private:
     friend class BusyState;

@@ -3,12 +3,14 @@
 
 #include "settings/notify.h"
 #include "settings/setup_table.h"
+#include "settings/unsaved.h"
 #include "shell/process.h"
 #include "tests/support/scratch_directory.h"
 #include "toolkit/text_conversion.h"
 #include "ui/environment_setup.h"
 #include "ui/file_list_browser.h"
 #include "ui/message_board.h"
+#include "ui/user_buttons.h"
 #include "ui/windows.h"
 
 #include <QAccessible>
@@ -318,6 +320,32 @@ TEST_F(SetupFile, IsSavedInTheStartupDirectoryOrStaysAsItWas) {
     fs::remove(path());
     fs::create_directory(path());
     EXPECT_EQ(save(), std::pair(failure, path() + " not written: Is a directory\n"));
+}
+
+TEST_F(SetupFile, TheWindowsTellWhatIsNotSaved) {
+    const auto marked = [] {
+        std::string titles;
+        for (const Frame* window : all_windows()) {
+            titles += window->right_footer() == "Not saved yet" ? window->label() + ";" : "";
+        }
+        EXPECT_EQ(has_unsaved_settings(), !titles.empty());
+        return titles;
+    };
+    watch_setup_windows();
+    EXPECT_EQ(marked(), "");
+    file_list_browser().set_right_footer("its own");
+    environment_setup().working_directory_1.set_text("changed");
+    EXPECT_EQ(marked(), "Environment Setup Window;");
+    environment_setup().working_directory_1.set_text("");
+    EXPECT_EQ(marked(), "");
+    environment_setup().working_directory_1.set_text("changed");
+    user_buttons().label_1.set_text("changed");
+    EXPECT_EQ(marked(), "Environment Setup Window;User Buttons;");
+    ASSERT_EQ(save_setup(path()), 1);
+    EXPECT_EQ(marked(), "");
+    user_buttons().label_1.set_text("again");
+    ASSERT_EQ(load_setup(path()), 1);
+    EXPECT_EQ(marked(), "");
 }
 
 TEST_F(SetupFile, IsLoadedFromTheFileListBrowser) {
