@@ -3,27 +3,18 @@
 #include "browsers/tree/walk.h"
 #include "commands/notify.h"
 #include "commands/script.h"
-#include "shell/messages.h"
 #include "shell/process.h"
 #include "shell/program_variable.h"
 #include "shell/send.h"
 #include "ui/file_tree_browser.h"
 
-#include <fmt/format.h>
-
 namespace {
 
 Message compare_visually(const std::vector<WalkedNode>& nodes) {
     Message refusal = unset_program("DIFF");
-    if (!refusal.empty()) {
-        return refusal;
-    }
-    const CommandLine line = CommandLine("$DIFF").path(nodes[0].path).path(nodes[1].path);
-    refusal = send(line);
-    if (refusal.empty()) {
-        report(fmt::format("{}\n", line.typed_into(user_shell).text));
-    }
-    return refusal;
+    return refusal.empty()
+               ? send(CommandLine("$DIFF").path(nodes[0].path).path(nodes[1].path), Remember::message_board)
+               : refusal;
 }
 
 Message compare(const std::vector<WalkedNode>& nodes) {

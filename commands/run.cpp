@@ -4,7 +4,6 @@
 #include "commands/notify.h"
 #include "commands/script.h"
 #include "shell/background.h"
-#include "shell/line_head.h"
 #include "shell/operands.h"
 #include "shell/process.h"
 #include "shell/send.h"
@@ -39,14 +38,6 @@ Message run_bundle(const std::vector<WalkedNode>& nodes) {
                 Remember::last_command);
 }
 
-/// Whether a name may stand behind the user's command as a word of its own. Where a quote is open, or the
-/// command reads its operands as commands, what quotes the name would not hold.
-bool takes_word_behind(const std::string& command, const std::string& name) {
-    const std::string head = command + " ";
-    return LineHead(head, user_shell.family).open_quote() == 0 &&
-           operand_behind(head, name, user_shell).has_value();
-}
-
 /// Types the user's command for each node, with what `complete` puts behind it.
 template <typename Complete>
 Message execute(Complete complete) {
@@ -58,7 +49,7 @@ Message execute(Complete complete) {
                           {.none = "No files selected", .illegal = "Illegal file name"},
                           [command, complete](const std::vector<WalkedNode>& nodes) -> Message {
                               for (const WalkedNode& node : nodes) {
-                                  if (!takes_word_behind(command, node.path)) {
+                                  if (!takes_word_behind(command, node.path, user_shell)) {
                                       return name_refusal(node.path);
                                   }
                                   CommandLine line = CommandLine::of_user(command);

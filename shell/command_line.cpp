@@ -4,6 +4,14 @@
 #include <optional>
 #include <utility>
 
+namespace {
+
+std::string with_peg(std::string_view name) {
+    return fmt::format("{}{}", name, name.find('@') == std::string_view::npos ? "" : "@");
+}
+
+}  // namespace
+
 CommandLine& CommandLine::add(Kind kind, std::string text) {
     pieces_.push_back({kind, std::move(text)});
     return *this;
@@ -16,10 +24,12 @@ CommandLine& CommandLine::double_quoted(std::string_view name) {
     return add(Kind::double_quoted, std::string(name));
 }
 CommandLine& CommandLine::escaped(std::string_view name) { return add(Kind::escaped, std::string(name)); }
-CommandLine& CommandLine::peg(std::string_view name) {
-    return path(fmt::format("{}{}", name, name.find('@') == std::string_view::npos ? "" : "@"));
-}
+CommandLine& CommandLine::peg(std::string_view name) { return path(with_peg(name)); }
+CommandLine& CommandLine::double_quoted_peg(std::string_view name) { return double_quoted(with_peg(name)); }
 CommandLine& CommandLine::text(std::string_view value) { return add(Kind::text, std::string(value)); }
+CommandLine& CommandLine::double_quoted_text(std::string_view value) {
+    return add(Kind::double_quoted_text, std::string(value));
+}
 CommandLine& CommandLine::host(std::string_view name) { return add(Kind::host, std::string(name)); }
 
 CommandLine& CommandLine::in_background() {
@@ -67,6 +77,8 @@ ComposedLine CommandLine::typed_into(const Shell& shell) const {
                 return escaped_word(piece.text, shell);
             case Kind::text:
                 return shell_text(piece.text, shell);
+            case Kind::double_quoted_text:
+                return ::double_quoted_text(piece.text, shell);
             default:
                 return shell_word(piece.text, shell);
         }
@@ -79,6 +91,7 @@ ComposedLine CommandLine::read_by(ShellFamily shell) const {
             case Kind::double_quoted:
                 return std::optional(script_double_quoted(piece.text, shell));
             case Kind::text:
+            case Kind::double_quoted_text:
                 return std::optional(script_text(piece.text, shell));
             default:
                 return std::optional(script_word(piece.text, shell));

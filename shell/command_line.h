@@ -57,8 +57,10 @@ class CommandLine {
     /// A file for Subversion, which takes what follows an "@" for a revision: behind a last, empty "@" the
     /// others are part of the name (Version Control with Subversion, "Peg and Operative Revisions").
     CommandLine& peg(std::string_view name);
+    CommandLine& double_quoted_peg(std::string_view name);
     /// Any text as one word: a font's name, a message.
     CommandLine& text(std::string_view value);
+    CommandLine& double_quoted_text(std::string_view value);
     /// A host, or "user@host". The line is refused when it could be anything else.
     CommandLine& host(std::string_view name);
 
@@ -74,7 +76,7 @@ class CommandLine {
     [[nodiscard]] ComposedLine read_by(ShellFamily shell) const;
 
   private:
-    enum class Kind : std::uint8_t { words, path, double_quoted, escaped, text, host };
+    enum class Kind : std::uint8_t { words, path, double_quoted, escaped, text, double_quoted_text, host };
     struct Piece {
         Kind kind;
         std::string text;

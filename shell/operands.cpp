@@ -54,6 +54,11 @@ std::optional<std::string> operand_behind(std::string_view before, std::string_v
     return head.open_quote() == 0 ? shell_text(text, shell) : quoted_operand(head.open_quote(), text, shell);
 }
 
+bool takes_word_behind(std::string_view command, std::string_view operand, const Shell& shell) {
+    const std::string head = fmt::format("{} ", command);
+    return LineHead(head, shell.family).open_quote() == 0 && operand_behind(head, operand, shell).has_value();
+}
+
 std::string with_home_directory(std::string_view name) {
     if (!name.starts_with('~')) {
         return std::string(name);

@@ -22,6 +22,10 @@ std::string selected_tree_name();
 /// take it for something else, as behind a "$".
 std::optional<std::string> operand_behind(std::string_view before, std::string_view name, const Shell& shell);
 
+/// Whether an operand may stand behind a user's command as a word of its own, quoted where it must be. It may
+/// not where a quote is open, nor, unless it is an ordinary one, where the command reads it as a command.
+bool takes_word_behind(std::string_view command, std::string_view operand, const Shell& shell);
+
 /// A selected file name with its home directory in full where it begins with "~" or "~user": quoted, the sign
 /// would mean nothing to the shell.
 std::string with_home_directory(std::string_view name);

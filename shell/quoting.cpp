@@ -50,12 +50,16 @@ std::string octal_word(std::string_view text, bool keep_high) {
 
 bool begins_like_an_option(std::string_view name) { return name.starts_with('-') || name.starts_with('+'); }
 
-/// Whether neither a shell nor its line editor acts on anything in a name in double quotes but, perhaps,
+/// Whether neither a shell nor its line editor acts on anything in a text in double quotes but, perhaps,
 /// bytes beyond ASCII.
-bool is_inert_in_double_quotes(std::string_view name) {
+bool is_inert_in_double_quotes(std::string_view text) {
     constexpr std::string_view live = "\"$`\\!";
-    return !name.empty() && !begins_like_an_option(name) &&
-           name.find_first_of(live) == std::string_view::npos && !has_control_characters(name);
+    return text.find_first_of(live) == std::string_view::npos && !has_control_characters(text);
+}
+
+/// The same for the name of a file, which must not look like an option either.
+bool is_name_inert_in_double_quotes(std::string_view name) {
+    return !name.empty() && !begins_like_an_option(name) && is_inert_in_double_quotes(name);
 }
 
 /// Without its blanks, bytes that are no text may become some.
@@ -122,9 +126,13 @@ std::optional<std::string> shell_word(std::string_view name, const Shell& shell)
 }
 
 std::optional<std::string> double_quoted_word(std::string_view name, const Shell& shell) {
-    const bool inert = is_inert_in_double_quotes(name) && is_plain(name, shell) &&
-                       (shell.family != ShellFamily::unknown || is_ordinary(name, shell));
-    return inert ? fmt::format("\"{}\"", name) : shell_word(name, shell);
+    return is_name_inert_in_double_quotes(name) ? double_quoted_text(name, shell) : shell_word(name, shell);
+}
+
+std::optional<std::string> double_quoted_text(std::string_view text, const Shell& shell) {
+    const bool inert = is_inert_in_double_quotes(text) && is_plain(text, shell) &&
+                       (shell.family != ShellFamily::unknown || is_ordinary(text, shell));
+    return inert ? fmt::format("\"{}\"", text) : shell_text(text, shell);
 }
 
 std::optional<std::string> escaped_word(std::string_view name, const Shell& shell) {
@@ -146,7 +154,7 @@ std::string script_word(std::string_view name, ShellFamily shell) {
 }
 
 std::string script_double_quoted(std::string_view name, ShellFamily shell) {
-    return is_inert_in_double_quotes(name) ? fmt::format("\"{}\"", name) : script_word(name, shell);
+    return is_name_inert_in_double_quotes(name) ? fmt::format("\"{}\"", name) : script_word(name, shell);
 }
 
 std::string inside_single_quotes(std::string_view text) {

@@ -22,6 +22,9 @@ std::optional<std::string> shell_word(std::string_view name, const Shell& shell)
 /// the shell from acting on the name.
 std::optional<std::string> double_quoted_word(std::string_view name, const Shell& shell);
 
+/// Any text in double quotes, for commands that are given so; as `shell_text` where those would not do.
+std::optional<std::string> double_quoted_text(std::string_view text, const Shell& shell);
+
 /// A file name with a backslash before every blank, for commands that are given so; as `shell_word` where the
 /// shell would act on more than the blanks.
 std::optional<std::string> escaped_word(std::string_view name, const Shell& shell);

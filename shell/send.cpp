@@ -17,6 +17,8 @@ Message send(const CommandLine& line, Remember remember) {
     }
     if (remember == Remember::last_command) {
         default_settings().last_command.set_text(composed.text);
+    } else if (remember == Remember::message_board) {
+        report(fmt::format("{}\n", composed.text));
     }
     return {};
 }

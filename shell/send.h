@@ -6,8 +6,8 @@
 
 #include <cstdint>
 
-/// What "Last Command:" holds afterwards.
-enum class Remember : std::uint8_t { nothing, last_command };
+/// Where the line stands afterwards: in "Last Command:", or on the Message Board.
+enum class Remember : std::uint8_t { nothing, last_command, message_board };
 
 /// Gives a line to the user's shell, when that is ready, and has the shell's state shown afterwards. Returns
 /// an empty message, or why it was not typed: nothing has happened then.
