@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 // What puts the selected files of the tree, or the file of the "File List Browser", into the selected
 // directory.
+#include "commands/into_directory.h"
+
 #include "browsers/listed_file.h"
 #include "browsers/tree/deed.h"
 #include "commands/file_deeds.h"
@@ -72,6 +74,8 @@ Message put_selected(const Entry& entry) {
 }  // namespace
 
 Message copy_file() { return put_selected(copying); }
+
+WalkRule rule_for_moving() { return rule_of(moving); }
 
 Message move_file() { return put_selected(moving); }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 // What is done under a name that a pop-up asks for: "Add / Rename / Save", "Add New Directory", "Copy and
 // Rename".
+#include "commands/naming.h"
+
 #include "browsers/paths.h"
 #include "browsers/tree/deed.h"
 #include "browsers/tree/file_tree.h"
@@ -21,10 +23,9 @@ namespace {
 bool is_not_one_directory(const WalkCounts& counts) { return counts.directories != 1; }
 bool is_not_one_file(const WalkCounts& counts) { return counts.files != 1; }
 
-// The messages of a pop-up's buttons stand in its own footer and in the browser's.
+}  // namespace
 
-/// Why a name cannot be given; empty when it can.
-Message name_refusal(const std::string& name, std::string_view missing) {
+Message name_fault(const std::string& name, std::string_view missing) {
     if (name.empty()) {
         return Message(missing);
     }
@@ -40,6 +41,8 @@ Message walk_for(Frame& popup, WalkRule rule, WalkAction action) {
     rule.also_tells = &file_tree_browser();
     return told_twice(walk_selection(popup, rule, std::move(action)));
 }
+
+namespace {
 
 Message act_on(Frame& popup, const WalkedNode& node, const WalkedNode& directory,
                std::function<Deed(const WalkedNode&)> deed) {
@@ -108,7 +111,7 @@ const WalkedNode& file_among(const std::vector<WalkedNode>& nodes) {
 }
 
 Message copy_under(const std::string& name, const std::vector<WalkedNode>& nodes) {
-    Message refusal = name_refusal(name, "New name not specified");
+    Message refusal = name_fault(name, "New name not specified");
     if (!refusal.empty()) {
         return refusal;
     }
@@ -139,7 +142,7 @@ Message FileTreeRename() {
 
 Message Rename_file_button() {
     const std::string name = add_rename_save().new_name.text();
-    Message refusal = name_refusal(name, "New name not defined");
+    Message refusal = name_fault(name, "New name not defined");
     if (!refusal.empty()) {
         return told_twice(std::move(refusal));
     }
@@ -158,7 +161,7 @@ Message add_file() {
 
 Message Add_file_button() {
     const std::string name = add_rename_save().new_name.text();
-    Message refusal = name_refusal(name, "File name not defined");
+    Message refusal = name_fault(name, "File name not defined");
     return refusal.empty() ? make_in_selected(add_rename_save(), name, make_file)
                            : told_twice(std::move(refusal));
 }
@@ -170,7 +173,7 @@ Message add_directory() {
 
 Message Add_new_directory() {
     const std::string name = add_new_directory().directory_name.text();
-    Message refusal = name_refusal(name, "Directory name not defined");
+    Message refusal = name_fault(name, "Directory name not defined");
     return refusal.empty() ? make_in_selected(add_new_directory(), name, make_directory)
                            : told_twice(std::move(refusal));
 }

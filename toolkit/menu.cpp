@@ -22,6 +22,9 @@ Menu::Menu(std::string_view title, std::span<const MenuItem> items) : menu_(std:
             continue;
         }
         QAction* action = menu_->addAction(without_mnemonic(item.label));
+        if (!item.tool_tip.empty()) {
+            action->setToolTip(plain_tool_tip(item.tool_tip));
+        }
         QObject::connect(action, &QAction::triggered, menu_.get(),
                          [menu = menu_.get(), notify = item.notify] { notify_from(menu, notify); });
     }

@@ -17,6 +17,7 @@ class QMenu;
 struct MenuItem {
     std::string_view label;
     Notify notify;
+    std::string_view tool_tip = {};  ///< what the label does not say
 };
 /// A line between groups of items.
 inline constexpr MenuItem menu_line{"--------------------"};

@@ -24,7 +24,7 @@ TEST_PACKAGES=(
     "${RUN_PACKAGES[@]}" "${DISPLAY_PACKAGES[@]}"
     libgtest-dev libbenchmark-dev
     bash tcsh ksh zsh dash busybox fish
-    procps xclip less vim-tiny python3-minimal openssh-client ghostscript poppler-utils sharutils
+    procps xclip less vim-tiny python3-minimal openssh-client ghostscript poppler-utils sharutils subversion
 )
 
 # What only a machine for tests should have: it starts a service, so ./test leaves it to its user, and what

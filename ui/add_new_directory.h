@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "commands/clearcase/notify.h"
 #include "commands/notify.h"
 #include "toolkit/buttons.h"
 #include "toolkit/fields.h"
@@ -15,6 +16,7 @@ struct AddNewDirectory : CommandFrame {
     TextField directory_name{panel, "Directory Name:"};
     Row buttons{panel, Place::field};
     Button add{buttons, "Add", Add_new_directory};
+    Button clearcase{buttons, "ClearCase", AddClearCaseDir};
     Stretch behind_buttons{buttons};
 };
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "commands/clearcase/notify.h"
 #include "commands/notify.h"
 #include "settings/notify.h"
 #include "toolkit/buttons.h"
@@ -15,6 +16,7 @@ struct AddRenameSave : CommandFrame {
 
     TextField new_name{panel, "New Name:"};
     Row buttons{panel, Place::field};
+    Button clearcase_rename{buttons, "ClearCase Rename", ClearCaseRename};
     Button rename_button{buttons, "Rename", Rename_file_button};
     Button new_button{buttons, "New", Add_file_button};
     Button save{buttons, "Save", Save_setup_button};

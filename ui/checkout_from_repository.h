@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "commands/subversion/notify.h"
+#include "toolkit/buttons.h"
 #include "toolkit/choices.h"
 #include "toolkit/fields.h"
 #include "toolkit/frame.h"
@@ -19,6 +21,10 @@ struct CheckoutFromRepository : CommandFrame {
     TextField repository_3_url{panel, "Repository 3 URL:"};
     TextField destination_directory{panel, "Destination Directory:"};
     TextField revision{panel, "Revision:"};
+    Row buttons{panel, Place::field};
+    Button checkout{buttons, "Checkout", SubversionCheckoutButton};
+    Button list{buttons, "List", SubversionListButton};
+    Stretch behind_buttons{buttons};
 };
 
 inline std::unique_ptr<CheckoutFromRepository> Orvik_popup44;

@@ -33,6 +33,7 @@ struct FileListBrowser : CommandFrame {
     Button execute{menus, "Execute", FileListBrowserExecute};
     MenuButton load_menu{menus, "Load", Menu("Load", load_menu_items)};
     MenuButton bookmark_menu{menus, "BM", Menu({})};
+    MenuButton clearcase_menu{menus, "ClearCase", Menu("", clearcase_list_items)};
     Stretch behind_menus{menus};
 
     Row actions{panel};

@@ -40,14 +40,16 @@ struct FileTreeBrowser : CommandFrame {
     Button clear_all{actions, "Clear All", FileTreeClearAll};
     MenuButton bookmark_menu{actions, "BM", Menu({})};
     Button plot{actions, "Plot", FileTreePlot};
+    MenuButton subversion_menu{actions, "Subversion", Menu("", subversion_items)};
+    MenuButton clearcase_menu{actions, "ClearCase", Menu("ClearCase", clearcase_tree_items)};
     MenuButton more_menu{actions, "More", Menu("More", more_menu_items)};
-    Stretch before_directories{actions};
-    CheckBox directories_only{actions, "Directories Only"};
+    Stretch behind_actions{actions};
 
     Row root{panel, "Root Directory:"};
     TextField root_directory{root, {"", "Root Directory:"}, FileTreeSetRoot};
     Button lookup{root, "Lookup", FileTreeLookup};
     Button up{root, "Up", FileTreeUp};
+    CheckBox directories_only{root, "Directories Only"};
 
     Row current{panel, "Current File:"};
     TextField current_file{current, {"", "Current File:"}};

@@ -3,6 +3,7 @@
 
 #include "app/notify.h"
 #include "browsers/notify.h"
+#include "commands/clearcase/notify.h"
 #include "settings/notify.h"
 #include "toolkit/menu.h"
 
@@ -66,4 +67,11 @@ inline constexpr std::array file_operations_items{
 inline constexpr std::array load_menu_items{
     MenuItem{"Command", FileListLoadCommand},
     MenuItem{"Setup", FileListLoadSetup},
+};
+
+inline constexpr std::array clearcase_list_items{
+    MenuItem{"Set Config Spec", FileListLoadConfigSpec},  MenuItem{"Checkin", ClearCaseMenu2Checkin},
+    MenuItem{"Checkout", ClearCaseMenu2Checkout},         MenuItem{"History", ClearCaseMenu2History},
+    MenuItem{"List FIles", ClearCaseMenu2ListFIles},      MenuItem{"Make Element", ClearCaseMenu2MakeElem},
+    MenuItem{"Remove Element", ClearCaseMenu2RemoveElem}, MenuItem{"Uncheckout", ClearCaseMenu2Uncheckout},
 };

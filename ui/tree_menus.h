@@ -2,7 +2,9 @@
 #pragma once
 
 #include "browsers/notify.h"
+#include "commands/clearcase/notify.h"
 #include "commands/notify.h"
+#include "commands/subversion/notify.h"
 #include "toolkit/menu.h"
 
 #include <array>
@@ -59,6 +61,46 @@ inline constexpr std::array options_menu_items{
     MenuItem{"Pack/Unpack File(s)", make_tar_file},
     MenuItem{"Select Files", select_files},
     MenuItem{"Set New Root", set_new_root},
+};
+
+inline constexpr std::array clearcase_tree_items{
+    MenuItem{"Display Config Spec", ClearCasemenuDisplayConfigSpec},
+    MenuItem{"Set Config Spec", ClearcaseMenuSetConfigSpec},
+    MenuItem{"Set Default Config Spec", ClearCaseMenuSetConfigSpecDefault},
+    MenuItem{"Checkin", ClearCaseMenuCheckInNoCom},
+    MenuItem{"Checkout", ClearCaseMenuCheckOut},
+    MenuItem{"Copy Files to Vob", ClearcaseMenuCopyFilesToVob},
+    MenuItem{"History", ClearCaseMenuhistory},
+    MenuItem{"List Files", ClearCaseMenuListFiles},
+    MenuItem{"List All Files", ClearCaseMenuListAllFiles},
+    MenuItem{"List Checkout (All)", ClearCaseMenuListCo},
+    MenuItem{"List Checkout (Mine)", ClearcaseMenuListCheckoutMine},
+    MenuItem{"List Private", ClearcaseMenuListPrivate},
+    MenuItem{"Make Directory", FileTreeClearCaseMenuMakeDir},
+    MenuItem{"Make Element", ClearCaseMenuMakeElement},
+    MenuItem{"Make Element (No comment)", ClearcaseMenuMakeElementNc},
+    MenuItem{"Move File", ClearCaseMoveFile},
+    MenuItem{"Remove Element", FileTreeClearCaseMenuRemovElem},
+    MenuItem{"Rename File", ClearCaseMenuRenameFile},
+    MenuItem{"Set Label", ClearCaseMenu1SetLabel},
+    MenuItem{"Uncheckout", ClearCaseMenuUncheckout},
+};
+
+inline constexpr std::string_view opens_checkout = "Opens Checkout from Repository";
+inline constexpr std::array subversion_items{
+    MenuItem{"Add", SubversionMenuAdd},
+    MenuItem{"Branch/Tag", SubversionMenuBranch},
+    MenuItem{"Checkout", SubversionMenuCheckout},
+    MenuItem{"Commit", SubversionMenuCommit},
+    MenuItem{"Copy", SubversionMenuCopy, opens_checkout},
+    MenuItem{"Delete", SubversionMenuDelete},
+    MenuItem{"Diff", SubversionMenuDiff},
+    MenuItem{"Log", SubversionMenuLog},
+    MenuItem{"Move", SubversionMenuMove, opens_checkout},
+    MenuItem{"Revert", SubversionMenuRevert},
+    MenuItem{"Status (Changes)", SubversionMenuStatusChanges},
+    MenuItem{"Status (All)", SubversionMenuStatusAll},
+    MenuItem{"Update", SubversionMenuUpdate},
 };
 
 /// What no other menu carries.

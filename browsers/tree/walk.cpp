@@ -13,15 +13,16 @@
 namespace {
 
 struct Walk {
-    std::vector<WalkedNode> nodes;
-    bool is_whole = true;  ///< no path led nowhere
+    std::vector<WalkedNode> nodes;  ///< up to the first one that leads nowhere
+    bool is_whole = true;           ///< no path led nowhere
     bool is_stopped = false;
 };
 
 Walk examine(Walk walk, Progress& progress) {
-    for (WalkedNode& node : walk.nodes) {
-        if (!glance_at(node.path, node.glance)) {
+    for (auto node = walk.nodes.begin(); node != walk.nodes.end(); ++node) {
+        if (!glance_at(node->path, node->glance)) {
             walk.is_whole = false;
+            walk.nodes.erase(node, walk.nodes.end());
             break;
         }
         if (!progress.next()) {
@@ -59,6 +60,13 @@ std::string_view refusal(const WalkRule& rule, const Walk& walk) {
     return {};
 }
 
+Message act(const WalkRule& rule, const Walk& walk, const WalkAction& action) {
+    const std::string_view why_not = refusal(rule, walk);
+    const bool acts = why_not.empty() || (rule.up_to_illegal && !walk.is_whole && !walk.nodes.empty());
+    Message message = acts ? action(walk.nodes) : Message();
+    return message.empty() ? Message(why_not) : message;
+}
+
 }  // namespace
 
 const WalkedNode& directory_among(const std::vector<WalkedNode>& nodes) {
@@ -90,8 +98,7 @@ Message walk(Frame& asker, const WalkRule& rule, std::vector<WalkedNode> nodes, 
     return work_for(
         asker, "Files examined", [selected](Progress& progress) { return examine(selected, progress); },
         [&asker, rule, action = std::move(action)](const Walk& walk) {
-            const std::string_view why_not = refusal(rule, walk);
-            Message message = why_not.empty() ? action(walk.nodes) : Message(why_not);
+            Message message = act(rule, walk, action);
             if (rule.also_tells != nullptr) {
                 rule.also_tells->set_left_footer(message);
             }

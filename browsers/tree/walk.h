@@ -40,6 +40,7 @@ struct WalkRule {
     std::string_view none;     ///< nothing is selected
     std::string_view illegal;  ///< a path leads nowhere
     std::vector<WalkCheck> checks;
+    bool up_to_illegal = false;   ///< the nodes in front of one that leads nowhere are acted on first
     Frame* also_tells = nullptr;  ///< a window whose left footer shows the message, too
 };
 

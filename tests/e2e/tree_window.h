@@ -14,8 +14,8 @@ class Tree : public OrvikTest {
     }
 
     /// The window with the project as its root, in a shell that has been given other lines before.
-    void show_project(const std::string& lines = {}) {
-        start_with_shell("/bin/bash");
+    void show_project(const std::string& lines = {}, const std::string& shell = "/bin/bash") {
+        start_with_shell(shell);
         type(lines + "cd project\n");
         expect_cwd(home_ / "project");
         browser_ = open_window("File Tree Browser");
@@ -27,11 +27,16 @@ class Tree : public OrvikTest {
         canvas_ = browser_.find({"tree", "File Tree Browser tree"});
     }
     void choose(std::string_view menu, std::string_view item) {
-        display().click(browser_.find({"push button", menu}).place());
-        choose_in_open_menu(item);
+        const Accessible button = browser_.find({"push button", menu});
+        display().click(button.place());
+        click_item(button, item);
     }
+    /// In the menu of the canvas, which a click has opened.
     void choose_in_open_menu(std::string_view item) {
-        const Accessible found = browser_.find({"menu item", item});
+        click_item(browser_.find({"popup menu", "Options"}), item);
+    }
+    void click_item(const Accessible& menu, std::string_view item) {
+        const Accessible found = menu.find({"menu item", item});
         ASSERT_TRUE(wait_until([&] { return found.showing(); })) << browser_.tree();
         display().click(found.place());
     }

@@ -85,11 +85,10 @@ Names keys_in_code() {
     return names;
 }
 
-/// `.orvik-vob` belongs to ClearCase, which is yet to come.
 Names files_in_code() {
     return found_in(
         program(),
-        R"re("[^"\n]*?(\.orvik-(?!vob)[a-z]+|\.email-addresses|Orvik\.setup|\w+(?:book|board)\.txt|orvik\.plot)\b)re");
+        R"re("[^"\n]*?(\.orvik-[a-z]+(?:-script)?|\.email-addresses|Orvik\.setup|\w+(?:book|board)\.txt|orvik\.plot)\b)re");
 }
 
 /// Where the names of one kind stand.
