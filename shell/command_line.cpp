@@ -37,6 +37,11 @@ CommandLine& CommandLine::in_background() {
     return *this;
 }
 
+CommandLine& CommandLine::behind(Words program) {
+    behind_ = program.text();
+    return *this;
+}
+
 CommandLine& CommandLine::behind_line_feed() {
     behind_line_feed_ = true;
     return *this;

@@ -66,6 +66,9 @@ class CommandLine {
 
     /// The shell shall not wait for the command: " &" ends the line.
     CommandLine& in_background();
+    /// It is typed only when such a program has ended in the shell's background.
+    CommandLine& behind(Words program);
+    [[nodiscard]] const std::string& is_behind() const { return behind_; }
     /// An empty line is typed before it.
     CommandLine& behind_line_feed();
     [[nodiscard]] bool is_behind_line_feed() const { return behind_line_feed_; }
@@ -87,6 +90,7 @@ class CommandLine {
     [[nodiscard]] ComposedLine compose(Write write) const;
 
     std::vector<Piece> pieces_;
+    std::string behind_;
     bool in_background_ = false;
     bool behind_line_feed_ = false;
 };

@@ -57,17 +57,18 @@ void begin_waiting_lines(std::function<void()> changed) {
     lines.emplace(
         WaitingLines::Surroundings{.use = [] { return main_window().termpane.use(); },
                                    .program_name = program_name,
+                                   .works_in_background = works_in_background,
                                    .half_typed = is_command_half_typed,
                                    .hook_stamp = [] { return stamp_of(status_display().status_file.text()); },
                                    .give = give,
                                    .changed = std::move(changed)});
 }
 
-Message type_line(std::string_view text, LineFeeds line_feeds) {
+Message type_line(std::string_view text, LineFeeds line_feeds, std::string behind) {
     Message refusal = type_refusal(text);
     if (refusal.empty()) {
         const std::string_view before = line_feeds == LineFeeds::before_and_behind ? "\n" : "";
-        waiting_lines().submit(fmt::format("{}{}\n", before, text));
+        waiting_lines().submit({.text = fmt::format("{}{}\n", before, text), .behind = std::move(behind)});
     }
     return refusal;
 }

@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <string>
 #include <string_view>
 
 // The one door to the user's shell: whatever the tool types goes through here. Features compose a
@@ -17,7 +18,9 @@ enum class LineFeeds : std::uint8_t { behind, before_and_behind };
 /// Types a text followed by a line feed; it waits where no shell reads. Returns an empty message, or why it
 /// is not typed: it holds a control character, is longer than the shell's terminal takes in one line, or the
 /// shell has ended.
-[[nodiscard]] Message type_line(std::string_view text, LineFeeds line_feeds = LineFeeds::behind);
+/// Behind a program, it waits for that in the terminal's background as well.
+[[nodiscard]] Message type_line(std::string_view text, LineFeeds line_feeds = LineFeeds::behind,
+                                std::string behind = {});
 /// Types a text that its user is to complete, whatever runs; refusals as above.
 [[nodiscard]] Message type_text(std::string_view text);
 /// Types one control character: "U" for ^U.

@@ -10,6 +10,7 @@
 #include <optional>
 
 #include <fmt/format.h>
+#include <unistd.h>
 
 namespace {
 
@@ -61,20 +62,21 @@ constexpr std::array known_programs{
 
 constexpr std::size_t largest_stat = 4096;
 
-/// The process group in the text of /proc/PID/stat: the third word behind the name, which is in brackets and
-/// may hold any.
-std::optional<pid_t> group_in(std::string_view stat) {
+/// Words of /proc/PID/stat, counted from the name, which is in brackets and may hold any.
+enum class StatWord : std::uint8_t { group = 3, session = 4 };
+
+std::optional<pid_t> number_in(std::string_view stat, StatWord wanted) {
     const std::size_t name_end = stat.rfind(')');
     if (name_end == std::string_view::npos) {
         return std::nullopt;
     }
     std::string_view rest = stat.substr(name_end);  // ") S 1 1234 ..."
-    for (int word = 0; word < 3; ++word) {
+    for (int word = 0; word < static_cast<int>(wanted); ++word) {
         rest.remove_prefix(std::min(rest.find(' '), rest.size() - 1) + 1);
     }
-    pid_t group = 0;
-    return std::from_chars(rest.data(), rest.data() + rest.size(), group).ec == std::errc()
-               ? std::optional(group)
+    pid_t number = 0;
+    return std::from_chars(rest.data(), rest.data() + rest.size(), number).ec == std::errc()
+               ? std::optional(number)
                : std::nullopt;
 }
 
@@ -83,19 +85,28 @@ std::string name_of_process(pid_t process) {
     return name.substr(0, name.rfind('\n'));
 }
 
-/// Where the leader has ended; a look at every process.
-std::string name_of_member(pid_t group) {
-    pid_t last = -1;
+/// Calls `action` with every process's number and the text of its stat file.
+template <typename Action>
+void for_each_process(Action action) {
     std::error_code error;
     for (const auto& entry : std::filesystem::directory_iterator("/proc", error)) {
         const std::string number = entry.path().filename();
         pid_t process = 0;
         const char* const end = number.data() + number.size();
-        if (std::from_chars(number.data(), end, process).ptr == end && process > last &&
-            group_in(read_file(entry.path() / "stat", largest_stat).text) == group) {
-            last = process;
+        if (std::from_chars(number.data(), end, process).ptr == end) {
+            action(process, read_file(entry.path() / "stat", largest_stat).text);
         }
     }
+}
+
+/// Where the leader has ended.
+std::string name_of_member(pid_t group) {
+    pid_t last = -1;
+    for_each_process([&](pid_t process, const std::string& stat) {
+        if (process > last && number_in(stat, StatWord::group) == group) {
+            last = process;
+        }
+    });
     return last > 0 ? name_of_process(last) : "";
 }
 
@@ -116,4 +127,15 @@ std::string program_name(pid_t group) {
     }
     std::string name = name_of_process(group);
     return name.empty() ? name_of_member(group) : name;
+}
+
+bool works_in_background(pid_t front_group, std::string_view program) {
+    const pid_t session = getsid(front_group);
+    bool works = false;
+    for_each_process([&](pid_t process, const std::string& stat) {
+        works =
+            works || (session > 0 && number_in(stat, StatWord::session) == session &&
+                      number_in(stat, StatWord::group) != front_group && name_of_process(process) == program);
+    });
+    return works;
 }

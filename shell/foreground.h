@@ -20,3 +20,7 @@ enum class ProgramKind : std::uint8_t {
 /// The name of the program that a process group runs: its leader's, else that of the member started last;
 /// empty where there is none. As proc(5) tells it: at most 15 bytes, of any value.
 [[nodiscard]] std::string program_name(pid_t group);
+
+/// Whether a program works in the background of the terminal that a process group stands in front of: a look
+/// at every process.
+[[nodiscard]] bool works_in_background(pid_t front_group, std::string_view program);

@@ -11,7 +11,8 @@ Message send(const CommandLine& line, Remember remember) {
     const ComposedLine composed = line.typed_into(user_shell);
     const LineFeeds line_feeds =
         line.is_behind_line_feed() ? LineFeeds::before_and_behind : LineFeeds::behind;
-    Message refusal = composed.refusal.empty() ? type_line(composed.text, line_feeds) : composed.refusal;
+    Message refusal =
+        composed.refusal.empty() ? type_line(composed.text, line_feeds, line.is_behind()) : composed.refusal;
     if (!refusal.empty()) {
         return refusal;
     }

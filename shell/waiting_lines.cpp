@@ -36,7 +36,7 @@ FileStamp stamp_of(const std::string& path) {
 WaitingLines::WaitingLines(Surroundings surroundings)
     : surroundings_(std::move(surroundings)), reader_(surroundings_.program_name) {}
 
-void WaitingLines::submit(std::string line) {
+void WaitingLines::submit(WaitingLine line) {
     if (lines_.empty()) {
         last_progress_ = surroundings_.now();
     }
@@ -52,7 +52,7 @@ void WaitingLines::look() {
         return;
     }
     const std::size_t waiting = lines_.size();
-    while (is_ready() && !lines_.empty()) {
+    while (is_ready() && !lines_.empty() && !is_held_back()) {
         give_first();
     }
     if (lines_.size() != waiting) {
@@ -104,18 +104,19 @@ std::string WaitingLines::announcement() const {
     if (lines_.empty()) {
         return {};
     }
-    const std::string name = surroundings_.program_name(surroundings_.use().group);
+    const std::string name =
+        held_back_ ? lines_.front().behind : surroundings_.program_name(surroundings_.use().group);
     return fmt::format("{} for {}: {}",
                        lines_.size() == 1 ? "1 line waits" : fmt::format("{} lines wait", lines_.size()),
                        user_types_    ? "the command you are typing"
                        : name.empty() ? "the shell"
                                       : name,
-                       remove_line_feeds(lines_.front()));
+                       remove_line_feeds(lines_.front().text));
 }
 
 bool WaitingLines::is_ready() {
     const PaneUse use = surroundings_.use();
-    user_types_ = false;
+    user_types_ = held_back_ = false;
     if (!use.started || !hold_) {
         return use.started;
     }
@@ -133,6 +134,15 @@ bool WaitingLines::is_ready() {
     return !user_types_;
 }
 
+/// A shell that has prompted may have left a program behind that is still being started: so it is not looked
+/// for too early.
+bool WaitingLines::is_held_back() {
+    const std::string& program = lines_.front().behind;
+    held_back_ = hold_ && !program.empty() &&
+                 (has_just_given() || surroundings_.works_in_background(surroundings_.use().group, program));
+    return held_back_;
+}
+
 bool WaitingLines::has_come_back(Reader reader) {
     const auto waited = surroundings_.now() - std::max(in_front_since_, given_->at);
     const FileStamp stamp = surroundings_.hook_stamp();
@@ -148,8 +158,9 @@ bool WaitingLines::has_come_back(Reader reader) {
 }
 
 void WaitingLines::give_first() {
-    const std::string line = std::move(lines_.front());
+    const std::string line = std::move(lines_.front().text);
     lines_.pop_front();
+    held_back_ = false;
     note_given();
     last_progress_ = surroundings_.now();
     last_given_ = last_progress_;

@@ -20,6 +20,12 @@ struct FileStamp {
 };
 [[nodiscard]] FileStamp stamp_of(const std::string& path);
 
+/// A command line, with its line feeds.
+struct WaitingLine {
+    std::string text;
+    std::string behind;  ///< a program that must have ended in the background; empty for none
+};
+
 /// The tool's command lines on their way to the shell. Each is given when a shell is there to read it, one by
 /// one, in their order; what would become another program's input waits. Knows no window and no pty: what it
 /// must know of them it is told, or asks.
@@ -34,6 +40,8 @@ class WaitingLines {
     struct Surroundings {
         std::function<PaneUse()> use;
         std::function<std::string(pid_t group)> program_name;
+        /// A program works in the background of the terminal that the group stands in front of.
+        std::function<bool(pid_t group, const std::string& program)> works_in_background;
         std::function<bool()> half_typed;       ///< the user is typing a command just now
         std::function<FileStamp()> hook_stamp;  ///< of the file that the prompt hook writes
         std::function<void(const std::string&)> give;
@@ -43,8 +51,8 @@ class WaitingLines {
 
     explicit WaitingLines(Surroundings surroundings);
 
-    /// Gives a line, with its line feeds, as soon as a shell reads: at once if it does now.
-    void submit(std::string line);
+    /// Gives a line as soon as a shell reads: at once if it does now.
+    void submit(WaitingLine line);
     /// Looks whether the first line can be given now. To be called when the terminal was written to and,
     /// while lines wait, every so often.
     void look();
@@ -53,7 +61,7 @@ class WaitingLines {
     void drop(std::size_t index);
     /// Returns how many there were.
     std::size_t drop_all();
-    [[nodiscard]] const std::deque<std::string>& lines() const { return lines_; }
+    [[nodiscard]] const std::deque<WaitingLine>& lines() const { return lines_; }
 
     /// The user has ended a line for whatever reads.
     void user_ended_line();
@@ -80,13 +88,14 @@ class WaitingLines {
     };
 
     [[nodiscard]] bool is_ready();
+    [[nodiscard]] bool is_held_back();
     [[nodiscard]] bool has_come_back(Reader reader);
     void give_first();
     void note_given();
 
     Surroundings surroundings_;
     LineReader reader_;
-    std::deque<std::string> lines_;
+    std::deque<WaitingLine> lines_;
     std::optional<Given> given_;
     std::optional<FileStamp> silent_;  ///< of the status file when the hook was not at work
     Reader in_front_ = Reader::none;
@@ -95,5 +104,6 @@ class WaitingLines {
     Clock::time_point last_progress_;
     std::optional<Clock::time_point> last_given_;
     bool user_types_ = false;  ///< what the first line waits for
+    bool held_back_ = false;   ///< the same: a program in the background
     bool hold_ = true;
 };

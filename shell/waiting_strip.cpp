@@ -16,9 +16,10 @@
 namespace {
 
 /// The rows of the list, as far as they have changed: whoever has chosen one keeps it.
-void show_list(MainWindow& window, const std::deque<std::string>& lines) {
+void show_list(MainWindow& window, const std::deque<WaitingLine>& lines) {
     std::vector<std::string> rows;
-    std::ranges::transform(lines, std::back_inserter(rows), remove_line_feeds);
+    std::ranges::transform(lines, std::back_inserter(rows),
+                           [](const WaitingLine& line) { return remove_line_feeds(line.text); });
     if (rows != window.waiting_list.all_rows()) {
         window.waiting_list.set_rows(std::move(rows));
     }

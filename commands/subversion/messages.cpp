@@ -9,7 +9,8 @@
 
 namespace {
 
-/// Types a line for each selected node.
+/// Types a line for each selected node. Each works in the background and has the working copy locked
+/// meanwhile, so the next one is to wait for its end.
 template <typename LineFor>
 Message type_for_each(Frame& window, LineFor line_for) {
     return walk_selection(window,
@@ -47,7 +48,8 @@ Message Subversion_commit_button() {
             .word("--message")
             .double_quoted_text(message)
             .peg(path)
-            .in_background();
+            .in_background()
+            .behind("svn");
     });
 }
 
@@ -60,10 +62,10 @@ Message Subversion_branch_button() {
     if (message.empty()) {
         return "Message not specified";
     }
-    return type_for_each(subversion_branch_tag(),
-                         [target = copy_target(name), message](const std::string& path) {
-                             CommandLine line("svn copy");
-                             line.peg(path).path(target).word("--message").double_quoted_text(message);
-                             return line.word("").in_background();  // with two blanks in front
-                         });
+    return type_for_each(
+        subversion_branch_tag(), [target = copy_target(name), message](const std::string& path) {
+            CommandLine line("svn copy");
+            line.peg(path).path(target).word("--message").double_quoted_text(message);
+            return line.word("").in_background().behind("svn");  // two blanks before the ampersand
+        });
 }

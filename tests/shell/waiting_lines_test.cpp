@@ -9,6 +9,7 @@
 #include <utility>
 
 #include <gtest/gtest.h>
+#include <sys/prctl.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -106,6 +107,25 @@ TEST(ProgramName, IsTheForegroundPrograms) {
     kill(-leader, SIGKILL);
 }
 
+TEST(ProgramName, IsLookedForInTheBackground) {
+    const pid_t leader = fork();
+    ASSERT_GE(leader, 0);
+    if (leader == 0) {
+        setsid();
+        if (fork() == 0) {
+            setpgid(0, 0);
+            prctl(PR_SET_PDEATHSIG, SIGKILL);
+            execl("/bin/sleep", "sleep", "60", nullptr);
+        }
+        pause();
+        _exit(0);
+    }
+    EXPECT_TRUE(wait_until([&] { return works_in_background(leader, "sleep"); }));
+    EXPECT_FALSE(works_in_background(leader, "svn"));
+    kill(-leader, SIGKILL);
+    EXPECT_EQ(waitpid(leader, nullptr, 0), leader);
+}
+
 class WaitingLinesTest : public testing::Test {
   protected:
     /// Time passes, with a look at its end.
@@ -118,12 +138,14 @@ class WaitingLinesTest : public testing::Test {
         program = name;
         lines.look();
     }
+    void submit(const char* line, const char* behind = "") { lines.submit({.text = line, .behind = behind}); }
     void hook_runs() { ++stamp.modified; }
     /// What has been given since the last question.
     std::string given() { return std::exchange(given_, {}); }
 
     PaneUse use = editing;
     std::string program = "bash";
+    std::string in_background;
     bool half_typed = false;
     FileStamp stamp{.inode = 1, .modified = 1};
     WaitingLines::Clock::time_point now{};
@@ -131,6 +153,10 @@ class WaitingLinesTest : public testing::Test {
     std::string given_;
     WaitingLines lines{{.use = [this] { return use; },
                         .program_name = [this](pid_t) { return program; },
+                        .works_in_background =
+                            [this](pid_t group, const std::string& behind) {
+                                return group == use.group && behind == in_background;
+                            },
                         .half_typed = [this] { return half_typed; },
                         .hook_stamp = [this] { return stamp; },
                         .give = [this](const std::string& line) { given_ += line; },
@@ -141,10 +167,10 @@ class WaitingLinesTest : public testing::Test {
 TEST_F(WaitingLinesTest, AreGivenOneByOneAfterTheHookHasRun) {
     lines.hook_typed();
     hook_runs();
-    lines.submit("one\n");
+    submit("one\n");
     EXPECT_EQ(given(), "one\n") << "at once";
-    lines.submit("two\n");
-    lines.submit("three\n");
+    submit("two\n");
+    submit("three\n");
     after(900);
     EXPECT_EQ(given(), "");
     becomes(running, "one");
@@ -158,7 +184,7 @@ TEST_F(WaitingLinesTest, AreGivenOneByOneAfterTheHookHasRun) {
     EXPECT_EQ(given(), "three\n");
     now += std::chrono::hours(1);
     hook_runs();
-    lines.submit("four\n");
+    submit("four\n");
     EXPECT_EQ(given(), "four\n");
 }
 
@@ -166,8 +192,8 @@ TEST_F(WaitingLinesTest, DoNotNeedAHook) {
     for (const PaneUse& prompt : {editing, plain_prompt}) {
         lines.shell_started();
         use = prompt;
-        lines.submit("one\n");
-        lines.submit("two\n");
+        submit("one\n");
+        submit("two\n");
         after(149);
         EXPECT_EQ(given(), "one\n");
         after(1);
@@ -179,9 +205,9 @@ TEST_F(WaitingLinesTest, DoNotNeedAHook) {
 TEST_F(WaitingLinesTest, AreNotStoppedByAHookThatWasTakenAway) {
     lines.hook_typed();
     hook_runs();
-    lines.submit("unset PROMPT_COMMAND\n");
-    lines.submit("two\n");
-    lines.submit("three\n");
+    submit("unset PROMPT_COMMAND\n");
+    submit("two\n");
+    submit("three\n");
     after(999);
     EXPECT_EQ(given(), "unset PROMPT_COMMAND\n");
     after(1);
@@ -194,7 +220,7 @@ TEST_F(WaitingLinesTest, FollowWhatTheUserHasSentOff) {
     lines.hook_typed();
     hook_runs();
     lines.user_ended_line();
-    lines.submit("one\n");
+    submit("one\n");
     EXPECT_EQ(given(), "");
     hook_runs();
     lines.look();
@@ -203,8 +229,8 @@ TEST_F(WaitingLinesTest, FollowWhatTheUserHasSentOff) {
 
 TEST_F(WaitingLinesTest, TakeLongerWhereTheShellIsFar) {
     becomes(nested_editor, "ssh");
-    lines.submit("one\n");
-    lines.submit("two\n");
+    submit("one\n");
+    submit("two\n");
     after(999);
     EXPECT_EQ(given(), "one\n");
     after(1);
@@ -213,12 +239,12 @@ TEST_F(WaitingLinesTest, TakeLongerWhereTheShellIsFar) {
 
 TEST_F(WaitingLinesTest, TellWhatTheyWaitFor) {
     becomes(running, "make");
-    lines.submit("\nsvn commit\n");
+    submit("\nsvn commit\n");
     EXPECT_FALSE(lines.is_stalled());
     after(250);
     EXPECT_TRUE(lines.is_stalled());
     EXPECT_EQ(lines.announcement(), "1 line waits for make: svn commit");
-    lines.submit("ls\n");
+    submit("ls\n");
     EXPECT_EQ(lines.announcement(), "2 lines wait for make: svn commit");
     lines.drop(0);
     lines.drop(7);
@@ -232,15 +258,30 @@ TEST_F(WaitingLinesTest, TellWhatTheyWaitFor) {
     EXPECT_EQ(lines.announcement(), "");
     use.started = false;
     program = "";
-    lines.submit("source x\n");
+    submit("source x\n");
     EXPECT_EQ(lines.announcement(), "1 line waits for the shell: source x");
+}
+
+TEST_F(WaitingLinesTest, WaitForAProgramInTheBackground) {
+    submit("svn commit a &\n", "svn");
+    submit("svn commit b &\n", "svn");
+    EXPECT_EQ(given(), "svn commit a &\n");
+    after(249);
+    EXPECT_EQ(given(), "") << "svn may not have started yet";
+    in_background = "svn";
+    after(1000);
+    EXPECT_EQ(given(), "");
+    EXPECT_EQ(lines.announcement(), "1 line waits for svn: svn commit b &");
+    in_background = "";
+    lines.look();
+    EXPECT_EQ(given(), "svn commit b &\n");
 }
 
 TEST_F(WaitingLinesTest, GoWhereTheirUserSendsThem) {
     becomes(running, "cat");
-    lines.submit("one\n");
-    lines.submit("two\n");
-    lines.submit("three\n");
+    submit("one\n");
+    submit("two\n");
+    submit("three\n");
     lines.send_first();
     EXPECT_EQ(given(), "one\n");
     changes = 0;
@@ -252,11 +293,11 @@ TEST_F(WaitingLinesTest, GoWhereTheirUserSendsThem) {
     EXPECT_EQ(given(), "");
     lines.set_hold(false);
     becomes(running, "cat");
-    lines.submit("one\n");
-    lines.submit("two\n");
+    submit("one\n");
+    submit("two\n");
     EXPECT_EQ(given(), "one\ntwo\n");
     use.started = false;
-    lines.submit("three\n");
+    submit("three\n");
     EXPECT_EQ(given(), "") << "no shell has started yet";
 }
 
