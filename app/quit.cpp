@@ -3,6 +3,7 @@
 
 #include "app/notify.h"
 #include "settings/history.h"
+#include "settings/unsaved.h"
 #include "shell/door.h"
 #include "shell/messages.h"
 #include "shell/process.h"
@@ -15,6 +16,8 @@
 #include "ui/send_email.h"
 
 #include <cstdio>
+#include <string>
+#include <vector>
 
 #include <fmt/printf.h>
 #include <unistd.h>
@@ -29,6 +32,15 @@ void remove_left_files() {
         unlink(fmt::sprintf("%s/.orvik-status%d", home_dir, number).c_str());
     }
     unlink(fmt::sprintf("%s/.orvik-message", home_dir).c_str());
+}
+
+/// What stands under the question.
+std::vector<std::string> what_is_lost() {
+    std::vector<std::string> lines;
+    if (has_unsaved_settings()) {
+        lines.emplace_back("Settings are not saved yet: \"Save Setup\" in the \"Setup\" menu does that");
+    }
+    return lines;
 }
 
 }  // namespace
@@ -55,8 +67,10 @@ std::string clean_up_without_display() {
 
 void Quit_button() {
     const bool waiting = !waiting_lines().lines().empty();
-    if (!agreed(main_window(), waiting ? "Command lines are waiting for the shell. Quit and drop them ?"
-                                       : "Do you really want to quit ?")) {
+    if (!agreed(main_window(),
+                waiting ? "Command lines are waiting for the shell. Quit and drop them ?"
+                        : "Do you really want to quit ?",
+                what_is_lost())) {
         return;
     }
     const std::string trouble = save_history_at_quit();

@@ -69,7 +69,10 @@ TEST_F(End, QuitAsksSavesAndCleansUp) {
     display().press_key("Return");
     expect_no_question();
     fs::remove(home_ / ".orvik-history");
+    const Accessible settings = open_window("Environment Setup Window");
+    EXPECT_TRUE(settings.find({"text", "Working Directory 1:"}).set_text("/changed"));
     ask_to_quit();
+    expect_question("Settings are not saved yet");
     EXPECT_TRUE(button("Yes").press());
     expect_end(0);
     program_.reset();
