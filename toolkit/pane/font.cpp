@@ -70,10 +70,18 @@ ShapedCell shape(const QString& text, const QFont& font) {
     return cell;
 }
 
-/// As a picture, not as a character: what is two cells wide, and what is followed by U+FE0F; but nothing
-/// followed by U+FE0E (Unicode Technical Standard 51).
+/// As a picture, not as a character: what is two cells wide among the symbols, and what is followed by U+FE0F;
+/// but nothing followed by U+FE0E (Unicode Technical Standard 51). Ideographs and syllables are wide, too, and
+/// keep their face.
 bool is_emoji(const QString& text, int cells) {
-    return text.contains(QChar(0xfe0f)) || (cells == 2 && !text.contains(QChar(0xfe0e)));
+    constexpr uint first_symbol = 0x231A;
+    constexpr uint behind_symbols = 0x2C00;
+    constexpr uint first_picture = 0x1F000;
+    constexpr uint first_ideograph_behind = 0x20000;
+    const uint first = text.toUcs4().value(0);
+    const bool symbol = (first >= first_symbol && first < behind_symbols) ||
+                        (first >= first_picture && first < first_ideograph_behind);
+    return text.contains(QChar(0xfe0f)) || (cells == 2 && symbol && !text.contains(QChar(0xfe0e)));
 }
 
 quint32 find_glyph(const QRawFont& font, char32_t character) {

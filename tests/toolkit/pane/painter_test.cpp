@@ -128,6 +128,18 @@ TEST_F(TerminalPainterTest, CombiningCharactersWithAWidthOfTheirOwnAreDrawnOverT
     }
 }
 
+/// Pictures have one weight; ideographs and syllables, as wide as they are, have those of the text.
+TEST_F(TerminalPainterTest, WideCharactersHaveTheWeightOfTheirFace) {
+    TerminalFont font(QFont(QStringLiteral("monospace"), 10), 1);
+    for (const char16_t character : {u'\u4e2d', u'\uD55C', u'\u3042'}) {
+        const auto weight = [&](Face face) {
+            return font.shaped(QString(QChar(character)), face, 2).runs.front().rawFont().weight();
+        };
+        EXPECT_EQ(weight(Face::normal), QFont::Normal) << static_cast<int>(character);
+        EXPECT_EQ(weight(Face::bold), QFont::Bold) << static_cast<int>(character);
+    }
+}
+
 TEST_F(TerminalPainterTest, StylesDrawTheirLines) {
     const QRgb red = qRgb(255, 0, 0);
     struct {
