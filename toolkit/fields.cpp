@@ -130,7 +130,10 @@ void TextField::set_display_length(int characters) {
     widget_->setMinimumWidth(width_of(*widget_, characters));
 }
 
-void TextField::set_tool_tip(std::string_view text) { widget_->setToolTip(plain_tool_tip(text)); }
+void TextField::set_tool_tip(std::string_view text) {
+    widget_->setToolTip(plain_tool_tip(text));
+    widget_->setAccessibleDescription(visible_text(text));
+}
 
 QWidget* TextField::widget() const { return widget_; }
 

@@ -173,9 +173,26 @@ class TerminalAccessible final : public QAccessibleWidget, public QAccessibleTex
     }
 };
 
+/// What is round a view hands its focus on, and is not itself what has it.
+class SurroundingAccessible final : public QAccessibleWidget {
+  public:
+    explicit SurroundingAccessible(QWidget* widget) : QAccessibleWidget(widget, QAccessible::Client) {}
+
+    [[nodiscard]] QAccessible::State state() const override {
+        QAccessible::State state = QAccessibleWidget::state();
+        state.focusable = 0;
+        state.focused = 0;
+        return state;
+    }
+};
+
 QAccessibleInterface* make_accessible(const QString& /*class_name*/, QObject* object) {
-    auto* const view = dynamic_cast<TerminalView*>(object);
-    return view != nullptr ? new TerminalAccessible(view) : nullptr;
+    if (auto* const view = dynamic_cast<TerminalView*>(object)) {
+        return new TerminalAccessible(view);
+    }
+    auto* const widget = qobject_cast<QWidget*>(object);
+    const bool surrounds = widget != nullptr && dynamic_cast<TerminalView*>(widget->focusProxy()) != nullptr;
+    return surrounds ? new SurroundingAccessible(widget) : nullptr;
 }
 
 }  // namespace

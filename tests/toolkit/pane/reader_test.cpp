@@ -36,6 +36,13 @@ TEST_F(TerminalReaderTest, PaneIsATerminalByItsNameWithTextOfLogicalLines) {
     EXPECT_TRUE(text().ends_with("\nprompt\n\n\n\n\n    ")) << text();
 }
 
+TEST_F(TerminalReaderTest, OnlyTheTerminalItselfHasTheFocus) {
+    EXPECT_TRUE(QAccessible::queryAccessibleInterface(&view())->state().focused);
+    const QAccessible::State round = QAccessible::queryAccessibleInterface(pane.widget())->state();
+    EXPECT_FALSE(round.focused);
+    EXPECT_FALSE(round.focusable);
+}
+
 TEST_F(TerminalReaderTest, ContextMenuIsAChildOfTheTerminalAndCanBeOpened) {
     QAccessibleInterface* const interface = QAccessible::queryAccessibleInterface(&view());
     ASSERT_EQ(interface->childCount(), 1);
