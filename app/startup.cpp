@@ -81,7 +81,10 @@ void make_windows(std::unique_ptr<terminal::Pty> shell) {
     ImageButton::set_picture_directory(orvik_home + "/icons");
     create_main_window();
     apply_geometry_option(main_window());
-    watch_for_shell([] { (void)type_prompt_hooks(); });  // a shell that is started again knows no hook yet
+    watch_for_shell([] {
+        show_screen_lock(false);
+        (void)type_prompt_hooks();  // a shell that is started again knows no hook yet
+    });
     main_window().termpane.start(login_shell(), std::move(shell));
     create_popups();  // while the shell starts
 }

@@ -125,9 +125,9 @@ bool termpane_event_proc(KeyEvent& event) {
         return false;
     }
     if (event.is_control('s')) {
-        main_window().set_right_footer("Screen is locked. Use ^Q to unlock.");
+        show_screen_lock(true);
     } else if (event.is_control('q')) {
-        main_window().set_right_footer("");
+        show_screen_lock(false);
     }
     if (!is_shell(waiting_lines().reader())) {
         return false;

@@ -27,6 +27,8 @@ itimerval wtimer{};
 /// This copy's status file, held for as long as it runs.
 std::optional<StatusFile> own_file;
 
+bool screen_is_locked = false;
+
 }  // namespace
 
 void begin_status_display() {
@@ -56,8 +58,15 @@ void DisplayStatusTimer() {
     const ShellStatus status = parse_status(*contents);
     main_window().cwd.set_text(status.cwd);
     default_settings().prompt.set_text(remove_trailing_spaces(status.prompt));
-    main_window().set_right_footer(
-        status_line(status, status_display().enable.value(), process_information().process_id.value()));
+    if (!screen_is_locked || !main_window().termpane.use().locks_on_control_s) {
+        main_window().set_right_footer(
+            status_line(status, status_display().enable.value(), process_information().process_id.value()));
+    }
+}
+
+void show_screen_lock(bool locked) {
+    screen_is_locked = locked;
+    main_window().set_right_footer(locked ? "Screen is locked. Use ^Q to unlock." : "");
 }
 
 void end_status_display() {

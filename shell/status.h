@@ -15,5 +15,8 @@ void SetupTimer(int milliseconds);
 /// directory, prompt and the status line. Without a readable file nothing changes.
 void DisplayStatusTimer();
 
+/// While the screen is locked the right footer says so, whatever the shell reports.
+void show_screen_lock(bool locked);
+
 /// Ends the status machinery: the timer and the status file.
 void end_status_display();

@@ -269,6 +269,7 @@ TerminalUse Pty::use() const {
     return {.reads_lines = (modes.c_lflag & ICANON) != 0,
             .echoes = (modes.c_lflag & ECHO) != 0,
             .translates_return = (modes.c_iflag & ICRNL) != 0,
+            .locks_on_control_s = (modes.c_iflag & IXON) != 0,
             .group = tcgetpgrp(master_)};
 }
 

@@ -31,6 +31,7 @@ struct TerminalUse {
     /// Return is given as a line feed (ICRNL). Line editors turn that off, as do most programs that take the
     /// whole screen; pagers and questions for one key leave it on.
     bool translates_return = true;
+    bool locks_on_control_s = true;  ///< ^S stops the output until ^Q comes (IXON)
     pid_t group = -1;  ///< the foreground process group; 0 or -1 where no program has the terminal
 
     bool operator==(const TerminalUse&) const = default;

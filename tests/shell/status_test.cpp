@@ -54,6 +54,18 @@ TEST_F(StatusDisplayTest, TheTimerShowsWhatTheShellWrote) {
         [] { return main_window().right_footer() == "Host: h   User: u   PID: 123   View: v   "; }, 5000));
 }
 
+TEST_F(StatusDisplayTest, TheScreensLockIsToldUntilItIsOver) {
+    shell_writes("C:/tmp\nH:h\nU:u\n");
+    show_screen_lock(true);
+    DisplayStatusTimer();
+    EXPECT_EQ(main_window().cwd.text(), "/tmp");
+    EXPECT_EQ(main_window().right_footer(), "Screen is locked. Use ^Q to unlock.");
+    show_screen_lock(false);
+    EXPECT_EQ(main_window().right_footer(), "");
+    DisplayStatusTimer();
+    EXPECT_EQ(main_window().right_footer(), "Host: h   User: u   ");
+}
+
 TEST_F(StatusDisplayTest, NoAliasIsSetWithoutAStatusFileAndTheReasonIsTold) {
     home_dir = home_ / "none";
     begin_status_display();
