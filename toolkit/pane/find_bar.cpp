@@ -93,8 +93,8 @@ void TerminalFindBar::keyPressEvent(QKeyEvent* event) {
             break;
         case Qt::Key_Return:
         case Qt::Key_Enter:
-            go(event->modifiers().testFlag(Qt::ShiftModifier) ? SearchDirection::backward
-                                                              : SearchDirection::forward);
+            go(event->modifiers().testFlag(Qt::ShiftModifier) ? SearchDirection::forward
+                                                              : SearchDirection::backward);
             break;
         default:
             QWidget::keyPressEvent(event);
@@ -135,14 +135,19 @@ void TerminalFindBar::go(SearchDirection direction) {
     if (!current.empty()) {
         match = find_from(current.begin, direction);
     }
+    const bool goes_round = !match && !current.empty();
     if (!match) {
         match = find_from(forward ? before_all(terminal) : behind_all(terminal), direction);
     }
     view_.set_match(match.value_or(Range{}));
-    show_result();
+    const QString end = forward ? QStringLiteral("on from the oldest") : QStringLiteral("on from the newest");
+    show_result(goes_round && match ? end : QString());
 }
 
-void TerminalFindBar::show_result() { result_->setText(result_text()); }
+void TerminalFindBar::show_result(const QString& from_other_end) {
+    const QString result = result_text();
+    result_->setText(from_other_end.isEmpty() ? result : result + QStringLiteral(", ") + from_other_end);
+}
 
 QString TerminalFindBar::result_text() const {
     if (needle().empty()) {
@@ -151,9 +156,11 @@ QString TerminalFindBar::result_text() const {
     QElapsedTimer clock;
     clock.start();
     int count = 0;
+    int current = 0;
     auto match = find_from(before_all(view_.terminal()), SearchDirection::forward);
     while (match && count < count_limit && !clock.hasExpired(count_milliseconds)) {
         ++count;
+        current = *match == view_.match() ? count : current;
         match = find_from(match->begin, SearchDirection::forward);
     }
     if (count == 0) {
@@ -162,5 +169,5 @@ QString TerminalFindBar::result_text() const {
     if (match) {
         return QStringLiteral("more than %1 matches").arg(count);
     }
-    return count == 1 ? QStringLiteral("1 match") : QStringLiteral("%1 matches").arg(count);
+    return QStringLiteral("%1 of %2").arg(current).arg(count);
 }

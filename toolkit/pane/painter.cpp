@@ -94,7 +94,7 @@ TerminalPainter::Look TerminalPainter::marked(Look look, const RowMarks& marks, 
         look.foreground = look.underline = foreground;
         look.background = background;
     };
-    if (marks.link != 0 && cell.link == marks.link) {
+    if ((marks.link != 0 && cell.link == marks.link) || marks.address.contain(column)) {
         const bool plain = look.style.underline == Underline::none;
         look.style.underline = plain ? Underline::single : Underline::twofold;
     }

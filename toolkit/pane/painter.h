@@ -2,6 +2,7 @@
 #pragma once
 
 #include "terminal/terminal.h"
+#include "toolkit/pane/columns.h"
 #include "toolkit/pane/font.h"
 
 #include <QElapsedTimer>
@@ -13,14 +14,6 @@
 
 class QPainter;
 
-/// From `begin` up to, not including, `end`.
-struct Columns {
-    int begin = 0;
-    int end = 0;
-    [[nodiscard]] bool contain(int column) const { return column >= begin && column < end; }
-    bool operator==(const Columns&) const = default;
-};
-
 enum class CursorLook : std::uint8_t { none, block, hollow, underline, bar };
 
 /// What is seen of a row beyond its text. Same row, stamp and marks: same picture.
@@ -30,6 +23,7 @@ struct RowMarks {
     CursorLook cursor = CursorLook::none;
     int cursor_column = 0;
     terminal::LinkId link = 0;  ///< of the link under the pointer, when the row holds some of it
+    Columns address;            ///< of the plain web address under the pointer
     QString preedit;            ///< text an input method composes, at the cursor
     bool operator==(const RowMarks&) const = default;
 };

@@ -5,6 +5,7 @@
 #include "toolkit/pane/accessible.h"
 #include "toolkit/pane/colours.h"
 #include "toolkit/pane/find_bar.h"
+#include "toolkit/pane/font_menu.h"
 #include "toolkit/pane/link.h"
 #include "toolkit/pane/session.h"
 #include "toolkit/pane/view.h"
@@ -157,6 +158,8 @@ void PaneWidget::fill_menu(const std::string& link) {
     add("Paste Selection", "Shift+Ins", [this] { view_->paste(SelectionName::primary); });
     menu.addSeparator();
     add("Find...", "Ctrl+Shift+F", [this] { find_bar_->open(); });
+    QMenu* fonts = menu.addMenu(QStringLiteral("Font"));
+    connect(fonts, &QMenu::aboutToShow, view_, [this, fonts] { fill_font_menu(*fonts, *view_); });
     add("Clear", "", [this] { session_.clear(); });
     add("Reset", "", [this] { session_.reset(); });
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "toolkit/pane/pointer.h"
 
+#include "toolkit/pane/address.h"
 #include "toolkit/pane/keys.h"
 #include "toolkit/pane/link.h"
 
@@ -146,7 +147,9 @@ void Pointer::begin_selection(QPointF point, SelectionUnit unit, Modifiers modif
     const bool by_characters = unit == SelectionUnit::character;
     selecting_ = true;
     drag_point_ = point;
-    if (by_characters && modifiers.shift && !selection_.empty()) {
+    if (by_characters && modifiers.alt) {
+        unit = SelectionUnit::block;
+    } else if (by_characters && modifiers.shift && selection_.begun()) {
         return extend_selection(point);
     }
     selection_.begin(by_characters ? viewport_.boundary_at(point) : viewport_.position_at(point), unit);
@@ -159,7 +162,8 @@ void Pointer::stop_selecting() {
 }
 
 void Pointer::extend_selection(QPointF point) {
-    const bool by_characters = selection_.unit() == SelectionUnit::character;
+    const SelectionUnit unit = selection_.unit();
+    const bool by_characters = unit == SelectionUnit::character || unit == SelectionUnit::block;
     selection_.extend(by_characters ? viewport_.boundary_at(point) : viewport_.position_at(point));
     actions_.changed();
 }
@@ -202,27 +206,40 @@ void Pointer::turn_wheel(const QWheelEvent& event) {
 
 // Links.
 
-LinkId Pointer::link_id_at(QPointF point) const {
+std::optional<Position> Pointer::text_at(QPointF point) const {
     const Position place = viewport_.position_at(point);
-    if (!viewport_.cell_area(place).contains(point.toPoint())) {
-        return 0;  // beside the text
+    const bool beside = !viewport_.cell_area(place).contains(point.toPoint());
+    return beside ? std::nullopt : std::optional(place);
+}
+
+LinkId Pointer::link_id_at(QPointF point) const {
+    const std::optional<Position> place = text_at(point);
+    if (!place) {
+        return 0;
     }
-    const std::span<const terminal::Cell> cells = session_.terminal().row(place.row).cells;
-    const auto column = static_cast<std::size_t>(place.column);
+    const std::span<const terminal::Cell> cells = session_.terminal().row(place->row).cells;
+    const auto column = static_cast<std::size_t>(place->column);
     return column < cells.size() ? cells[column].link : LinkId{0};
 }
 
 std::string Pointer::link_at(QPointF point) const {
-    return std::string(session_.terminal().link(link_id_at(point)));
+    if (const LinkId link = link_id_at(point); link != 0) {
+        return std::string(session_.terminal().link(link));
+    }
+    const std::optional<Position> place = text_at(point);
+    return place ? address_at(session_.terminal(), *place).text : std::string();
 }
 
 void Pointer::follow_text() {
     const LinkId found = place_ ? link_id_at(*place_) : LinkId{0};
-    if (found != hovered_link_) {
+    const std::optional<Position> place = place_ && found == 0 ? text_at(*place_) : std::nullopt;
+    const terminal::Range address = place ? address_at(session_.terminal(), *place).range : terminal::Range{};
+    if (found != hovered_link_ || address != hovered_address_) {
         hovered_link_ = found;
+        hovered_address_ = address;
         actions_.changed();
     }
-    const bool opens = found != 0 && modifiers_.control && !is_the_programs(modifiers_);
+    const bool opens = (found != 0 || !address.empty()) && modifiers_.control && !is_the_programs(modifiers_);
     const Qt::CursorShape shape = opens ? Qt::PointingHandCursor : Qt::IBeamCursor;
     if (widget_.cursor().shape() != shape) {
         widget_.setCursor(shape);
@@ -245,6 +262,15 @@ LinkId Pointer::hovered_link_in(const terminal::Row& row) const {
                        std::any_of(row.cells.begin(), row.cells.end(),
                                    [this](const terminal::Cell& cell) { return cell.link == hovered_link_; });
     return holds ? hovered_link_ : LinkId{0};
+}
+
+Columns Pointer::hovered_address_in(terminal::RowId row) const {
+    const terminal::Range& range = hovered_address_;
+    if (range.empty() || row < range.begin.row || row > range.end.row) {
+        return {};
+    }
+    return {row == range.begin.row ? range.begin.column : 0,
+            row == range.end.row ? range.end.column : session_.terminal().size().columns};
 }
 
 /// As with a button, the release counts, and only on the same link.

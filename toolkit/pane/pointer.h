@@ -19,7 +19,8 @@ class QWheelEvent;
 class QWidget;
 
 /// The mouse over a terminal view: reports to a program that asked for them, else selecting, scrolling and
-/// links (OSC 8), which are underlined under the pointer and opened with Ctrl and a click.
+/// links (OSC 8) and plain web addresses, which are underlined under the pointer and opened with Ctrl and a
+/// click.
 class Pointer {
   public:
     /// What it has its view do.
@@ -46,12 +47,14 @@ class Pointer {
     [[nodiscard]] bool selecting() const { return selecting_; }
     void stop_selecting();
 
-    /// The address of the link at a point; empty where none is.
+    /// The address of the link, or the plain web address, at a point; empty where none is.
     [[nodiscard]] std::string link_at(QPointF point) const;
     /// The link under the pointer, which stays where it is while the text moves.
     void follow_text();
     /// That link, if a row holds some of it.
     [[nodiscard]] terminal::LinkId hovered_link_in(const terminal::Row& row) const;
+    /// Where a row shows the plain web address under the pointer.
+    [[nodiscard]] Columns hovered_address_in(terminal::RowId row) const;
 
   private:
     bool report(terminal::MouseAction action, terminal::MouseButton button, QPointF point,
@@ -59,6 +62,8 @@ class Pointer {
     void begin_selection(QPointF point, SelectionUnit unit, terminal::Modifiers modifiers);
     void extend_selection(QPointF point);
     void scroll_while_dragging();
+    /// Where a point is, unless that is beside the text.
+    [[nodiscard]] std::optional<terminal::Position> text_at(QPointF point) const;
     [[nodiscard]] terminal::LinkId link_id_at(QPointF point) const;
     void move_to(std::optional<QPointF> point, terminal::Modifiers modifiers);
     void open_link_at(QPointF point);
@@ -72,6 +77,7 @@ class Pointer {
     std::optional<QPointF> place_;  ///< while it is over the view
     terminal::Modifiers modifiers_;
     terminal::LinkId hovered_link_ = 0;
+    terminal::Range hovered_address_;
     std::string pressed_link_;  ///< to be opened when the button is released on it
     terminal::MouseButton held_ = terminal::MouseButton::none;  ///< reported as pressed
     terminal::Position last_report_{-1, -1};

@@ -25,6 +25,7 @@ Position off_wide_tail(const terminal::Terminal& terminal, Position place, int s
 
 void TerminalSelection::begin(Position place, SelectionUnit unit) {
     unit_ = unit;
+    begun_ = true;
     start_ = unit_at(place);
     update(start_);
 }
@@ -38,15 +39,38 @@ void TerminalSelection::select(Range range) {
 }
 
 void TerminalSelection::clear() {
+    begun_ = false;
     start_ = range_ = {};
     witnesses_.clear();
 }
 
-std::string TerminalSelection::text() const { return empty() ? "" : text_between(terminal_, range_); }
+std::string TerminalSelection::text() const {
+    if (empty() || unit_ != SelectionUnit::block) {
+        return empty() ? "" : text_between(terminal_, range_);
+    }
+    std::string rows;
+    for (RowId row = range_.begin.row; row <= range_.end.row; ++row) {
+        std::string text = text_of_row(row);
+        text.resize(text.find_last_not_of(' ') + 1);
+        rows += (row == range_.begin.row ? "" : "\n") + text;
+    }
+    return rows;
+}
+
+Columns TerminalSelection::columns_in(RowId row) const {
+    if (range_.empty() || row < range_.begin.row || row > range_.end.row) {
+        return {};
+    }
+    const bool block = unit_ == SelectionUnit::block;
+    const bool first = block || row == range_.begin.row;
+    const bool last = block || row == range_.end.row;
+    return {first ? range_.begin.column : 0, last ? range_.end.column : terminal_.size().columns};
+}
 
 Range TerminalSelection::unit_at(Position place) const {
     switch (unit_) {
         case SelectionUnit::character:
+        case SelectionUnit::block:
             break;
         case SelectionUnit::word:
             return word_at(terminal_, place);
@@ -58,7 +82,11 @@ Range TerminalSelection::unit_at(Position place) const {
 
 void TerminalSelection::update(Range moving) {
     range_ = {std::min(start_.begin, moving.begin), std::max(start_.end, moving.end)};
-    if (!range_.empty()) {
+    if (unit_ == SelectionUnit::block) {
+        const auto [left, right] = std::minmax(start_.begin.column, moving.begin.column);
+        range_ = left == right ? Range{start_.begin, start_.begin}
+                               : Range{{range_.begin.row, left}, {range_.end.row, right}};
+    } else if (!range_.empty()) {
         range_.begin = off_wide_tail(terminal_, range_.begin, -1);
         range_.end = off_wide_tail(terminal_, range_.end, 1);
     }
@@ -70,10 +98,8 @@ void TerminalSelection::update(Range moving) {
 }
 
 std::string TerminalSelection::text_of_row(RowId row) const {
-    const int columns = terminal_.size().columns;
-    const Position begin{row, row == range_.begin.row ? range_.begin.column : 0};
-    const Position end{row, row == range_.end.row ? range_.end.column : columns};
-    return text_between(terminal_, {begin, end});
+    const Columns columns = columns_in(row);
+    return text_between(terminal_, {{row, columns.begin}, {row, columns.end}});
 }
 
 void TerminalSelection::take_witnesses() {
@@ -108,7 +134,9 @@ bool TerminalSelection::drop_if_changed() {
 }
 
 void TerminalSelection::anchors_moved() {
-    if (!range_.empty()) {
+    if (unit_ == SelectionUnit::block) {
+        clear();  // its rows have been wrapped anew
+    } else if (!range_.empty()) {
         range_ = {anchors_[0], anchors_[1]};
         start_ = {anchors_[2], anchors_[3]};
         take_witnesses();

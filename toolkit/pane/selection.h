@@ -2,6 +2,7 @@
 #pragma once
 
 #include "terminal/terminal.h"
+#include "toolkit/pane/columns.h"
 
 #include <array>
 #include <cstdint>
@@ -9,8 +10,8 @@
 #include <string>
 #include <vector>
 
-/// What a selection grows by: one click, two, three.
-enum class SelectionUnit : std::uint8_t { character, word, line };
+/// What a selection grows by: one click, two, three; or as a block of columns.
+enum class SelectionUnit : std::uint8_t { character, word, line, block };
 
 /// A stretch of a terminal's text that the user has marked. It follows its text through output and scrolling,
 /// and is dropped once the text changes.
@@ -26,7 +27,12 @@ class TerminalSelection {
     void clear();
 
     [[nodiscard]] bool empty() const { return range_.empty(); }
+    /// A block's range goes from its upper left to its lower right corner.
     [[nodiscard]] terminal::Range range() const { return range_; }
+    /// What of a row is selected.
+    [[nodiscard]] Columns columns_in(terminal::RowId row) const;
+    /// Whether it was begun, if only by a click, so that it can be extended.
+    [[nodiscard]] bool begun() const { return begun_; }
     [[nodiscard]] SelectionUnit unit() const { return unit_; }
     [[nodiscard]] std::string text() const;
 
@@ -51,6 +57,7 @@ class TerminalSelection {
 
     const terminal::Terminal& terminal_;
     SelectionUnit unit_ = SelectionUnit::character;
+    bool begun_ = false;
     terminal::Range start_;  ///< the character boundary, word or line where the selection began
     terminal::Range range_;
     std::vector<Witness> witnesses_;

@@ -64,6 +64,30 @@ TerminalView::TerminalView(TerminalSession& session, QScrollBar& scroll_bar, QWi
 TerminalView::~TerminalView() = default;
 
 void TerminalView::set_terminal_font(const QFont& font) {
+    usual_font_ = font;
+    apply_font(font);
+}
+
+void TerminalView::zoom(int steps) {
+    constexpr double smallest = 4;
+    constexpr double largest = 96;
+    QFont font = font_->font();
+    const QFont& from = steps == 0 ? usual_font_ : font;
+    if (from.pointSizeF() > 0) {
+        font.setPointSizeF(std::clamp(from.pointSizeF() + steps, smallest, largest));
+    } else {
+        font.setPixelSize(static_cast<int>(std::clamp<double>(from.pixelSize() + steps, smallest, largest)));
+    }
+    apply_font(font);
+}
+
+void TerminalView::set_font_family(const QString& family) {
+    QFont font = font_->font();
+    font.setFamily(family);
+    apply_font(font);
+}
+
+void TerminalView::apply_font(const QFont& font) {
     font_ = std::make_unique<TerminalFont>(font, devicePixelRatioF());
     viewport_.set_cell({font_->cell_width(), font_->cell_height()});
     fit_to_size();
@@ -132,19 +156,12 @@ void TerminalView::frame() {
 }
 
 TerminalView::Picture TerminalView::picture_of(RowId row) const {
-    const int columns = terminal().size().columns;
-    const auto columns_of = [&](const terminal::Range& range) -> Columns {
-        if (range.empty() || row < range.begin.row || row > range.end.row) {
-            return {};
-        }
-        return {row == range.begin.row ? range.begin.column : 0,
-                row == range.end.row ? range.end.column : columns};
-    };
     const terminal::Row shown = terminal().row(row);
     Picture picture{row, shown.stamp, {}};
     picture.marks.link = mouse_.hovered_link_in(shown);
-    picture.marks.selection = columns_of(selection_.range());
-    picture.marks.match = columns_of(match_.range());
+    picture.marks.address = mouse_.hovered_address_in(row);
+    picture.marks.selection = selection_.columns_in(row);
+    picture.marks.match = match_.columns_in(row);
     const terminal::Cursor cursor = terminal().cursor();
     if (cursor.position.row == row) {
         picture.marks.cursor = cursor_look();
@@ -253,7 +270,7 @@ void TerminalView::refresh() {
 
 void TerminalView::paintEvent(QPaintEvent* event) {
     if (font_->pixel_ratio() != devicePixelRatioF()) {
-        set_terminal_font(QFont(font_->font()));  // now on another screen
+        apply_font(QFont(font_->font()));  // now on another screen
     }
     if (pictures_.empty()) {
         refresh();

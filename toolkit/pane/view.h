@@ -32,7 +32,13 @@ class TerminalView final : public QWidget {
     TerminalView(TerminalSession& session, QScrollBar& scroll_bar, QWidget* parent);
     ~TerminalView() override;
 
+    /// The font that `zoom` comes back to.
     void set_terminal_font(const QFont& font);
+    [[nodiscard]] const QFont& terminal_font() const { return font_->font(); }
+    /// Makes the font larger by so many points (pixels where it is given in those), smaller when negative; 0
+    /// gives it its usual size.
+    void zoom(int steps);
+    void set_font_family(const QString& family);
     void set_interposer(std::function<bool(KeyEvent&)> function) { interposer_ = std::move(function); }
     /// Called for the context menu, with a global position; and for the find key.
     void set_menu_callback(std::function<void(QPoint)> callback) { show_menu_ = std::move(callback); }
@@ -74,6 +80,9 @@ class TerminalView final : public QWidget {
     /// The address of the link at a point; empty where none is.
     [[nodiscard]] std::string link_at(QPointF point) const { return mouse_.link_at(point); }
 
+    /// Where a row shows the plain web address under the pointer.
+    [[nodiscard]] Columns address_in(terminal::RowId row) const { return mouse_.hovered_address_in(row); }
+
     // The window, for the program in the terminal.
     [[nodiscard]] terminal::WindowGeometry window_geometry() const;
     void perform(const terminal::WindowRequest& request);
@@ -111,6 +120,8 @@ class TerminalView final : public QWidget {
         bool operator==(const Picture&) const = default;
     };
 
+    void apply_font(const QFont& font);
+
     // Frames.
     void frame();
     void refresh();
@@ -133,6 +144,7 @@ class TerminalView final : public QWidget {
     bool interpose(KeyEvent& event);
     bool handle_own_key(const QKeyEvent& event);
     bool handle_scroll_key(const QKeyEvent& event);
+    bool handle_zoom_key(const QKeyEvent& event);
     void type_key(const KeyEvent& event);
     void focus_changed(bool has_focus);
 
@@ -143,6 +155,7 @@ class TerminalView final : public QWidget {
 
     TerminalSession& session_;
     QScrollBar& scroll_bar_;
+    QFont usual_font_;
     std::unique_ptr<TerminalFont> font_;
     std::unique_ptr<TerminalReader> reader_;
     Viewport viewport_;

@@ -87,6 +87,9 @@ bool TerminalView::handle_own_key(const QKeyEvent& event) {
                 return false;
         }
     }
+    if (handle_zoom_key(event)) {
+        return true;
+    }
     const bool menu_key =
         event.key() == Qt::Key_Menu || (event.key() == Qt::Key_F10 && modifiers == Qt::ShiftModifier);
     if (menu_key) {
@@ -102,6 +105,29 @@ bool TerminalView::handle_own_key(const QKeyEvent& event) {
         return true;
     }
     return modifiers == Qt::ShiftModifier && handle_scroll_key(event);
+}
+
+/// Plus needs shift on many keyboards, and is on the same key as the equals sign.
+bool TerminalView::handle_zoom_key(const QKeyEvent& event) {
+    const Qt::KeyboardModifiers modifiers = modifiers_of(event);
+    switch (event.key()) {
+        case Qt::Key_Plus:
+        case Qt::Key_Equal:
+            if ((modifiers & ~Qt::KeyboardModifiers(Qt::ShiftModifier)) != Qt::ControlModifier) {
+                return false;
+            }
+            zoom(1);
+            return true;
+        case Qt::Key_Minus:
+        case Qt::Key_0:
+            if (modifiers != Qt::ControlModifier) {
+                return false;
+            }
+            zoom(event.key() == Qt::Key_0 ? 0 : -1);
+            return true;
+        default:
+            return false;
+    }
 }
 
 void TerminalView::show_menu_at_cursor() {

@@ -117,6 +117,20 @@ TEST_F(TerminalLinkTest, IsOpenedWithControlAndAClickOnceItsAddressWasSeen) {
     EXPECT_EQ(read_file(opened_file()), "1|" + address + '|');
 }
 
+TEST_F(TerminalLinkTest, CanBeAPlainWebAddress) {
+    show_text("\033[2J\033[Hsee (https://example.org/a), or not\n");
+    click(cell(2, 0), Qt::ControlModifier);
+    EXPECT_EQ(notice(), nullptr);
+    QTest::mouseMove(&view(), cell(8, 0));
+    const terminal::RowId row = view().position_at({0, 0}).row;
+    EXPECT_EQ(view().link_at(cell(8, 0)), "https://example.org/a");
+    EXPECT_TRUE(wait([&] { return view().address_in(row) == Columns{5, 26}; }));
+    click(cell(8, 0), Qt::ControlModifier);
+    ASSERT_TRUE(wait([] { return notice() != nullptr; }));
+    EXPECT_EQ(notice()->findChild<QPlainTextEdit*>()->toPlainText(), "https://example.org/a");
+    QTest::mouseClick(button("Cancel"), Qt::LeftButton);
+}
+
 TEST_F(TerminalLinkTest, ThatStartsAProgramCanOnlyBeCopied) {
     show_text("\033[H\033]8;;ssh://host/\033\\link\033]8;;\033\\");
     click(cell(1, 0), Qt::ControlModifier);

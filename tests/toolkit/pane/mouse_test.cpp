@@ -74,6 +74,30 @@ TEST_F(TerminalMouseTest, DragSelectsCharactersIntoThePrimarySelection) {
     EXPECT_EQ(primary(), "two\nthree") << "extended";
 }
 
+TEST_F(TerminalMouseTest, ShiftAndAClickSelectFromTheClickBefore) {
+    show_text("one two\nthree four\n");
+    click(edge(4, 0));
+    click(edge(5, 1), Qt::ShiftModifier);
+    EXPECT_EQ(primary(), "two\nthree");
+    click(edge(3, 0), Qt::ShiftModifier);
+    EXPECT_EQ(primary(), " ") << "the end that is not the start is moved";
+}
+
+TEST_F(TerminalMouseTest, AltAndADragSelectABlockOfColumns) {
+    show_text("abcdef\nab\n\nabcdef  x\n");
+    QTest::mousePress(&view(), Qt::LeftButton, Qt::AltModifier, edge(4, 3));
+    send(QEvent::MouseMove, edge(1, 0));
+    QTest::mouseRelease(&view(), Qt::LeftButton, Qt::AltModifier, edge(1, 0));
+    EXPECT_EQ(primary(), "bcd\nb\n\nbcd");
+    const terminal::RowId top = view().position_at({0, 0}).row;
+    EXPECT_EQ(view().selection().columns_in(top + 2), (Columns{1, 4}));
+    EXPECT_EQ(view().selection().columns_in(top + 4), Columns{});
+    show_text("\033[1;6HX");
+    EXPECT_FALSE(view().selection().empty()) << "beside the block";
+    show_text("\033[2;2HX");
+    EXPECT_TRUE(wait([this] { return view().selection().empty(); }));
+}
+
 TEST_F(TerminalMouseTest, TwoClicksSelectAWordAndThreeALine) {
     const std::string longer(static_cast<std::size_t>(pane.columns()) + 10, 'x');
     show_text("ls /usr/bin; echo\n" + longer + "\nlast\n");

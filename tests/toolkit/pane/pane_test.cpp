@@ -7,8 +7,10 @@
 #include <QAction>
 #include <QInputMethod>
 #include <QLineEdit>
+#include <QMenu>
 #include <QScrollBar>
 
+#include <algorithm>
 #include <csignal>
 
 namespace {
@@ -46,6 +48,45 @@ TEST_F(TerminalPaneTest, KeysReachTheProgramAndNotTheWindowsShortcuts) {
     (new QLineEdit(&window))->show();
     press(Qt::Key_Tab, Qt::ControlModifier);
     EXPECT_FALSE(view().hasFocus());
+}
+
+TEST_F(TerminalPaneTest, FontIsZoomedByKeysAndItsUsualSizeComesBack) {
+    const auto height = [this] { return view().cell_area({0, 0}).height(); };
+    const int usual = height();
+    press(Qt::Key_Plus, Qt::ControlModifier | Qt::ShiftModifier);
+    press(Qt::Key_Equal, Qt::ControlModifier);
+    press(Qt::Key_Plus, Qt::ControlModifier | Qt::KeypadModifier);
+    const int larger = height();
+    EXPECT_GT(larger, usual);
+    press(Qt::Key_Minus, Qt::ControlModifier);
+    EXPECT_LT(height(), larger);
+    for (int i = 0; i < 200; ++i) {
+        press(Qt::Key_Minus, Qt::ControlModifier);
+    }
+    EXPECT_GT(height(), 0);
+    press(Qt::Key_0, Qt::ControlModifier);
+    EXPECT_EQ(height(), usual);
+}
+
+TEST_F(TerminalPaneTest, MenuOffersSizesAndFontsOfFixedWidth) {
+    press(Qt::Key_Menu);
+    QMenu* fonts = nullptr;
+    for (const QAction* item : view().menu().actions()) {
+        fonts = item->text() == "Font" ? item->menu() : fonts;
+    }
+    ASSERT_NE(fonts, nullptr);
+    emit fonts->aboutToShow();
+    const QList<QAction*> items = fonts->actions();
+    ASSERT_GT(items.size(), 4);
+    EXPECT_EQ(std::ranges::count_if(items, &QAction::isChecked), 1);
+    const int usual = view().cell_area({0, 0}).height();
+    items[0]->trigger();
+    items[0]->trigger();
+    EXPECT_GT(view().cell_area({0, 0}).height(), usual);
+    items.back()->trigger();
+    EXPECT_EQ(view().terminal_font().family(), items.back()->text());
+    items[2]->trigger();
+    view().menu().close();
 }
 
 TEST_F(TerminalPaneTest, ProgramThatWasStartedAlreadyIsTakenOver) {

@@ -199,15 +199,20 @@ TEST_F(TerminalFindTest, FindsTheLatestMatchAndGoesRound) {
     show_text("x one\nxx one One\nend\n");
     open_bar();
     type("one");
-    EXPECT_EQ(result(), "3 matches");
+    EXPECT_EQ(result(), "3 of 3");
     EXPECT_EQ(matched_column(), 7);
-    QTest::keyClick(field, Qt::Key_Return, Qt::ShiftModifier);
+    QTest::keyClick(field, Qt::Key_Return);
     EXPECT_EQ(matched_column(), 3);
+    EXPECT_EQ(result(), "2 of 3");
+    QTest::keyClick(field, Qt::Key_Return, Qt::ShiftModifier);
+    QTest::keyClick(field, Qt::Key_Return, Qt::ShiftModifier);
+    EXPECT_EQ(result(), "1 of 3, on from the oldest");
+    EXPECT_EQ(matched_column(), 2);
     QTest::keyClick(field, Qt::Key_Return);
-    QTest::keyClick(field, Qt::Key_Return);
-    EXPECT_EQ(matched_column(), 2) << "round to the first";
+    EXPECT_EQ(result(), "3 of 3, on from the newest");
+    QTest::keyClick(field, Qt::Key_Return, Qt::ShiftModifier);
     field->parentWidget()->findChild<QCheckBox*>()->click();
-    EXPECT_EQ(result(), "2 matches");
+    EXPECT_EQ(result(), "1 of 2");
     show_text("\033[1;3HT");
     EXPECT_TRUE(wait([this] { return view().match().empty(); })) << "its text has changed";
     type("nowhere");
@@ -223,7 +228,7 @@ TEST_F(TerminalFindTest, ScrollsToAMatchInTheScrollback) {
     ASSERT_TRUE(wait_for_text("500"));
     open_bar();
     type("needle");
-    EXPECT_EQ(result(), "1 match");
+    EXPECT_EQ(result(), "1 of 1");
     EXPECT_EQ(view().position_at({0, 0}).row, view().terminal().first_row());
 }
 
