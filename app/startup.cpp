@@ -50,6 +50,7 @@
 #include <memory>
 #include <utility>
 
+#include <fmt/format.h>
 #include <unistd.h>
 
 namespace {
@@ -123,6 +124,11 @@ void read_resources() {
     const std::string visual_bell = defaults_get_string("orvik.visualBell", "Orvik.VisualBell", "on");
     main_window().termpane.set_visual_bell(visual_bell == "off" ? VisualBell::off : VisualBell::on);
     waiting_lines().set_hold(defaults_get_string("orvik.holdLines", "Orvik.HoldLines", "on") != "off");
+    KeptKeys kept(defaults_get_string("orvik.keepKeys", "Orvik.KeepKeys", ""));
+    if (!kept.unknown().empty()) {
+        report(fmt::format("Orvik.KeepKeys: no keys of the tool's: {}\n", kept.unknown()));
+    }
+    leave_to_shell(std::move(kept));
     main_window().termpane.permit(
         {.checksum = defaults_get_boolean("orvik.allowChecksum", "Orvik.AllowChecksum"),
          .window_operations = defaults_get_boolean("orvik.allowWindowOps", "Orvik.AllowWindowOps"),

@@ -15,6 +15,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace {
 
@@ -102,6 +103,8 @@ bool termpane_event_proc2(KeyEvent& event, const EditingKey& key) {
     return key.when_disabled != Action::to_shell;
 }
 
+KeptKeys kept_keys;
+
 /// Sees every key before the terminal pane does; whether it is done with. While another program than a shell
 /// reads the terminal, all keys are its own.
 bool termpane_event_proc(KeyEvent& event) {
@@ -132,6 +135,9 @@ bool termpane_event_proc(KeyEvent& event) {
     if (!is_shell(waiting_lines().reader())) {
         return false;
     }
+    if (kept_keys.holds(event)) {
+        return false;
+    }
     const bool editing = default_settings().command_line_editing.value() == editing_enabled;
     for (const ToolKey& key : tool_keys) {
         if (fits(event, key.key, key.letter) && (editing || !key.editing_only)) {
@@ -145,5 +151,7 @@ bool termpane_event_proc(KeyEvent& event) {
 }
 
 }  // namespace
+
+void leave_to_shell(KeptKeys keys) { kept_keys = std::move(keys); }
 
 void interpose_terminal_keys() { notify_interpose_event_func(main_window().termpane, termpane_event_proc); }
