@@ -11,7 +11,6 @@
 #include "ui/message_board.h"
 #include "ui/notebook.h"
 #include "ui/send_email.h"
-#include "ui/text_editor_setup.h"
 
 #include <array>
 #include <string>
@@ -86,6 +85,8 @@ void find_fonts() {
     set_tree_fonts();
 }
 
+std::string font_name() { return defaults_get_string("orvik.fontName", "Orvik.FontName", "fixed"); }
+
 void apply_font_resources() {
     const std::string size = defaults_get_string("orvik.fontSize", "Orvik.FontSize", "notset");
     for (const NamedScale& named : scales) {
@@ -94,9 +95,7 @@ void apply_font_resources() {
         }
     }
     // The name decides the panes' font, whatever the size resource says.
-    const std::string name = defaults_get_string("orvik.fontName", "Orvik.FontName", "fixed");
-    default_font = xv_find(name);
-    text_editor_setup().font_name.set_text(name);
+    default_font = xv_find(font_name());
     set_pane_fonts(default_font);
     about_window().text.set_font(fixed_font);
     for (ScrollingList* list : {&command_history_manager().list, &file_list_browser().list}) {

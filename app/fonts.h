@@ -3,6 +3,8 @@
 
 #include "toolkit/font.h"
 
+#include <string>
+
 // The font handles of the whole process.
 
 inline Font icon_font;   ///< size 10
@@ -21,5 +23,7 @@ inline Font DS_font_large_bold;
 
 /// Finds all of them but `default_font`.
 void find_fonts();
+/// The name of the text panes' font, as "Orvik.FontName" says.
+std::string font_name();
 /// Applies "Orvik.FontSize" and "Orvik.FontName" to `fixed_font`, `default_font` and the text panes.
 void apply_font_resources();

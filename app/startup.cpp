@@ -12,6 +12,7 @@
 #include "settings/bookmarks.h"
 #include "settings/command_list.h"
 #include "settings/history.h"
+#include "settings/notify.h"
 #include "settings/setup_file.h"
 #include "settings/unsaved.h"
 #include "settings/user_buttons.h"
@@ -28,6 +29,7 @@
 #include "shell/status_file.h"
 #include "shell/waiting_strip.h"
 #include "toolkit/application.h"
+#include "toolkit/desktop.h"
 #include "toolkit/resources.h"
 #include "ui/default_settings.h"
 #include "ui/define_label.h"
@@ -114,8 +116,17 @@ void set_initial_values() {
     default_settings().prompt_ending_delimiter.set_text(usual_prompt_delimiter(shell_name, geteuid() == 0));
 }
 
+/// The desktop's fonts have changed.
+void take_over_fonts() {
+    find_fonts();
+    apply_font_resources();
+    SetupUserButtons();
+}
+
 void read_resources() {
     apply_font_resources();
+    text_editor_setup().font_name.set_text(font_name());
+    on_desktop_change(take_over_fonts);
     constexpr int microseconds_per_tenth = 100'000;
     multiclick_timeout = microseconds_per_tenth * defaults_get_integer("openwindows.multiclicktimeout",
                                                                        "OpenWindows.MultiClickTimeout", 4);

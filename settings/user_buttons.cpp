@@ -12,12 +12,13 @@
 #include "ui/main_window.h"
 #include "ui/user_buttons.h"
 
+#include <algorithm>
 #include <array>
 #include <optional>
 
 namespace {
 
-constexpr int row_height_shown = 39;  ///< pixels
+constexpr int row_height_shown = 39;  ///< pixels; more where the font is large
 constexpr int row_height_hidden = 1;
 
 /// A button of the main window and the fields that define it.
@@ -113,7 +114,8 @@ void set_up_user_buttons_at_startup() {
 
 void SetupUserButtons() {
     const bool shown = user_buttons().button_window.value() == UserButtons::show_buttons;
-    main_window().user_button_row.set_height(shown ? row_height_shown : row_height_hidden);
+    Row& row = main_window().user_button_row;
+    row.set_height(shown ? std::max(row_height_shown, row.wanted_height()) : row_height_hidden);
 }
 
 void UserButtonsUpdate() {

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "toolkit/application.h"
 
+#include "toolkit/desktop.h"
 #include "toolkit/frame.h"
 #include "toolkit/resource_database.h"
-#include "toolkit/resources.h"
 #include "toolkit/text_conversion.h"
-#include "toolkit/theme.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -224,8 +223,7 @@ std::string xv_init(std::vector<std::string>& arguments, const std::function<voi
     application->setApplicationDisplayName(QString());
     application->setQuitOnLastWindowClosed(false);
     main_geometry = options.geometry;
-    const bool dark = defaults_get_string("orvik.palette", "Orvik.Palette", "light") == "dark";
-    apply_theme(dark ? Shade::dark : Shade::light);
+    follow_desktop();
     end_in_order_without_display();
     end_on_signals();
     return {};

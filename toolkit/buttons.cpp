@@ -18,8 +18,6 @@
 
 namespace {
 
-constexpr int picture_size = 20;  ///< pixels
-
 std::string picture_directory;
 
 std::string picture_name(std::string_view accessible_name) {
@@ -114,7 +112,6 @@ ImageButton::ImageButton(Container& parent, std::string_view accessible_name, st
     button->setToolTip(plain_tool_tip(tool_tip));
     button->setAccessibleDescription(visible_text(tool_tip));
     button->setIcon(button_picture(picture));
-    button->setIconSize({picture_size, picture_size});
     button->setFocusPolicy(Qt::TabFocus);  // a click leaves the keyboard where it is
     parent.add({}, button, Place::line);
     QObject::connect(button, &QToolButton::clicked, button,

@@ -1,16 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "toolkit/font.h"
 
+#include "toolkit/desktop.h"
 #include "toolkit/font_name.h"
 #include "toolkit/text_conversion.h"
 
 #include <QApplication>
 #include <QFont>
-#include <QFontDatabase>
 #include <QFontInfo>
 #include <QFontMetrics>
 
 #include <array>
+#include <cmath>
 
 namespace {
 
@@ -19,11 +20,20 @@ constexpr std::array<int, 4> points_of_scale{9, 10, 12, 15};
 int points_of(FontScale scale) { return points_of_scale[static_cast<std::size_t>(scale)]; }
 
 QFont fixed_width_font() {
-    QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    QFont font = desktop_fixed_font();
     font.setStyleHint(QFont::Monospace);
     font.setFixedPitch(true);
-    font.setPointSize(points_of(FontScale::medium));
     return font;
+}
+
+/// A scale of the desktop's font of fixed width: medium is the size it has.
+void apply_scale(QFont& fixed, FontScale scale) {
+    const double share = static_cast<double>(points_of(scale)) / points_of(FontScale::medium);
+    if (fixed.pointSizeF() > 0) {
+        fixed.setPointSizeF(fixed.pointSizeF() * share);
+    } else {
+        fixed.setPixelSize(static_cast<int>(std::lround(fixed.pixelSize() * share)));
+    }
 }
 
 /// The largest size whose line fits a cell of that height.
@@ -39,8 +49,13 @@ void fit_to_cell(QFont& font, int cell_pixels) {
 Font::Font(const QFont& font) : font_(std::make_shared<const QFont>(font)) {}
 
 Font xv_find(const FontRequest& request) {
-    QFont font = request.family == FontFamily::fixed_width ? fixed_width_font() : QApplication::font();
-    font.setPointSize(request.points.value_or(points_of(request.scale)));
+    const bool fixed = request.family == FontFamily::fixed_width;
+    QFont font = fixed ? fixed_width_font() : QApplication::font();
+    if (fixed && !request.points) {
+        apply_scale(font, request.scale);
+    } else {
+        font.setPointSize(request.points.value_or(points_of(request.scale)));
+    }
     font.setBold(request.style == FontStyle::bold);
     return Font(font);
 }

@@ -33,6 +33,9 @@ class Browser final : public QTextBrowser {
         if (type != QTextDocument::ImageResource) {
             return in_theme(QTextBrowser::loadResource(type, name).toByteArray());
         }
+        if (!name.path().endsWith(QLatin1String(".svg"))) {
+            return QTextBrowser::loadResource(type, name);
+        }
         const QIcon picture = themed_icon(source().resolved(name).toLocalFile());
         return picture.pixmap(QSize(picture_size, picture_size), devicePixelRatioF());
     }
@@ -79,6 +82,13 @@ class HelpPaneWidget final : public QWidget {
     [[nodiscard]] QTextBrowser& browser() { return *browser_; }
 
   protected:
+    /// The page is drawn in the colours that there were.
+    void changeEvent(QEvent* event) override {
+        QWidget::changeEvent(event);
+        if (event->type() == QEvent::PaletteChange && !browser_->source().isEmpty()) {
+            browser_->reload();
+        }
+    }
     void keyPressEvent(QKeyEvent* event) override {
         if (is_return(*event) && field_->hasFocus()) {
             go(event->modifiers().testFlag(Qt::ShiftModifier) ? QTextDocument::FindBackward

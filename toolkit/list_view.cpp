@@ -18,8 +18,6 @@
 
 namespace {
 
-constexpr int glyph_size = 16;  // pixels
-
 /// In the order of `Glyph`, but for none.
 constexpr std::array<std::string_view, 6> pictures{"arrow",          "directory",     "document",
                                                    "directory_link", "document_link", "executable"};
@@ -82,7 +80,6 @@ ListView::ListView(ListModel& model, ListNotify notify, QWidget* parent)
     : QListView(parent), notify_(notify) {
     setModel(&model);
     setUniformItemSizes(true);
-    setIconSize({glyph_size, glyph_size});
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setTabKeyNavigation(false);
 }

@@ -7,6 +7,8 @@
 #include <QHBoxLayout>
 #include <QLabel>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int spacing = 6;
@@ -86,6 +88,14 @@ Row::Row(Container& parent, std::string_view label, Place place)
     }
     layout_->setSpacing(spacing);
     parent.add(label, widget_, place);
+}
+
+int Row::wanted_height() const {
+    int height = 0;
+    for (const QWidget* control : widget_->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+        height = std::max(height, control->sizeHint().height());
+    }
+    return height;
 }
 
 void Row::set_height(int pixels) {

@@ -64,6 +64,8 @@ class Row : public Container {
     /// With a label before the whole row.
     Row(Container& parent, std::string_view label);
     void add(std::string_view label, QWidget* control, Place place) override;
+    /// The height in pixels that the highest of its controls wants.
+    [[nodiscard]] int wanted_height() const;
     /// In pixels; controls for which that is too little are hidden.
     void set_height(int pixels);
     void set_shown(bool shown);

@@ -3,8 +3,9 @@
 
 #include <QApplication>
 #include <QFile>
+#include <QIconEngine>
 #include <QPainter>
-#include <QPalette>
+#include <QPixmapCache>
 #include <QProxyStyle>
 #include <QStyleFactory>
 #include <QStyleOptionMenuItem>
@@ -12,6 +13,7 @@
 
 #include <algorithm>
 #include <array>
+#include <memory>
 
 namespace {
 
@@ -19,6 +21,7 @@ constexpr int menu_margin = 4;
 constexpr int menu_item_padding = 5;
 constexpr int button_padding = 24;
 constexpr int title_indent = 12;
+constexpr int picture_size = 20;  ///< on buttons, beside the usual font
 
 /// The colours of one of the two sets.
 struct Colours {
@@ -67,7 +70,23 @@ class OrvikStyle : public QProxyStyle {
     OrvikStyle() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
 
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
-        return metric == PM_MenuVMargin ? menu_margin : QProxyStyle::pixelMetric(metric, option, widget);
+        switch (metric) {
+            case PM_MenuVMargin:
+                return menu_margin;
+            case PM_ButtonIconSize:
+                return grown(picture_size);
+            case PM_IndicatorWidth:
+            case PM_IndicatorHeight:
+            case PM_ExclusiveIndicatorWidth:
+            case PM_ExclusiveIndicatorHeight:
+            case PM_MenuButtonIndicator:
+            case PM_ScrollBarExtent:
+            case PM_ListViewIconSize:
+            case PM_SmallIconSize:
+                return grown(QProxyStyle::pixelMetric(metric, option, widget));
+            default:
+                return QProxyStyle::pixelMetric(metric, option, widget);
+        }
     }
 
     /// A menu higher than the screen scrolls; beside each other its items would be hard to follow.
@@ -120,6 +139,12 @@ class OrvikStyle : public QProxyStyle {
     }
 
   private:
+    /// Pictures, dots and arrows keep step with a font that is larger than usual.
+    static int grown(int pixels) {
+        constexpr int usual_height = 16;  // of a line, in pixels
+        const int height = QFontMetrics(QApplication::font()).height();
+        return std::max(pixels, pixels * height / usual_height);
+    }
     template <typename Option>
     bool draw_outlined(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const {
@@ -149,11 +174,52 @@ class OrvikStyle : public QProxyStyle {
     }
 };
 
+/// A drawing that is drawn when it is shown.
+class DrawnIcon : public QIconEngine {
+  public:
+    explicit DrawnIcon(const QString& path) {
+        QFile file(path);
+        drawing_ = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+    void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State /*state*/) override {
+        constexpr double faded = 0.4;
+        painter->setOpacity(mode == QIcon::Disabled ? faded : 1);
+        renderer().render(painter, rect);
+        painter->setOpacity(1);
+    }
+    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
+        QPixmap picture(size);
+        picture.fill(Qt::transparent);
+        QPainter painter(&picture);
+        paint(&painter, QRect(QPoint(), size), mode, state);
+        return picture;
+    }
+    [[nodiscard]] QIconEngine* clone() const override { return new DrawnIcon(*this); }
+    bool isNull() override { return drawing_.isEmpty(); }
+
+  private:
+    DrawnIcon(const DrawnIcon& other) : QIconEngine(other), drawing_(other.drawing_) {}
+
+    QSvgRenderer& renderer() {
+        if (renderer_ == nullptr || drawn_in_ != colours) {
+            drawn_in_ = colours;
+            renderer_ = std::make_unique<QSvgRenderer>(in_theme(drawing_));
+        }
+        return *renderer_;
+    }
+
+    QByteArray drawing_;
+    const Colours* drawn_in_ = nullptr;
+    std::unique_ptr<QSvgRenderer> renderer_;  ///< in those colours
+};
+
 }  // namespace
 
 void apply_theme(Shade shade) {
     colours = shade == Shade::dark ? &dark_colours : &light_colours;
-    QApplication::setStyle(new OrvikStyle);
+    QPixmapCache::clear();
+    QApplication::setStyle(new OrvikStyle);  // anew: the sizes that widgets have from it depend on the font
     QPalette palette(colours->button, colours->window);
     palette.setColor(QPalette::Base, colours->base);
     palette.setColor(QPalette::AlternateBase, colours->alternate_base);
@@ -173,6 +239,16 @@ void apply_theme(Shade shade) {
     QApplication::setPalette(palette);
 }
 
+QPalette desktop_palette() {
+    const QPalette own = QApplication::palette();
+    QApplication::setPalette(QPalette());
+    const QPalette desktops = QApplication::palette();
+    if (own != desktops) {
+        QApplication::setPalette(own);
+    }
+    return desktops;
+}
+
 QByteArray in_theme(QByteArray drawn) {
     if (colours == &dark_colours) {
         for (const ColourPair& pair : colour_pairs) {
@@ -182,20 +258,4 @@ QByteArray in_theme(QByteArray drawn) {
     return drawn;
 }
 
-QIcon themed_icon(const QString& path) {
-    if (colours == &light_colours) {
-        return QIcon(path);
-    }
-    QFile file(path);
-    QSvgRenderer drawing(file.open(QIODevice::ReadOnly) ? in_theme(file.readAll()) : QByteArray());
-    QIcon icon;
-    for (const int size : {16, 20, 24, 32, 40, 48}) {  // as asked for on usual screens, and on finer ones
-        QPixmap picture(size, size);
-        picture.fill(Qt::transparent);
-        QPainter painter(&picture);
-        drawing.render(&painter);
-        painter.end();
-        icon.addPixmap(picture);
-    }
-    return icon;
-}
+QIcon themed_icon(const QString& path) { return QIcon(new DrawnIcon(path)); }

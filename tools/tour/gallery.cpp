@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Takes a picture of every window as it is after the start-up, and one sheet with all of them.
-// usage: gallery FOLDER [POINTS]: pictures for FOLDER, with a font of that size instead of the desktop's
+// usage: gallery FOLDER [POINTS [light|dark]]: pictures for FOLDER, with a font of that size instead of the
+// desktop's, and in those colours
 #include "app/startup.h"
 #include "shell/status.h"
 #include "tests/support/scratch_directory.h"
@@ -105,18 +106,18 @@ int take_pictures(const std::filesystem::path& folder) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    if (argc != 2 && argc != 3) {
-        std::fprintf(stderr, "usage: gallery FOLDER [POINTS]\n");
+    if (argc < 2 || argc > 4) {
+        std::fprintf(stderr, "usage: gallery FOLDER [POINTS [light|dark]]\n");
         return 2;
     }
-    if (argc == 3) {
+    if (argc > 2) {
         QApplication::setFont(QFont(QStringLiteral("sans-serif"), std::atoi(argv[2])));
     }
     const std::filesystem::path folder = std::filesystem::absolute(argv[1]);
     std::filesystem::create_directories(folder);
     const ScratchDirectory home;
     set_default_environment(home.path());
-    start_up({argv[0]});
+    start_up({argv[0], "-xrm", std::string("Orvik.Palette: ") + (argc > 3 ? argv[3] : "light")});
     const int status = take_pictures(folder);
     end_status_display();
     destroy_windows();
