@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "commands/notify.h"
 #include "tests/commands/operation_windows.h"
-#include "tests/support/other_process.h"
 #include "ui/copy_to_public_window.h"
 #include "ui/default_settings.h"
 #include "ui/file_list_browser.h"
@@ -11,19 +10,25 @@
 #include "ui/remote_file_transfer_window.h"
 #include "ui/remote_hosts.h"
 
-#include <sys/stat.h>
-
 namespace {
 
 namespace fs = std::filesystem;
 
-using Steps = Message (*)();
+using Step = Message (*)();
 
 class Remote : public OperationWindows {
   protected:
-    [[nodiscard]] std::string below(const std::string& name) const { return path("top/" + name); }
+    /// What a procedure has said, and what has been typed.
+    std::string result_of(Step procedure, Frame& window) {
+        const std::string said = after(procedure, window);
+        return said + typed();
+    }
     static RemoteHosts& hosts() { return remote_hosts(); }
     static RemoteFileTransfer& transfer() { return remote_file_transfer_window(); }
+
+    const std::string a_ = path("top/a");
+    const std::string b_c_ = "'" + path("top/b c") + "'";
+    const std::string sub_ = path("top/sub");
 };
 
 TEST_F(Remote, LogsInToTheChosenHost) {
@@ -36,122 +41,65 @@ TEST_F(Remote, LogsInToTheChosenHost) {
     hosts().my_host.set_text("mine");
     const struct {
         int row;
-        Steps procedure;
-        std::string footer;
-        std::string typed;
+        Step procedure;
+        std::string result;
     } cases[] = {
-        {0, RemoteHostsRlogin, "", "rlogin one\n"},
-        {1, RemoteHostsRlogin, "", "rlogin -l jo two.org\n"},
-        {1, RemoteHostsSsh, "", "ssh -l jo two.org\n"},
-        {1, RemoteHostsSetDisplay, "", "DISPLAY=two.org:0.0; export DISPLAY\n"},
-        {2, RemoteHostsSsh, "Illegal host name", ""},
-        {2, RemoteHostsSetDisplay, "Illegal host name", ""},
-        {3, RemoteHostsRlogin, "Illegal user name", ""},
-        {4, RemoteHostsSsh, "Host name not specified", ""},
-        {5, RemoteHostsRlogin, "", "rlogin mine\n"},
+        {0, RemoteHostsRlogin, "rlogin one\n"},
+        {1, RemoteHostsRlogin, "rlogin -l jo two.org\n"},
+        {1, RemoteHostsSsh, "ssh -l jo two.org\n"},
+        {1, RemoteHostsSetDisplay, "DISPLAY=two.org:0.0; export DISPLAY\n"},
+        {2, RemoteHostsSsh, "Illegal host name"},
+        {2, RemoteHostsSetDisplay, "Illegal host name"},
+        {3, RemoteHostsRlogin, "Illegal user name"},
+        {4, RemoteHostsSsh, "Host name not specified"},
+        {5, RemoteHostsRlogin, "rlogin mine\n"},
     };
     for (const auto& row : cases) {
         hosts().select_host.set_value(row.row);
-        EXPECT_EQ(row.procedure(), row.footer) << row.row;
-        EXPECT_EQ(typed(), row.typed);
+        EXPECT_EQ(result_of(row.procedure, hosts()), row.result) << row.row;
     }
     user_shell.family = ShellFamily::csh;
-    EXPECT_EQ(RemoteHostsSetDisplay(), "");
-    EXPECT_EQ(typed(), "setenv DISPLAY mine:0.0\n");
+    EXPECT_EQ(result_of(RemoteHostsSetDisplay, hosts()), "setenv DISPLAY mine:0.0\n");
 }
 
 TEST_F(Remote, TransfersTheSelection) {
-    enum Mode { file, directory };
+    constexpr Step to = RemoteFIleTransferCopyToHost;
+    constexpr Step from = RemoteFIleTransferCopyfromHost;
     enum Program { rcp, scp };
     const struct {
-        std::string host, user, directory, source;
-        Mode mode;
+        std::string host, user;
+        std::string remote;  ///< the path there
+        int directories;
         Program program;
         Labels selection;
-        Steps procedure;
-        std::string footer;
-        std::string typed;
+        Step procedure;
+        std::string result;  ///< what is said, or typed
     } cases[] = {
-        {"", "u", "", "", file, scp, {}, RemoteFIleTransferCopyToHost, "Host name not specified", ""},
-        {"//", "u", "", "", file, scp, {}, RemoteFIleTransferCopyfromHost, "Host name not specified", ""},
-        {"h;x", "u", "/d", "", file, scp, {"a"}, RemoteFIleTransferCopyToHost, "Illegal host name", ""},
-        {"h", "a:b", "/d", "", file, scp, {"a"}, RemoteFIleTransferCopyToHost, "Illegal user name", ""},
-        {"h",
-         "u",
-         "",
-         "s",
-         file,
-         scp,
-         {"a"},
-         RemoteFIleTransferCopyToHost,
-         "Destination directory name not specified",
-         ""},
-        {"h",
-         "u",
-         "/d",
-         "",
-         file,
-         scp,
-         {"a"},
-         RemoteFIleTransferCopyfromHost,
-         "Source file name not specified",
-         ""},
-        {"h", "u", "/d", "s", file, scp, {}, RemoteFIleTransferCopyToHost, "No files selected", ""},
-        {"h", "u", "/d", "s", file, scp, {"dangle"}, RemoteFIleTransferCopyToHost, "Illegal file", ""},
-        {"h ",
-         "",
-         "/d",
-         "",
-         file,
-         scp,
-         {"a", "b c"},
-         RemoteFIleTransferCopyToHost,
-         "",
-         "scp " + below("a") + " h:/d\nscp '" + below("b c") + "' h:/d\n"},
-        {"h",
-         "u",
-         "$(x) y",
-         "",
-         directory,
-         rcp,
-         {"sub"},
-         RemoteFIleTransferCopyToHost,
-         "",
-         "rcp -r " + below("sub") + " 'u@h:$(x) y'\n"},
-        {"fe80::1%eth0",
-         "u",
-         "",
-         "*.c",
-         file,
-         scp,
-         {"a"},
-         RemoteFIleTransferCopyfromHost,
-         "",
-         "scp 'u@[fe80::1%eth0]:*.c' " + below("a") + "\n"},
-        {"h",
-         "",
-         "",
-         "s",
-         directory,
-         scp,
-         {"sub"},
-         RemoteFIleTransferCopyfromHost,
-         "",
-         "scp -r h:s " + below("sub") + "\n"},
+        {"", "u", "", 0, scp, {}, to, "Host name not specified"},
+        {"//", "u", "", 0, scp, {}, from, "Host name not specified"},
+        {"h;x", "u", "/d", 0, scp, {"a"}, to, "Illegal host name"},
+        {"h", "a:b", "/d", 0, scp, {"a"}, to, "Illegal user name"},
+        {"h", "u", "", 0, scp, {"a"}, to, "Destination directory name not specified"},
+        {"h", "u", "", 0, scp, {"a"}, from, "Source file name not specified"},
+        {"h", "u", "/d", 0, scp, {}, to, "No files selected"},
+        {"h", "u", "/d", 0, scp, {"dangle"}, to, "Illegal file"},
+        {"h ", "", "/d", 0, scp, {"a", "b c"}, to, "scp " + a_ + " h:/d\nscp " + b_c_ + " h:/d\n"},
+        {"h", "u", "$(x) y", 1, rcp, {"sub"}, to, "rcp -r " + sub_ + " 'u@h:$(x) y'\n"},
+        {"fe80::1%e", "u", "*.c", 0, scp, {"a"}, from, "scp 'u@[fe80::1%e]:*.c' " + a_ + "\n"},
+        {"h", "", "s", 1, scp, {"sub"}, from, "scp -r h:s " + sub_ + "\n"},
     };
     fs::remove(path("top/dangle"));
     for (const auto& row : cases) {
         transfer().host_name.set_text(row.host);
         transfer().user_name.set_text(row.user);
-        transfer().destination_directory.set_text(row.directory);
-        transfer().source_files.set_text(row.source);
-        transfer().copy_mode.set_value(row.mode);
+        transfer().destination_directory.set_text(row.procedure == to ? row.remote : "other");
+        transfer().source_files.set_text(row.procedure == from ? row.remote : "other");
+        transfer().copy_mode.set_value(row.directories);
         transfer().copy_command.set_value(row.program);
         select_at(row.selection);
-        EXPECT_EQ(after(row.procedure, transfer()), row.footer) << row.typed;
-        EXPECT_EQ(typed(), row.typed);
+        EXPECT_EQ(result_of(row.procedure, transfer()), row.result);
     }
-    EXPECT_EQ(default_settings().last_command.text(), "scp -r h:s " + below("sub"));
+    EXPECT_EQ(default_settings().last_command.text(), "scp -r h:s " + sub_);
 }
 
 TEST_F(Remote, TheHostChoiceFillsTheFields) {
@@ -181,164 +129,129 @@ TEST_F(Remote, CopiesTheListedFileOrTheSelection) {
 
     fs::remove(path("top/dangle"));
     file_list_browser().directory.set_text(path("top"));
-    const auto tree = RemoteCopy::Side::tree_selection;
-    const auto list = RemoteCopy::Side::listed_file;
+    constexpr auto tree = RemoteCopy::Side::tree_selection;
+    constexpr auto list = RemoteCopy::Side::listed_file;
+    constexpr Step to = Copy_to_remote_button;
+    constexpr Step from = Copy_from_remote_button;
     const struct {
         RemoteCopy::Side side;
-        std::string source, destination, user, host;
+        std::string remote, user, host;
         std::string chosen;  ///< in the tree or the list
-        Steps procedure;
-        std::string footer;
-        std::string typed;
+        Step procedure;
+        std::string result;
     } cases[] = {
-        {tree, "", "", "", "", "", Copy_to_remote_button, "Remote directory not specified", ""},
-        {tree, "", "d", "", "", "", Copy_from_remote_button, "Remote source not specified", ""},
-        {tree, "", "d", "", "/* h */", "", Copy_to_remote_button, "Remote host not specified", ""},
-        {tree, "", "d", "", "h", "", Copy_to_remote_button, "Remote user not specified", ""},
-        {tree, "", "d", "u", "-h", "a", Copy_to_remote_button, "Illegal host name", ""},
-        {tree, "", "d", "u v", "h", "a", Copy_to_remote_button, "Illegal user name", ""},
-        {tree, "", "d", "u", "h", "", Copy_to_remote_button, "No source file specified", ""},
-        {tree, "s", "", "u", "h", "", Copy_from_remote_button, "No destination file specified", ""},
-        {tree, "s", "", "u", "h", "dangle", Copy_from_remote_button, "Illegal file", ""},
-        {tree, "", "d e", "u", "h", "a", Copy_to_remote_button, "", "scp -r " + below("a") + " 'u@h:d e'\n"},
-        {tree, "s", "", "u", "h", "sub", Copy_from_remote_button, "", "scp -r u@h:s " + below("sub") + "\n"},
-        {list, "", "d", "u", "h", "", Copy_to_remote_button, "No source file specified", ""},
-        {list, "s", "", "u", "h", "", Copy_from_remote_button, "No destination file specified", ""},
-        {list, "s", "", "u", "h", "none", Copy_from_remote_button, "Illegal destination file", ""},
-        {list, "", "d", "u", "h", "none:", Copy_to_remote_button, "",
-         "scp -r " + below("none:") + " u@h:d\n"},
-        {list, "s", "", "u", "h", "b c", Copy_from_remote_button, "",
-         "scp -r u@h:s '" + below("b c") + "'\n"},
+        {tree, "", "", "", "", to, "Remote directory not specified"},
+        {tree, "", "", "", "", from, "Remote source not specified"},
+        {tree, "d", "", "/* h */", "", to, "Remote host not specified"},
+        {tree, "d", "", "h", "", to, "Remote user not specified"},
+        {tree, "d", "u", "-h", "a", to, "Illegal host name"},
+        {tree, "d", "u v", "h", "a", to, "Illegal user name"},
+        {tree, "d", "u", "h", "", to, "No source file specified"},
+        {tree, "s", "u", "h", "", from, "No destination file specified"},
+        {tree, "s", "u", "h", "dangle", from, "Illegal file"},
+        {tree, "d e", "u", "h", "a", to, "scp -r " + a_ + " 'u@h:d e'\n"},
+        {tree, "s", "u", "h", "sub", from, "scp -r u@h:s " + sub_ + "\n"},
+        {list, "d", "u", "h", "", to, "No source file specified"},
+        {list, "s", "u", "h", "", from, "No destination file specified"},
+        {list, "s", "u", "h", "none", from, "Illegal destination file"},
+        {list, "d", "u", "h", "a:", to, "scp -r " + a_ + ": u@h:d\n"},
+        {list, "s", "u", "h", "b c", from, "scp -r u@h:s " + b_c_ + "\n"},
     };
     for (const auto& row : cases) {
         window.side = row.side;
-        window.remote_source.set_text(row.source);
-        window.remote_destination.set_text(row.destination);
+        window.remote_source.set_text(row.procedure == from ? row.remote : "other");
+        window.remote_destination.set_text(row.procedure == to ? row.remote : "other");
         window.remote_user.set_text(row.user);
         window.remote_host.set_text(row.host);
         file_list_browser().file_name.set_text(row.chosen);
         select_at(row.side == tree && !row.chosen.empty() ? Labels{row.chosen} : Labels());
         message_board().text.set_text("");
-        EXPECT_EQ(after(row.procedure, window), row.footer) << row.typed;
-        EXPECT_EQ(typed(), row.typed);
-        EXPECT_EQ(message_board().text.text(), row.typed);
+        EXPECT_EQ(result_of(row.procedure, window), row.result);
+        EXPECT_EQ(message_board().text.text(), row.result.ends_with('\n') ? row.result : "");
     }
 }
 
 TEST_F(Remote, CopiesToAPublicDirectory) {
     user_name = "me";
-    const std::string file = below("a");
-    const auto mode = [&file] { return fs::status(file).permissions(); };
     const fs::perms private_mode = fs::perms::owner_read | fs::perms::owner_write;
     const struct {
         std::string user;
         Labels selection;
-        std::string footer;
-        std::string typed;
-        bool opened = false;  ///< to everybody
+        std::string result;
+        fs::perms mode;
     } cases[] = {
-        {"", {}, "No file selected", ""},
-        {"$(x)", {"a"}, "Illegal user name", ""},
-        {"..", {"a"}, "Illegal user name", ""},
-        {"jo", {"sub", "a"}, "Not a regular file", ""},
-        {"",
-         {"a", "b c"},
-         "",
-         "cp " + file + " /home/me/public/.\ncp '" + below("b c") + "' /home/me/public/.\n"},
-        {"jo", {"a"}, "", "cp " + file + " /home/jo/public/.\n", true},
+        {"", {}, "No file selected", private_mode},
+        {"$(x)", {"a"}, "Illegal user name", private_mode},
+        {"..", {"a"}, "Illegal user name", private_mode},
+        {"jo", {"sub", "a"}, "Not a regular file", private_mode},
+        {"", {"a"}, "cp " + a_ + " /home/me/public/.\n", private_mode},
+        {"jo", {"a"}, "cp " + a_ + " /home/jo/public/.\n", fs::perms(0666)},
     };
     for (const auto& row : cases) {
-        fs::permissions(file, private_mode);
+        fs::permissions(a_, private_mode);
         copy_to_public_window().userid.set_text(row.user);
         select_at(row.selection);
-        EXPECT_EQ(after(CopyToPublicCopy, copy_to_public_window()), row.footer);
-        EXPECT_EQ(typed(), row.typed);
-        EXPECT_EQ(mode(), row.opened ? fs::perms(0666) : private_mode) << row.footer;
+        EXPECT_EQ(result_of(CopyToPublicCopy, copy_to_public_window()), row.result);
+        EXPECT_EQ(fs::status(a_).permissions(), row.mode) << row.result;
     }
-    EXPECT_EQ(default_settings().last_command.text(), "cp " + file + " /home/jo/public/.");
-    // A name that the shell cannot be given.
-    fs::permissions(file, private_mode);
+    EXPECT_EQ(default_settings().last_command.text(), "cp " + a_ + " /home/jo/public/.");
     user_shell.family = ShellFamily::unknown;
-    fs::rename(file, below("a$"));
-    top = root(path("top"));
-    select_at({"a$"});
-    EXPECT_NE(after(CopyToPublicCopy, copy_to_public_window()), "");
-    EXPECT_EQ(fs::status(below("a$")).permissions(), private_mode);
+    fs::permissions(path("top/b c"), private_mode);
+    select_at({"b c"});
+    EXPECT_NE(after(CopyToPublicCopy, copy_to_public_window()), "") << "the shell cannot be given the name";
+    EXPECT_EQ(fs::status(path("top/b c")).permissions(), private_mode);
 }
 
 TEST_F(Remote, PacksAndUnpacks) {
     PackUnpackTar& window = pack_unpack_tar();
-    setenv("ORVIK_TEST", below("sub").c_str(), 1);
+    setenv("ORVIK_TEST", sub_.c_str(), 1);
     fs::remove(path("top/dangle"));
+    const std::string top_dir = path("top");
     const std::string script = path(".orvik-script\n");
-    const std::string pack_head = "# Orvik pack files using tar\n\n";
-    const std::string unpack_head = "# Orvik unpack file\n\n";
-    enum Names { relative, absolute };
+    const std::string pack_head = script + "# Orvik pack files using tar\n\n";
+    const std::string unpack_head = script + "# Orvik unpack file\n\n";
+    constexpr Step pack = MakeTarFileRun;
+    constexpr Step unpack = PackUnpackUsingTarUnpack;
     const struct {
         std::string tar_file, directory;
-        Names names;
+        int absolute;
         Labels selection;
-        Steps procedure;
-        std::string footer;
-        std::string typed;
-        std::string script;
+        Step procedure;
+        std::string result;  ///< with the script behind
     } cases[] = {
-        {"", "", relative, {"a"}, MakeTarFileRun, "Tar file name not specified", "", ""},
-        {"x.tar", "", relative, {}, MakeTarFileRun, "No file selected", "", ""},
-        {"x.tar", "", relative, {"a", "dangle"}, MakeTarFileRun, "Illegal file", "", ""},
-        {"x.tar", "/none/here", relative, {"a"}, MakeTarFileRun, "Destination directory not found", "", ""},
-        {"x.tar",
-         "",
-         relative,
-         {"sub", "a"},
-         MakeTarFileRun,
-         "",
-         script,
-         pack_head + "tar cfv x.tar \\\n-C " + below("sub") + " . \\\n-C " + path("top") + " a\n"},
-        {"x.tar",
-         "$ORVIK_TEST",
-         absolute,
-         {"sub", "a"},
-         MakeTarFileRun,
-         "",
-         script,
-         pack_head + "cd " + below("sub") + "\ntar cfv x.tar \\\n" + below("sub") + " \\\n" + below("a") +
-             "\n"},
-        {"", "", relative, {}, PackUnpackUsingTarUnpack, "No file selected", "", ""},
-        {"", "", relative, {"a", "sub"}, PackUnpackUsingTarUnpack, "Select one tar file to unpack", "", ""},
-        {"", "", relative, {"a", "b c"}, PackUnpackUsingTarUnpack, "Select one tar file to unpack", "", ""},
-        {"",
-         path("top"),
-         relative,
-         {"b c"},
-         PackUnpackUsingTarUnpack,
-         "",
-         script,
-         unpack_head + "cd " + path("top") + "\ntar xfv " + path("top/b\\ c") + "\n"},
-        {"x", "", relative, {}, PackUnpackGzip, "Destination directory name not specified", "", ""},
-        {"", "/tmp", relative, {}, PackUnpackGzip, "Tar file name not specified", "", ""},
-        {"x y", "/tmp", relative, {}, PackUnpackGzip, "", "gzip '/tmp/x y'\n", ""},
-        {"/x.tar", "/tmp", relative, {}, PackUnpackGzip, "", "gzip /x.tar\n", ""},
-        {"", "", relative, {}, PackUnpackGunzip, "Select one zipped file to unzip", "", ""},
-        {"", "", relative, {"sub"}, PackUnpackGunzip, "Select one zipped file to unzip", "", ""},
-        {"", "", relative, {"b c"}, PackUnpackGunzip, "", "gunzip '" + below("b c") + "'\n", ""},
-        {"", "old", relative, {"a", "sub"}, PackUnpackGetDestDir, "Select one destination directory", "", ""},
-        {"", "old", relative, {}, PackUnpackGetDestDir, "Select one destination directory", "", ""},
+        {"", "", 0, {"a"}, pack, "Tar file name not specified"},
+        {"x", "", 0, {}, pack, "No file selected"},
+        {"x", "", 0, {"a", "dangle"}, pack, "Illegal file"},
+        {"x", "/none/here", 0, {"a"}, pack, "Destination directory not found"},
+        {"x", "", 0, {"a"}, pack, pack_head + "tar cfv x \\\n-C " + top_dir + " a\n"},
+        {"x", "$ORVIK_TEST", 1, {"sub"}, pack, pack_head + "cd " + sub_ + "\ntar cfv x \\\n" + sub_ + "\n"},
+        {"", "", 0, {}, unpack, "No file selected"},
+        {"", "", 0, {"a", "sub"}, unpack, "Select one tar file to unpack"},
+        {"", "", 0, {"a", "b c"}, unpack, "Select one tar file to unpack"},
+        {"", top_dir, 0, {"a"}, unpack, unpack_head + "cd " + top_dir + "\ntar xfv " + a_ + "\n"},
+        {"x", "", 0, {}, PackUnpackGzip, "Destination directory name not specified"},
+        {"", "/tmp", 0, {}, PackUnpackGzip, "Tar file name not specified"},
+        {"x y", "/tmp", 0, {}, PackUnpackGzip, "gzip '/tmp/x y'\n"},
+        {"/x.tar", "/tmp", 0, {}, PackUnpackGzip, "gzip /x.tar\n"},
+        {"", "", 0, {}, PackUnpackGunzip, "Select one zipped file to unzip"},
+        {"", "", 0, {"sub"}, PackUnpackGunzip, "Select one zipped file to unzip"},
+        {"", "", 0, {"b c"}, PackUnpackGunzip, "gunzip " + b_c_ + "\n"},
+        {"", "old", 0, {"a", "sub"}, PackUnpackGetDestDir, "Select one destination directory"},
+        {"", "old", 0, {}, PackUnpackGetDestDir, "Select one destination directory"},
     };
     for (const auto& row : cases) {
         fs::remove(path(".orvik-script"));
         window.tar_file.set_text(row.tar_file);
         window.destination_dir.set_text(row.directory);
-        window.file_names.set_value(row.names);
+        window.file_names.set_value(row.absolute);
         select_at(row.selection);
-        EXPECT_EQ(after(row.procedure, window), row.footer) << row.typed;
-        EXPECT_EQ(typed(), row.typed);
-        EXPECT_EQ(read_file(path(".orvik-script")), row.script);
+        const std::string result = result_of(row.procedure, window);
+        EXPECT_EQ(result + read_file(path(".orvik-script")), row.result);
     }
-    EXPECT_EQ(default_settings().last_command.text(), "gunzip '" + below("b c") + "'");
+    EXPECT_EQ(default_settings().last_command.text(), "gunzip " + b_c_);
     select_at({"sub"});
     EXPECT_EQ(after(PackUnpackGetDestDir, window), "");
-    EXPECT_EQ(window.destination_dir.text(), below("sub"));
+    EXPECT_EQ(window.destination_dir.text(), sub_);
     make_tar_file();
     EXPECT_EQ(window.right_footer(), "Tar command executes in terminal window");
 }
