@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "settings/history.h"
 
+#include "settings/history_file.h"
 #include "settings/history_format.h"
 #include "settings/load_file.h"
 #include "settings/notify.h"
@@ -16,7 +17,8 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
-#include <set>
+#include <map>
+#include <utility>
 
 #include <fmt/format.h>
 #include <fmt/printf.h>
@@ -24,56 +26,85 @@
 
 namespace {
 
-/// More is not read of a file: no history grows so large.
-constexpr std::size_t most_bytes = std::size_t{8} * 1024 * 1024;
-
 /// The items of "Save To History File" and "Menu Action".
 enum SaveToFile { after_every_command, when_quitting };
 enum MenuAction { execute, move_to_command_line, both };
 
 ScrollingList& history() { return command_history_manager().list; }
 
-/// The files that may be replaced by the list without a loss: their commands are in it, or there were none.
-/// Made before the program begins: they are asked for while it ends, too.
-std::set<std::string> replaceable_files;
+/// The files that may be replaced by the list without a loss, by their paths: their commands are in it, or
+/// there were none. Made before the program begins: they are asked for while it ends, too.
+std::map<std::string, HistoryFile> known_files;
 
-/// Whether a history file may be replaced without its user's order.
-bool is_replaceable(const std::string& path) {
-    return replaceable_files.contains(path) || (access(path.c_str(), F_OK) != 0 && errno == ENOENT);
-}
-
-/// Nobody but its owner may read what somebody has typed.
-int write_history(const ScrollingList& list, const std::string& path, Durability durability) {
-    constexpr mode_t owner_only = 0600;
-    const int error = save_file(path, format_history(list.all_rows()),
-                                {.exact_mode = owner_only, .durability = durability});
-    if (error == 0) {
-        replaceable_files.insert(path);
+/// The file, if it may be replaced without its user's order.
+HistoryFile* replaceable_file(const std::string& path) {
+    const auto known = known_files.find(path);
+    if (known != known_files.end()) {
+        return &known->second;
     }
-    return error;
+    const bool free = access(path.c_str(), F_OK) != 0 && errno == ENOENT;
+    return free ? &known_files.try_emplace(path, path).first->second : nullptr;
 }
 
-std::string not_replaced(const std::string& path) {
-    return fmt::format("{} not written: not all of it was loaded before", path);
+// Why a file was not written, beside what the system says.
+constexpr std::string_view not_loaded = "not all of it was loaded before";
+constexpr std::string_view in_use = "another Orvik is writing it";
+
+/// Takes what other copies have filed into the list, and out of it what is gone from the file. Whether the
+/// file may still be replaced.
+bool take_in_news(ScrollingList& list, HistoryFile& file) {
+    std::optional<HistoryNews> news = file.news();
+    if (!news) {
+        return false;
+    }
+    if (!news->gone.empty()) {
+        list.set_rows(without(list.all_rows(), news->gone));
+    }
+    list.append(std::move(news->added));
+    return true;
 }
 
-/// Saves after a command. A failure is not reported; that the file is left alone is, once.
-void save_automatically(const std::string& path) {
+/// Adds a command, if there is one, and replaces the file by the list, in one turn. Why the file was not
+/// written; empty when it was.
+std::string_view save_in_turn(ScrollingList& list, const std::string& path, Durability durability,
+                              const std::optional<std::string>& command = {}) {
+    const HistoryTurn turn(path);
+    HistoryFile* file = replaceable_file(path);
+    if (file != nullptr && !turn.is_refused() && !take_in_news(list, *file)) {
+        known_files.erase(path);
+        file = nullptr;
+    }
+    if (command) {
+        list.append(*command);
+    }
+    if (file == nullptr) {
+        return not_loaded;
+    }
+    if (turn.is_refused()) {
+        return in_use;
+    }
+    const int error = file->write(list.all_rows(), durability);
+    return error == 0 ? "" : std::strerror(error);
+}
+
+std::string not_written(const std::string& path, std::string_view reason) {
+    return reason.empty() ? "" : fmt::format("{} not written: {}", path, reason);
+}
+
+/// Whether the last command could not be saved because another copy was at the file.
+bool save_is_owed = false;
+
+/// Files a command and saves. A failure is not reported; that the file is left alone is, once.
+void save_with(const std::string& path, const std::string& command) {
     static std::string reported;
-    if (is_replaceable(path)) {
-        // A disk may take a second to sync. The rename alone keeps the file whole however this program ends;
-        // if the system crashes, the last commands may be missing.
-        (void)write_history(history(), path, Durability::renamed);
-    } else if (reported != path) {
+    // A disk may take a second to sync. The rename alone keeps the file whole however this program ends; if
+    // the system crashes, the last commands may be missing.
+    const std::string_view reason = save_in_turn(history(), path, Durability::renamed, command);
+    save_is_owed = reason == in_use;
+    if (reason == not_loaded && reported != path) {
         reported = path;
-        report(not_replaced(path) + "\n");
+        report(not_written(path, reason) + "\n");
     }
-}
-
-/// Saves all rows; why that failed, or an empty text.
-std::string save_failure(const ScrollingList& list, const std::string& path) {
-    const int error = write_history(list, path, Durability::synced);
-    return error == 0 ? std::string() : fmt::format("{} not written: {}", path, std::strerror(error));
 }
 
 struct Direction {
@@ -118,9 +149,10 @@ bool make_history_menu(int entries) {
 }  // namespace
 
 int load_history(ScrollingList& list, const std::string& path) {
-    const LoadedFile file = load_file(path, most_bytes);
+    const FileStamp stamp = stamp_of(path);
+    const LoadedFile file = load_file(path, largest_history);
     if (file.error == ENOENT) {
-        replaceable_files.insert(path);
+        known_files.insert_or_assign(path, HistoryFile(path));
     }
     if (!file.text) {
         return 0;
@@ -129,25 +161,29 @@ int load_history(ScrollingList& list, const std::string& path) {
     if (!commands) {
         return -1;
     }
-    list.append(std::move(*commands));
+    list.append(*commands);
     command_history_manager().position.set_value(list.rows());
     if (file.error == 0) {
-        replaceable_files.insert(path);
+        known_files.insert_or_assign(path, HistoryFile(path, stamp, *std::move(commands)));
     }
     return 1;
 }
 
-int save_history(const ScrollingList& list, const std::string& path) {
-    const std::string failure = save_failure(list, path);
-    if (!failure.empty()) {
-        report(failure + "\n");
+int save_history(ScrollingList& list, const std::string& path) {
+    std::string_view reason = save_in_turn(list, path, Durability::synced);
+    if (reason == not_loaded) {  // it is its user who says so
+        known_files.insert_or_assign(path, HistoryFile(path, stamp_of(path), {}));
+        reason = save_in_turn(list, path, Durability::synced);
     }
-    return failure.empty() ? 1 : 0;
+    if (!reason.empty()) {
+        report(not_written(path, reason) + "\n");
+    }
+    return reason.empty() ? 1 : 0;
 }
 
 void clear_history(ScrollingList& list) {
     list.delete_rows();
-    replaceable_files.clear();
+    known_files.clear();
 }
 
 std::optional<std::vector<std::string>> add_history_to_menu(const ScrollingList& list, int count) {
@@ -174,11 +210,13 @@ void record_command(const std::string& command) {
         return;
     }
     CommandHistorySetupInsertDup();  // a setup file loaded since may have changed it
-    history().append(remove_nl(command));
-    command_history_manager().position.set_value(history().rows());
+    const std::string row = remove_nl(command);
     if (setup.save_to_history_file.value() == after_every_command) {
-        save_automatically(history_path());
+        save_with(history_path(), row);
+    } else {
+        history().append(row);
     }
+    command_history_manager().position.set_value(history().rows());
 }
 
 void load_history_at_startup() {
@@ -199,11 +237,12 @@ void make_history_menu_at_startup() {
 }
 
 std::string save_history_at_quit() {
-    if (command_history_setup().save_to_history_file.value() != when_quitting) {
+    const int when = command_history_setup().save_to_history_file.value();
+    if (when != when_quitting && !(when == after_every_command && save_is_owed)) {
         return {};
     }
     const std::string path = history_path();
-    return is_replaceable(path) ? save_failure(history(), path) : not_replaced(path);
+    return not_written(path, save_in_turn(history(), path, Durability::synced));
 }
 
 Message history_previous(HistoryWalker walker) {

@@ -16,9 +16,10 @@ class ScrollingList;
 /// to the number of rows. 1 when they were loaded, 0 when the file cannot be read, -1 when it is no history
 /// file; nothing has changed then.
 int load_history(ScrollingList& list, const std::string& path);
-/// Writes all rows to a file that only its owner may read: 1 when the file has been replaced, 0 when it has
-/// not (the old one is whole then, and the Message Board has the reason).
-int save_history(const ScrollingList& list, const std::string& path);
+/// Takes in what other copies of the tool have filed, then writes all rows to a file that only its owner may
+/// read: 1 when the file has been replaced, 0 when it has not (the old one is whole then, and the Message
+/// Board has the reason).
+int save_history(ScrollingList& list, const std::string& path);
 /// Deletes every row. The history file is then not saved automatically before it has been loaded or saved.
 void clear_history(ScrollingList& list);
 

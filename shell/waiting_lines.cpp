@@ -7,7 +7,6 @@
 #include <utility>
 
 #include <fmt/format.h>
-#include <sys/stat.h>
 
 namespace {
 
@@ -21,17 +20,6 @@ constexpr milliseconds surely_calm{1000};
 constexpr milliseconds usual_wait{250};
 
 }  // namespace
-
-FileStamp stamp_of(const std::string& path) {
-    constexpr std::int64_t nanoseconds = 1'000'000'000;
-    struct stat info {};
-    if (path.empty() || stat(path.c_str(), &info) != 0) {
-        return {};
-    }
-    return {.inode = info.st_ino,
-            .modified = info.st_mtim.tv_sec * nanoseconds + info.st_mtim.tv_nsec,
-            .size = info.st_size};
-}
 
 WaitingLines::WaitingLines(Surroundings surroundings)
     : surroundings_(std::move(surroundings)), reader_(surroundings_.program_name) {}

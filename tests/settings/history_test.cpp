@@ -143,6 +143,25 @@ TEST_F(HistoryTest, AFileThatIsNotThereIsMadeAndThenReplaced) {
     EXPECT_EQ(board(), home_dir + "/.orvik-history not written: not all of it was loaded before\n");
 }
 
+TEST_F(HistoryTest, TakesInWhatAnotherCopyHasFiledAndTakesOutWhatIsGone) {
+    home.write(".orvik-history", header + "make\nls -l\n");
+    load_history_at_startup();
+    home.write(".orvik-history", header + "make\nls -l\nls -a\nmake all\n");  // another copy
+    record_command("make all");
+    EXPECT_EQ(list().all_rows(), (Rows{"make", "ls -l", "ls -a", "make all"}));
+    EXPECT_EQ(position(), 4);
+    home.write(".orvik-history", header + "ls -l\nmake all\ngrep\n");  // one was deleted there
+    constexpr int when_quitting = 1;
+    command_history_setup().save_to_history_file.set_value(when_quitting);
+    record_command("echo");
+    EXPECT_EQ(save_history_at_quit(), "");
+    EXPECT_EQ(list().all_rows(), (Rows{"ls -l", "make all", "echo", "grep"}));
+    EXPECT_EQ(read_file(file()), header + "ls -l\nmake all\necho\ngrep\n");
+    home.write(".orvik-history", "no history\n");
+    EXPECT_EQ(save_history_at_quit(), file() + " not written: not all of it was loaded before");
+    EXPECT_EQ(read_file(file()), "no history\n");
+}
+
 TEST_F(HistoryTest, ButtonMakesAMenuOfTheNewestCommandsWhenPressed) {
     auto& button = control<QPushButton>(main_window(), "history");
     const QMenu& menu = *button.findChild<QMenu*>();
