@@ -205,7 +205,7 @@ std::string history_path() {
 
 void record_command(const std::string& command) {
     const CommandHistorySetup& setup = command_history_setup();
-    if (!is_recorded(command.size(), setup.store_commands_longer_than.value(),
+    if (!is_recorded(command, setup.store_commands_longer_than.value(),
                      Recording{static_cast<std::uint8_t>(setup.history_list.value())})) {
         return;
     }

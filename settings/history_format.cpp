@@ -18,8 +18,11 @@ std::string format_history(std::span<const std::string> commands) {
     return contents;
 }
 
-bool is_recorded(std::size_t length, int longer_than, Recording recording) {
-    constexpr std::size_t longest = 79;
+bool is_recorded(std::string_view command, int longer_than, Recording recording) {
+    constexpr std::ptrdiff_t longest = 79;
+    // In UTF-8 all bytes of a character but the first begin with the bits 10.
+    const auto length = std::ranges::count_if(
+        command, [](char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U; });
     return recording == Recording::on && length <= longest && std::cmp_greater(length, longer_than);
 }
 

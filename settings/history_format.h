@@ -20,8 +20,8 @@
 
 /// "History List" of "Command History Setup", in the order of its items.
 enum class Recording : std::uint8_t { on, off };
-/// Whether a command of so many bytes goes into the history: it is longer than `longer_than`, and at most 79.
-[[nodiscard]] bool is_recorded(std::size_t length, int longer_than, Recording recording);
+/// Whether a command goes into the history: it has more characters than `longer_than`, and at most 79.
+[[nodiscard]] bool is_recorded(std::string_view command, int longer_than, Recording recording);
 
 /// Why so many commands are not sorted; empty when they can be.
 [[nodiscard]] std::string_view sort_refusal(std::size_t commands);

@@ -63,8 +63,15 @@ TEST(HistoryFormat, CommandsAreRecordedByTheirLength) {
         {0, 0, false},  {1, 0, true},    {3, 3, false},        {4, 3, true},  {79, 3, true},
         {80, 3, false}, {79, 79, false}, {80, INT_MIN, false}, {0, -1, true}, {79, INT_MAX, false}};
     for (const auto& [length, longer_than, recorded] : cases) {
-        EXPECT_EQ(is_recorded(length, longer_than, Recording::on), recorded) << length << '>' << longer_than;
-        EXPECT_FALSE(is_recorded(length, longer_than, Recording::off)) << length;
+        std::string letters;
+        for (std::size_t i = 0; i < length; ++i) {
+            letters += i % 2 == 0 ? "\u00E9" : "\U0001F600";
+        }
+        for (const std::string& command : {xs(length), letters}) {
+            EXPECT_EQ(is_recorded(command, longer_than, Recording::on), recorded)
+                << length << '>' << longer_than;
+            EXPECT_FALSE(is_recorded(command, longer_than, Recording::off)) << length;
+        }
     }
 }
 
