@@ -2,6 +2,7 @@
 #include "toolkit/fields.h"
 
 #include "toolkit/answer.h"
+#include "toolkit/paste_into_line.h"
 #include "toolkit/return_key.h"
 #include "toolkit/text_conversion.h"
 
@@ -12,8 +13,8 @@
 #include <limits>
 #include <utility>
 
-/// A line edit that keeps Return to itself when it acts on it; else the window takes the key. What it shows
-/// may stand for a name that holds characters which cannot be shown.
+/// A line edit that keeps Return to itself when it has an answer to it; else the window takes the key. What
+/// it shows may stand for a name that holds characters which cannot be shown.
 class LineEdit : public QLineEdit {
   public:
     LineEdit(Notify notify, QWidget* parent) : QLineEdit(parent), notify_(notify) {}
@@ -25,6 +26,11 @@ class LineEdit : public QLineEdit {
         if (shown != text()) {
             setText(shown);
         }
+        setModified(false);
+    }
+    void restore() {
+        setText(shown_);
+        setModified(false);
     }
 
     void set_keys(const FieldKeys& keys) { keys_ = keys; }
@@ -36,8 +42,8 @@ class LineEdit : public QLineEdit {
             return;
         }
         QLineEdit::keyPressEvent(event);
-        if (is_return(*event) && notify_) {
-            event->accept();
+        if (is_return(*event)) {
+            event->setAccepted(notify_.answers());
             notify_from(this, notify_);
         }
     }
@@ -83,8 +89,8 @@ class SpinBox : public QSpinBox {
   protected:
     void keyPressEvent(QKeyEvent* event) override {
         QSpinBox::keyPressEvent(event);
-        if (is_return(*event) && notify_) {
-            event->accept();
+        if (is_return(*event)) {
+            event->setAccepted(notify_.answers());
             notify_from(this, notify_);
         }
     }
@@ -113,6 +119,14 @@ void TextField::set_text(std::string_view text) { widget_->set_name(to_qstring(t
 void TextField::set_name(std::string_view name) {
     widget_->set_name(to_qstring(name), visible_controls(to_qstring(name)));
 }
+
+bool TextField::is_being_edited() const { return widget_->hasFocus() && widget_->isModified(); }
+
+void TextField::restore() { widget_->restore(); }
+
+void TextField::take_pasted_commands() { make_one_line_of_pastes(*widget_); }
+
+void TextField::set_hint(std::string_view text) { widget_->setPlaceholderText(to_qstring(text)); }
 
 void TextField::on_change(std::function<void()> action) {
     QObject::connect(widget_, &QLineEdit::textChanged, widget_, [action = std::move(action)] { action(); });
@@ -158,3 +172,8 @@ void NumberField::on_change(std::function<void()> action) {
 }
 
 QWidget* NumberField::widget() const { return widget_; }
+
+void NumberField::set_read_only() {
+    widget_->setReadOnly(true);
+    widget_->setButtonSymbols(QAbstractSpinBox::NoButtons);
+}

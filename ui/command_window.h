@@ -12,6 +12,7 @@
 struct CommandWindow : CommandFrame {
     CommandWindow() : CommandFrame("Command Window") {
         command.set_display_length(60);
+        command.take_pasted_commands();
         push.set_tool_tip("change to the selected directory and remember this one (pushd)");
         pop.set_tool_tip("go back to the directory remembered last (popd)");
         remove_button.set_tool_tip("remove the files named in the line (rm)");

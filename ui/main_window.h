@@ -28,6 +28,7 @@ struct MainWindow : Frame {
         cwd.set_display_length(12);
         command.set_display_length(12);
         command.set_keys({BaseWindowPreviousCommand, BaseWindowNextCommand, BaseWindowLeaveCommand});
+        command.take_pasted_commands();
         for (Button* button : {&user_button_1, &user_button_2, &user_button_3, &user_button_4, &user_button_5,
                                &user_button_6}) {
             button->share_width();

@@ -13,6 +13,8 @@
 #include <QAbstractButton>
 #include <QAccessible>
 #include <QApplication>
+#include <QClipboard>
+#include <QDialog>
 #include <QHelpEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -120,6 +122,40 @@ TEST_F(Controls, FieldsKeepWhatIsSet) {
     EXPECT_EQ(sample.number.value(), 5);
     sample.number.set_value(-2147483647);
     EXPECT_EQ(sample.number.value(), -2147483647);
+}
+
+TEST_F(Controls, WhatIsPastedIntoACommandBecomesOneLine) {
+    sample.text.take_pasted_commands();
+    auto& field = *find<QLineEdit>("Text:");
+    const auto paste = [&](const char* text) {
+        field.setFocus();
+        sample.text.set_text("<XX>");
+        field.setSelection(1, 2);
+        QGuiApplication::clipboard()->setText(QString::fromLatin1(text));
+        QTest::keyClick(&field, Qt::Key_V, Qt::ControlModifier);
+        return sample.text.text();
+    };
+    for (const auto& [pasted, expected] : {std::pair("ls -l\n", "<ls -l>"),
+                                           {"ls\t-l\r\n", "<ls -l>"},
+                                           {"a\tXX", "<a XX>"},
+                                           {"\n", "<>"},
+                                           {"a\x1b", "<a\x1b>"}}) {
+        EXPECT_EQ(paste(pasted), expected);
+        EXPECT_EQ(field.cursorPosition(), field.text().size() - 1);
+        field.undo();
+        EXPECT_EQ(sample.text.text(), "<XX>");
+    }
+    for (const auto& [button, expected] : {std::pair("Cancel", "<XX>"), {"Paste", "<a b >"}}) {
+        EXPECT_EQ(paste("a\nb\n\n"), "<XX>") << "it is shown first";
+        auto* const review = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        ASSERT_NE(review, nullptr);
+        for (QPushButton* each : review->findChildren<QPushButton*>()) {
+            if (each->text() == QLatin1String(button)) {
+                each->click();
+            }
+        }
+        EXPECT_EQ(sample.text.text(), expected);
+    }
 }
 
 TEST_F(Controls, AChoiceHasOneValueAndNotifiesItsUserOnly) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "toolkit/frame.h"
 
+#include "tests/toolkit/find_widget.h"
 #include "toolkit/buttons.h"
 #include "toolkit/fields.h"
 #include "toolkit/notice.h"
@@ -184,14 +185,18 @@ TEST_F(FrameTest, AShownWindowGetsNoLargerThanTheScreenAndStaysOnIt) {
         << base.widget()->frameGeometry().width();
 }
 
-/// A pop-up with two fields; the second one acts on Return itself.
-struct TwoFields : CommandFrame {
-    TwoFields() : CommandFrame("Fields") {}
+/// A pop-up with three fields; the second one takes note of Return, the third one answers it itself.
+struct Fields : CommandFrame {
+    Fields() : CommandFrame("Fields") {}
     TextField plain{panel, "Plain:"};
-    TextField acting{panel, "Acting:", +[] { ++other_calls; }};
+    NumberField noting{panel, "Noting:", 0, +[] { ++other_calls; }};
+    TextField acting{panel, "Acting:", +[] {
+                         ++other_calls;
+                         return Message();
+                     }};
 };
 
-struct WithDefaultButton : TwoFields {
+struct WithDefaultButton : Fields {
     WithDefaultButton() { button.set_default(); }
     Button other{panel, "Other", +[] { ++other_calls; }};
     Button button{panel, "Default", +[] { ++calls; }};
@@ -207,15 +212,16 @@ TEST_F(FrameTest, ReturnPressesTheDefaultButtonElseGoesOn) {
         const char* focus;
     };
     constexpr Case cases[] = {
-        {"goes to the next control", false, 1, 0, 0, "Acting:"},
-        {"is the field's own", false, 3, 0, 2, "Acting:"},
+        {"goes to the next control", false, 1, 0, 0, "Noting:"},
+        {"goes on where it is only noted", false, 2, 0, 1, "Acting:"},
+        {"is the field's own", false, 4, 0, 3, "Acting:"},
         {"presses the default button", true, 2, 2, 0, "Plain:"},
     };
     for (const Case& row : cases) {
         SCOPED_TRACE(row.name);
         calls = other_calls = 0;
-        const std::unique_ptr<TwoFields> popup =
-            row.default_button ? std::make_unique<WithDefaultButton>() : std::make_unique<TwoFields>();
+        const std::unique_ptr<Fields> popup =
+            row.default_button ? std::make_unique<WithDefaultButton>() : std::make_unique<Fields>();
         popup->open();
         EXPECT_EQ(popup->widget()->focusWidget()->accessibleName(), "Plain:");
         for (int i = 0; i < row.presses; ++i) {
@@ -229,7 +235,7 @@ TEST_F(FrameTest, ReturnPressesTheDefaultButtonElseGoesOn) {
     calls = other_calls = 0;
     WithDefaultButton popup;
     popup.open();
-    QTest::keyClick(popup.widget()->findChildren<QLineEdit*>()[1], Qt::Key_Enter);
+    QTest::keyClick(find_widget<QLineEdit>(popup.widget(), "Acting:"), Qt::Key_Enter);
     EXPECT_EQ(calls, 0);
     EXPECT_EQ(other_calls, 1);
 }

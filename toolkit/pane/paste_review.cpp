@@ -60,24 +60,25 @@ void show_text(QPlainTextEdit& view, const std::string& text) {
     view.moveCursor(QTextCursor::Start);
 }
 
-QString summary(const std::string& text) {
+QString summary(const std::string& text, std::string_view outcome) {
     const auto line_ends = std::count_if(text.begin(), text.end(), [](char c) { return c == '\n'; });
     const QString held = line_ends == 0 ? QStringLiteral("characters that are not seen")
                                         : QStringLiteral("%1 line end%2")
                                               .arg(line_ends)
                                               .arg(line_ends == 1 ? QString() : QStringLiteral("s"));
-    return QStringLiteral("The text to be pasted holds %1. A line end may run a command at once.").arg(held);
+    return QStringLiteral("The text to be pasted holds %1. %2").arg(held, to_qstring(outcome));
 }
 
 }  // namespace
 
-void review_paste(QWidget* parent, const std::string& text, std::function<void()> accepted) {
+void review_paste(QWidget* parent, const std::string& text, std::string_view outcome,
+                  std::function<void()> accepted) {
     auto* dialog = new QDialog(parent->window());
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setWindowTitle(QStringLiteral("Paste"));
     dialog->setWindowModality(Qt::WindowModal);
 
-    auto* label = new QLabel(summary(text), dialog);
+    auto* label = new QLabel(summary(text, outcome), dialog);
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
     auto* view = new QPlainTextEdit(dialog);

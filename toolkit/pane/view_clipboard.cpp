@@ -49,7 +49,7 @@ void TerminalView::paste(SelectionName source) {
         return;
     }
     if (terminal::paste_needs_review(text)) {
-        review_paste(this, text, [this, text] { type_paste(text); });
+        review_paste(this, text, "A line end may run a command at once.", [this, text] { type_paste(text); });
     } else {
         type_paste(text);
     }
