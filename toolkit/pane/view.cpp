@@ -242,6 +242,7 @@ void TerminalView::shift_pictures(RowId top) {
 void TerminalView::refresh() {
     if (selection_.drop_if_changed()) {
         mouse_.stop_selecting();
+        withdraw_selection();
     }
     match_.drop_if_changed();
     viewport_.keep_to_text();

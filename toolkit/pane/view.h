@@ -149,6 +149,7 @@ class TerminalView final : public QWidget {
     void focus_changed(bool has_focus);
 
     void publish_selection();
+    void withdraw_selection();
     void primary_selection_changed();
     void type_paste(const std::string& text);
     void show_tool_tip(const QHelpEvent& event);
@@ -177,6 +178,7 @@ class TerminalView final : public QWidget {
     QString preedit_;
     QRect cursor_area_;        ///< as the input method was told
     bool publishing_ = false;  ///< the change of the primary selection is our own doing
+    bool published_ = false;   ///< the primary selection is what was marked here
 
     std::vector<Picture> pictures_;
     std::size_t next_line_ = 0;           ///< to be painted after the cursor's

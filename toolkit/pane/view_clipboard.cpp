@@ -6,6 +6,8 @@
 #include <QClipboard>
 #include <QGuiApplication>
 
+#include <utility>
+
 // The terminal view's selection as other programs see it, and pasting.
 
 void TerminalView::select(terminal::Range range) {
@@ -17,13 +19,26 @@ void TerminalView::select(terminal::Range range) {
 void TerminalView::clear_selection() {
     selection_.clear();
     content_changed();
+    withdraw_selection();
 }
 
-/// The finished selection becomes the X primary selection.
+/// The finished selection becomes the X primary selection; a click that selects nothing takes back the last
+/// one.
 void TerminalView::publish_selection() {
-    if (!selection_.empty()) {
+    if (selection_.empty()) {
+        return withdraw_selection();
+    }
+    publishing_ = true;
+    QGuiApplication::clipboard()->setText(to_qstring(selection_.text()), QClipboard::Selection);
+    publishing_ = false;
+    published_ = true;
+}
+
+/// What is no longer marked in the pane is nobody's selection any more: no key shall act on what is not seen.
+void TerminalView::withdraw_selection() {
+    if (std::exchange(published_, false)) {
         publishing_ = true;
-        QGuiApplication::clipboard()->setText(to_qstring(selection_.text()), QClipboard::Selection);
+        QGuiApplication::clipboard()->clear(QClipboard::Selection);
         publishing_ = false;
     }
 }
@@ -31,7 +46,11 @@ void TerminalView::publish_selection() {
 /// What is marked in the pane is what others get: as on xterm, the mark goes when somebody else takes the
 /// primary selection.
 void TerminalView::primary_selection_changed() {
-    if (!publishing_ && !mouse_.selecting()) {
+    if (publishing_) {
+        return;
+    }
+    published_ = false;
+    if (!mouse_.selecting()) {
         clear_selection();
     }
 }

@@ -36,7 +36,7 @@ void TerminalView::follow_size() {
     const terminal::Size size = terminal().size();
     const QSize wanted = viewport_.area_for(size);
     const QSize text = wanted - 2 * QSize(Viewport::margin, Viewport::margin);
-    selection_.clear();
+    clear_selection();
     match_.clear();
     settle_timer_.start(settle_milliseconds);
     session_.resize(size, text.width(), text.height(), {});

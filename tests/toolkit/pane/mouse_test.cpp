@@ -144,11 +144,17 @@ TEST_F(TerminalMouseTest, SelectionFollowsItsTextAndGoesWhenThatChanges) {
     EXPECT_EQ(selected(), "change") << "written anew as it was";
     show_text("\033[1;3HX");
     EXPECT_TRUE(wait([this] { return view().selection().empty(); }));
-    EXPECT_EQ(primary(), "change") << "what was selected can still be pasted";
+    EXPECT_FALSE(selection_inquire()) << "what is not marked any more is nobody's selection";
     drag(edge(0, 1), edge(4, 1));
     ASSERT_EQ(selected(), "else");
+    QTest::mouseClick(&view(), Qt::LeftButton, {}, cell(0, 2));
+    EXPECT_EQ(selected(), "");
+    EXPECT_FALSE(selection_inquire()) << "a click has taken it back";
+    drag(edge(0, 1), edge(4, 1));
     QGuiApplication::clipboard()->setText("theirs", QClipboard::Selection);
-    EXPECT_EQ(selected(), "") << "another program has the selection";
+    EXPECT_EQ(selected(), "") << "another one has the selection";
+    QTest::mouseClick(&view(), Qt::LeftButton, {}, cell(0, 2));
+    EXPECT_EQ(primary(), "theirs");
 }
 
 TEST_F(TerminalMouseTest, SelectionKeepsItsTextWhenTheWindowIsResized) {
