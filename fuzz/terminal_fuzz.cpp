@@ -125,6 +125,9 @@ void take_step(Terminal& whole, Terminal& pieces, char step, std::uint8_t first,
         case 'c':
             whole.clear_all();
             return pieces.clear_all();
+        case 'k':
+            whole.clear_all_but_line();
+            return pieces.clear_all_but_line();
         case 'm':
             write_both(whole, pieces, languages[first % languages.size()]);
             return;

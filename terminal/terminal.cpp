@@ -78,6 +78,24 @@ void Terminal::clear_all() {
     finish();
 }
 
+void Terminal::clear_all_but_line() {
+    int first = cursor_.row;
+    while (first > 0 && screen_->wrapped(first - 1)) {
+        --first;
+    }
+    int end = cursor_.row + 1;
+    while (end < size().rows && screen_->wrapped(end - 1)) {
+        ++end;
+    }
+    scrollback_.clear();
+    screen_->scroll_up(screen_->all(), first, Cell{});
+    part_from_scrollback();
+    fill({end - first, size().rows, 0, size().columns}, Cell{});
+    cursor_.row -= first;
+    count_change();
+    finish();
+}
+
 Cursor Terminal::cursor() const {
     return {{screen_->top() + cursor_.row, cursor_.column},
             inner_.cursor_visible,

@@ -85,6 +85,9 @@ class Terminal final : private ParserHandler {
     void permit(const Permissions& permissions) { permissions_ = permissions; }
     /// Empties screen and scrollback, as `clear` with the scrollback does; the cursor goes home.
     void clear_all();
+    /// The same, but the cursor's logical line stays and becomes the first one: a line editor is at work on
+    /// it.
+    void clear_all_but_line();
     /// Back to the state of a new terminal (RIS), whatever a program has begun; the scrollback stays.
     void reset();
     /// Takes back what a program that has ended may have left: the alternate screen, a sequence begun, modes,

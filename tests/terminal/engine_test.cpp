@@ -275,6 +275,15 @@ TEST(Terminal, ClearAllEmptiesTheScrollbackAndResetKeepsIt) {
     EXPECT_EQ(at.cursor(), "0,0");
 }
 
+TEST(Terminal, ClearAllButLineLeavesTheCursorsLineAtTheTop) {
+    Screened at;
+    at.terminal.write(four + "\r\n$ 34567890ab\033[A");
+    at.terminal.clear_all_but_line();
+    EXPECT_EQ(at.screen(), "$ 34567890>|ab||");
+    EXPECT_EQ(at.scrollback(), "");
+    EXPECT_EQ(at.cursor(), "0,2");
+}
+
 TEST(Terminal, StampsTellWhichRowsChanged) {
     Screened at;
     at.terminal.write(four);

@@ -38,7 +38,7 @@ class TerminalPane {
     void set_font(const Font& font);
     void set_focus();
     void permit(const terminal::Permissions& permissions);
-    /// Empties the text, with the scrollback.
+    /// Empties the text, with the scrollback, but for the line that a shell reads.
     void clear();
     /// False for a bell that follows too soon on another: it is passed over.
     bool ring_bell();

@@ -77,7 +77,13 @@ void TerminalSession::resize(terminal::Size size, int pixel_width, int pixel_hei
 }
 
 void TerminalSession::clear() {
-    terminal_.clear_all();
+    const terminal::TerminalUse use = pty() != nullptr ? pty()->use() : terminal::TerminalUse{};
+    const bool reads = pty() != nullptr && (use.group == pty()->child() || !use.reads_lines);
+    if (reads && !terminal_.modes().alternate_screen) {
+        terminal_.clear_all_but_line();
+    } else {
+        terminal_.clear_all();
+    }
     call(events_.changed);
 }
 

@@ -74,6 +74,8 @@ class TerminalSession final : private terminal::Client {
     /// Columns and rows, and the size of their area in pixels. Anchors are moved with their text.
     void resize(terminal::Size size, int pixel_width, int pixel_height,
                 std::span<terminal::Position> anchors);
+    /// Empties the text. The line that a shell reads stays: it shows neither its prompt nor what has been
+    /// typed again by itself.
     void clear();
     /// As a new terminal; the scrollback stays.
     void reset();
