@@ -8,6 +8,7 @@
 #include "shell/messages.h"
 #include "shell/process.h"
 #include "shell/status.h"
+#include "shell/status_file.h"
 #include "toolkit/application.h"
 #include "toolkit/notice.h"
 #include "ui/main_window.h"
@@ -28,9 +29,7 @@ bool chosen_by_user = false;
 
 void remove_left_files() {
     constexpr int last_stale_file = 20;
-    for (int number = 0; number <= last_stale_file; ++number) {
-        unlink(fmt::sprintf("%s/.orvik-status%d", home_dir, number).c_str());
-    }
+    remove_left_status_files(home_dir, last_stale_file);
     unlink(fmt::sprintf("%s/.orvik-message", home_dir).c_str());
 }
 

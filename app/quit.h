@@ -5,7 +5,7 @@
 
 /// What the tool does before it ends, however it was asked to: removes its status file, stops its timers,
 /// saves the history where that is wanted. When its user has chosen "Quit", the history is saved by then; the
-/// text panes are discarded, and the status files 0 to 20, which others may have left, and the mail's message
+/// text panes are discarded, and the status files 0 to 20 that no running copy holds and the mail's message
 /// file removed.
 void clean_up();
 

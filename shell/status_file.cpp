@@ -56,6 +56,15 @@ void read_line(std::string_view line, ShellStatus& status) {
 /// Whether the file could be locked; not where a running copy of the tool holds it.
 bool lock(const terminal::Descriptor& file) { return flock(file.get(), LOCK_EX | LOCK_NB) == 0; }
 
+/// Opens what stands in a status file's place, which may be anything; -1 where that cannot be done.
+terminal::Descriptor open_left(const std::string& path) {
+    return terminal::Descriptor(open(path.c_str(), O_RDWR | O_NONBLOCK | O_NOFOLLOW | O_NOCTTY | O_CLOEXEC));
+}
+
+std::string status_path(const std::string& home, int number) {
+    return fmt::sprintf("%s/.orvik-status%d", home, number);
+}
+
 /// Makes a status file; -1, and errno says why, when it cannot be made.
 terminal::Descriptor make_own(const std::string& path) {
     terminal::Descriptor made(
@@ -69,7 +78,7 @@ terminal::Descriptor make_own(const std::string& path) {
 
 /// Takes over a status file that has been left; -1 when it is in use or no status file of the user's.
 terminal::Descriptor take_over(const std::string& path) {
-    terminal::Descriptor left(open(path.c_str(), O_RDWR | O_NONBLOCK | O_NOFOLLOW | O_NOCTTY | O_CLOEXEC));
+    terminal::Descriptor left = open_left(path);
     struct stat locked {};
     struct stat named {};
     // Between the opening and the locking its owner may have removed it, and another copy have made a new
@@ -103,7 +112,7 @@ std::optional<std::string> read_status_file(const std::string& path) {
 StatusFile create_status_file(const std::string& home) {
     for (const auto take : {make_own, take_over}) {
         for (int number = 0; number < status_files; ++number) {
-            std::string path = fmt::sprintf("%s/.orvik-status%d", home, number);
+            std::string path = status_path(home, number);
             terminal::Descriptor made = take(path);
             if (made.get() >= 0) {
                 return {.path = std::move(path), .lock = std::move(made)};
@@ -114,6 +123,16 @@ StatusFile create_status_file(const std::string& home) {
         }
     }
     return {.error = EEXIST};
+}
+
+void remove_left_status_files(const std::string& home, int last) {
+    for (int number = 0; number <= last; ++number) {
+        const std::string path = status_path(home, number);
+        const terminal::Descriptor left = open_left(path);
+        if (left.get() < 0 || lock(left)) {  // the lock keeps it from being taken over meanwhile
+            unlink(path.c_str());
+        }
+    }
 }
 
 std::string status_line(const ShellStatus& status, unsigned enabled, int process_id) {

@@ -38,6 +38,9 @@ struct StatusFile {
 /// is the user's own and that no running copy holds: one that was killed has left it.
 StatusFile create_status_file(const std::string& home);
 
+/// Removes the status files 0 to `last` in the home directory, but for those that running copies hold.
+void remove_left_status_files(const std::string& home, int last);
+
 /// The items of the status line, as bits of a mask.
 enum StatusItem : unsigned { status_view = 1, status_host = 2, status_pid = 4, status_user = 8 };
 

@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: MIT
 // How the program ends: what it asks, what it saves and what it removes.
+#include "terminal/descriptor.h"
 #include "tests/e2e/orvik_test.h"
 
 #include <csignal>
+
+#include <fcntl.h>
+#include <sys/file.h>
 
 namespace {
 
@@ -54,9 +58,12 @@ class End : public OrvikTest {
 };
 
 TEST_F(End, QuitAsksSavesAndCleansUp) {
-    for (const char* name : {".orvik-status20", ".orvik-status21", ".orvik-message", "other"}) {
+    for (const char* name :
+         {".orvik-status19", ".orvik-status20", ".orvik-status21", ".orvik-message", "other"}) {
         home_.write(name, "x");
     }
+    const terminal::Descriptor other_copys(open((home_ / ".orvik-status19").c_str(), O_RDWR | O_CLOEXEC));
+    ASSERT_EQ(flock(other_copys.get(), LOCK_EX), 0);
     start_with_history();
     ask_to_quit();
     display().press_key("Return");  // loses nothing
@@ -78,6 +85,7 @@ TEST_F(End, QuitAsksSavesAndCleansUp) {
     program_.reset();
     EXPECT_EQ(history(), history_text);
     for (const auto& [name, kept] : std::map<std::string, bool>{{".orvik-status0", false},
+                                                                {".orvik-status19", true},
                                                                 {".orvik-status20", false},
                                                                 {".orvik-status21", true},
                                                                 {".orvik-message", false},
