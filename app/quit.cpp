@@ -5,6 +5,7 @@
 #include "settings/history.h"
 #include "settings/unsaved.h"
 #include "shell/door.h"
+#include "shell/foreground.h"
 #include "shell/messages.h"
 #include "shell/process.h"
 #include "shell/status.h"
@@ -20,7 +21,9 @@
 #include <string>
 #include <vector>
 
+#include <fmt/format.h>
 #include <fmt/printf.h>
+#include <fmt/ranges.h>
 #include <unistd.h>
 
 namespace {
@@ -33,11 +36,29 @@ void remove_left_files() {
     unlink(fmt::sprintf("%s/.orvik-message", home_dir).c_str());
 }
 
+/// What quitting ends in the terminal, as a line for the question; empty where nothing runs.
+std::string running_programs() {
+    constexpr std::size_t most_named = 8;
+    std::vector<std::string> names = programs_in_session(main_window().termpane.child());
+    if (names.empty()) {
+        return {};
+    }
+    if (names.size() > most_named) {
+        const std::size_t more = names.size() - most_named;
+        names.resize(most_named);
+        names.push_back(fmt::format("{} more", more));
+    }
+    return fmt::format("Still running in the terminal: {}", fmt::join(names, ", "));
+}
+
 /// What stands under the question.
 std::vector<std::string> what_is_lost() {
     std::vector<std::string> lines;
     if (has_unsaved_settings()) {
         lines.emplace_back("Settings are not saved yet: \"Save Setup\" in the \"Setup\" menu does that");
+    }
+    if (const std::string running = running_programs(); !running.empty()) {
+        lines.push_back(running);
     }
     return lines;
 }

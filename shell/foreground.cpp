@@ -7,7 +7,9 @@
 #include <array>
 #include <charconv>
 #include <filesystem>
+#include <iterator>
 #include <optional>
+#include <set>
 
 #include <fmt/format.h>
 #include <unistd.h>
@@ -80,6 +82,12 @@ std::optional<pid_t> number_in(std::string_view stat, StatWord wanted) {
                : std::nullopt;
 }
 
+/// A process that has ended and is kept for its parent to know.
+bool has_ended(std::string_view stat) {
+    const std::size_t name_end = stat.rfind(')');
+    return name_end != std::string_view::npos && stat.substr(name_end).starts_with(") Z");
+}
+
 std::string name_of_process(pid_t process) {
     std::string name = read_file(fmt::format("/proc/{}/comm", process), largest_stat).text;
     return name.substr(0, name.rfind('\n'));
@@ -127,6 +135,25 @@ std::string program_name(pid_t group) {
     }
     std::string name = name_of_process(group);
     return name.empty() ? name_of_member(group) : name;
+}
+
+std::vector<std::string> programs_in_session(pid_t shell) {
+    std::set<pid_t> groups;
+    for_each_process([&](pid_t /*process*/, const std::string& stat) {
+        const pid_t group = number_in(stat, StatWord::group).value_or(shell);
+        if (shell > 0 && number_in(stat, StatWord::session) == shell && group != shell && !has_ended(stat)) {
+            groups.insert(group);
+        }
+    });
+    std::vector<std::string> names;
+    std::ranges::transform(groups, std::back_inserter(names), program_name);
+    return names;
+}
+
+std::string directory_of(pid_t process) {
+    std::error_code unknown;
+    return process > 0 ? std::filesystem::read_symlink(fmt::format("/proc/{}/cwd", process), unknown).string()
+                       : std::string();
 }
 
 bool works_in_background(pid_t front_group, std::string_view program) {

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include <sys/types.h>
 
@@ -24,3 +25,10 @@ enum class ProgramKind : std::uint8_t {
 /// Whether a program works in the background of the terminal that a process group stands in front of: a look
 /// at every process.
 [[nodiscard]] bool works_in_background(pid_t front_group, std::string_view program);
+
+/// The names of the programs that a shell, the leader of a session, has started there: one for each of its
+/// jobs, in the order of their process groups.
+[[nodiscard]] std::vector<std::string> programs_in_session(pid_t shell);
+
+/// The current directory of a process, as the kernel knows it; empty where it may not be looked at.
+[[nodiscard]] std::string directory_of(pid_t process);

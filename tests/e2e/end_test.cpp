@@ -95,6 +95,20 @@ TEST_F(End, QuitAsksSavesAndCleansUp) {
     }
 }
 
+TEST_F(End, TheQuestionNamesWhatStillRuns) {
+    start_with_shell("/bin/bash");
+    ask_to_quit();
+    EXPECT_EQ(program_->application().tree().find("Still running"), std::string::npos);
+    display().press_key("Return");
+    expect_no_question();
+    type("sleep 300 & sh -c 'echo be''gun; read line'\n");
+    expect_in_terminal("begun");
+    ask_to_quit();
+    expect_question("Still running in the terminal: sleep, sh");
+    display().press_key("Return");
+    expect_no_question();
+}
+
 TEST_F(End, SignalsSaveTheHistory) {
     start_with_history();
     program_->process().signal(SIGHUP);
