@@ -51,6 +51,11 @@ Message Set_normal_width();
 Message Set_small_font();
 Message Set_large_font();
 
+// Main window: "Cwd:".
+Message Cwd_text_line();
+/// Shows the shell's directory again and gives the terminal the keyboard.
+void leave_cwd();
+
 // Main window: "Command:".
 Message Command_text_line();
 Message BaseWindowScrollUp();

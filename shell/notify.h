@@ -19,6 +19,12 @@ void leave_waiting_lines();
 /// The watch over them, while there are any.
 void look_after_waiting_lines();
 
+// Main window: the watch over a prompt hook that was typed.
+void look_for_report();
+
+// Main window: the watch over the status file, which the shell has rewritten.
+void follow_status_file();
+
 // "Status Display".
 void StatusDisplayEnable();
 Message StatusDisplayOnOff();

@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "shell/status.h"
 
+#include "shell/foreground.h"
 #include "shell/messages.h"
 #include "shell/notify.h"
 #include "shell/process.h"
 #include "shell/status_file.h"
 #include "shell/text.h"
+#include "toolkit/resources.h"
 #include "toolkit/timer.h"
 #include "ui/default_settings.h"
 #include "ui/main_window.h"
@@ -29,10 +31,33 @@ std::optional<StatusFile> own_file;
 
 bool screen_is_locked = false;
 
+/// The directory that the shell has reported last.
+std::string reported_directory;
+
+bool follows_shell() { return defaults_get_boolean("orvik.followShell", "Orvik.FollowShell"); }
+
+/// What the shell reports, else, where its user wants that, what the kernel knows of it. What the user is
+/// just writing stays.
+void show_directory() {
+    TextField& cwd = main_window().cwd;
+    if (cwd.is_being_edited()) {
+        return;
+    }
+    if (reported_directory.empty() && follows_shell()) {
+        cwd.set_name(directory_of(main_window().termpane.child()));
+    } else {
+        cwd.set_text(reported_directory);
+    }
+}
+
+bool is_displayed() { return status_display().display.value() == StatusDisplay::display_on; }
+
 }  // namespace
 
 void begin_status_display() {
     own_file.emplace(create_status_file(home_dir));
+    status_display().status_file.on_change(
+        [] { main_window().status_watch.watch(status_display().status_file.text()); });
     status_display().status_file.set_text(own_file->path);
     if (own_file->error == EEXIST) {
         report("No status display: all status files are in use\n");
@@ -43,7 +68,7 @@ void begin_status_display() {
 }
 
 void SetupTimer(int milliseconds) {
-    if (status_display().display.value() != StatusDisplay::display_on) {
+    if (!is_displayed()) {
         return;
     }
     wtimer.it_value = {.tv_sec = 0, .tv_usec = suseconds_t{milliseconds} * 1000};
@@ -56,7 +81,11 @@ void DisplayStatusTimer() {
         return;
     }
     const ShellStatus status = parse_status(*contents);
-    main_window().cwd.set_text(status.cwd);
+    reported_directory = status.cwd;
+    show_directory();
+    if (!status.cwd.empty()) {
+        explain_missing_directory("");
+    }
     default_settings().prompt.set_text(remove_trailing_spaces(status.prompt));
     if (!screen_is_locked || !main_window().termpane.use().locks_on_control_s) {
         main_window().set_right_footer(
@@ -67,6 +96,24 @@ void DisplayStatusTimer() {
 void show_screen_lock(bool locked) {
     screen_is_locked = locked;
     main_window().set_right_footer(locked ? "Screen is locked. Use ^Q to unlock." : "");
+}
+
+void explain_missing_directory(std::string_view hint) {
+    main_window().cwd.set_hint(hint);
+    main_window().explain_right_footer(hint);
+}
+
+void follow_shell() {
+    if (reported_directory.empty() && is_displayed() && follows_shell()) {
+        show_directory();
+    }
+}
+
+/// The timer alone would miss a command that takes longer than it.
+void follow_status_file() {
+    if (is_displayed()) {
+        DisplayStatusTimer();
+    }
 }
 
 void end_status_display() {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <string_view>
+
 inline constexpr int refresh_after_command = 500;  ///< milliseconds
 inline constexpr int refresh_after_login = 999;
 
@@ -20,3 +22,10 @@ void show_screen_lock(bool locked);
 
 /// Ends the status machinery: the timer and the status file.
 void end_status_display();
+
+/// Says in "Cwd:" what there is to know while the shell reports no directory; empty for nothing.
+void explain_missing_directory(std::string_view hint);
+
+/// The terminal has been written to: with "Orvik.FollowShell" the directory of a shell that does not report
+/// it is shown.
+void follow_shell();

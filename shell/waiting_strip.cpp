@@ -60,7 +60,11 @@ void tell_dropped(std::size_t dropped) {
 
 void watch_for_shell(std::function<void()> restarted) {
     begin_waiting_lines(show_waiting_lines);
-    main_window().termpane.set_events({.output = [] { waiting_lines().look(); },
+    main_window().termpane.set_events({.output =
+                                           [] {
+                                               waiting_lines().look();
+                                               follow_shell();
+                                           },
                                        .ready =
                                            [] {
                                                waiting_lines().look();

@@ -3,6 +3,9 @@
 
 #include "toolkit/text_conversion.h"
 
+#include <string>
+#include <vector>
+
 Footer::Footer(const QString& accessible_description, Qt::Alignment alignment, QWidget* parent)
     : QLabel(parent) {
     setTextFormat(Qt::PlainText);
@@ -21,6 +24,11 @@ void Footer::set_full_text(const QString& text) {
     show_fitting_part();
 }
 
+void Footer::explain(const QString& explanation) {
+    explanation_ = explanation;
+    show_fitting_part();
+}
+
 QSize Footer::sizeHint() const {
     return {fontMetrics().horizontalAdvance(full_text_) + 2, fontMetrics().height()};
 }
@@ -36,5 +44,11 @@ void Footer::show_fitting_part() {
     const QString shown = visible_text(from_qstring(full_text_));
     const QString fitting = fontMetrics().elidedText(shown, Qt::ElideRight, width());
     setText(fitting);
-    setToolTip(fitting == shown ? QString() : plain_tool_tip(from_qstring(full_text_)));
+    std::vector<std::string> lines;
+    for (const QString& line : {fitting == shown ? QString() : full_text_, explanation_}) {
+        if (!line.isEmpty()) {
+            lines.push_back(from_qstring(line));
+        }
+    }
+    setToolTip(plain_tool_tip(lines));
 }

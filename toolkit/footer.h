@@ -9,6 +9,8 @@ class Footer : public QLabel {
   public:
     Footer(const QString& accessible_description, Qt::Alignment alignment, QWidget* parent);
     void set_full_text(const QString& text);
+    /// More to say on the text, in the tool tip.
+    void explain(const QString& explanation);
     [[nodiscard]] const QString& full_text() const { return full_text_; }
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
@@ -19,4 +21,5 @@ class Footer : public QLabel {
   private:
     void show_fitting_part();
     QString full_text_;
+    QString explanation_;
 };

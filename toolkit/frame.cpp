@@ -223,6 +223,8 @@ void Frame::set_right_footer(std::string_view text) {
     widget_->right_footer->set_full_text(to_qstring(text));
 }
 
+void Frame::explain_right_footer(std::string_view text) { widget_->right_footer->explain(to_qstring(text)); }
+
 std::string Frame::left_footer() const { return from_qstring(widget_->left_footer->full_text()); }
 
 std::string Frame::right_footer() const { return from_qstring(widget_->right_footer->full_text()); }

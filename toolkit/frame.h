@@ -30,6 +30,8 @@ class Frame : public Container {
 
     void set_left_footer(std::string_view text);
     void set_right_footer(std::string_view text);
+    /// What its tool tip says on it.
+    void explain_right_footer(std::string_view text);
     [[nodiscard]] std::string left_footer() const;
     [[nodiscard]] std::string right_footer() const;
 

@@ -7,6 +7,7 @@
 #include "shell/notify.h"
 #include "toolkit/buttons.h"
 #include "toolkit/fields.h"
+#include "toolkit/file_watch.h"
 #include "toolkit/frame.h"
 #include "toolkit/menu_button.h"
 #include "toolkit/message_item.h"
@@ -26,6 +27,7 @@ struct MainWindow : Frame {
 
     MainWindow() : Frame("Orvik Command Tool") {
         cwd.set_display_length(12);
+        cwd.set_keys({.escape = leave_cwd});
         command.set_display_length(12);
         command.set_keys({BaseWindowPreviousCommand, BaseWindowNextCommand, BaseWindowLeaveCommand});
         command.take_pasted_commands();
@@ -62,7 +64,7 @@ struct MainWindow : Frame {
     Stretch before_quit{menus};
     Button quit{menus, "Quit", Quit_button};
 
-    TextField cwd{control_panel, "Cwd:"};
+    TextField cwd{control_panel, "Cwd:", Cwd_text_line};
 
     Row actions{control_panel, Place::field};
     ImageButton directory_up{actions, "directory up", Directory_up_button,
@@ -125,6 +127,8 @@ struct MainWindow : Frame {
     ScrollingList waiting_list{waiting_rows, "waiting lines list"};
     Button drop_one_waiting{waiting_rows, "Drop Line", DropWaitingLine};
     Ticker waiting_watch{*this, 50, look_after_waiting_lines};
+    FileWatch status_watch{*this, follow_status_file};
+    Ticker hook_watch{*this, 1000, look_for_report};
 
     TerminalPane termpane{*this, "terminal"};
 };

@@ -8,7 +8,7 @@
 
 /// "Process Information": the process this tool runs as.
 struct ProcessInformation : CommandFrame {
-    ProcessInformation() : CommandFrame("Process Information") {}
+    ProcessInformation() : CommandFrame("Process Information") { process_id.set_read_only(); }
 
     NumberField process_id{panel, "Process ID:"};
 };

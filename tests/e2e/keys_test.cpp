@@ -179,7 +179,7 @@ TEST_F(Keys, ControlKeysOfTheTool) {
     press_control("s");
     expect_awaited([this] { return right_footer(); }, locked);
     press_control("q");
-    expect_awaited([this] { return right_footer(); }, std::string());
+    expect_awaited([&] { return right_footer() == locked; }, false);
     press("F7");
     expect_in_terminal("\nseven");
     press("F8");

@@ -149,13 +149,6 @@ bool OrvikTest::focus(const Accessible& window, std::string_view label) {
     return wait_until([&] { return field.focused(); });
 }
 
-void OrvikTest::expect_cwd(const std::string& expected) {
-    if (!wait_until([&] { return cwd() == expected; }, std::chrono::seconds{3})) {
-        type("\n");
-    }
-    expect_awaited([this] { return cwd(); }, expected);
-}
-
 std::string OrvikTest::status_path(int number) const {
     return home_ / (".orvik-status" + std::to_string(number));
 }

@@ -73,8 +73,9 @@ class OrvikTest : public testing::Test {
     void expect_left_footer(const std::string& expected) const {
         expect_awaited([this] { return left_footer(); }, expected);
     }
-    /// A command that took longer than the refresh waits shows with the next Return, which is given then.
-    void expect_cwd(const std::string& expected);
+    void expect_cwd(const std::string& expected) const {
+        expect_awaited([this] { return cwd(); }, expected);
+    }
     /// The text of one of a window's footers.
     [[nodiscard]] static std::string footer(const Accessible& window, std::string_view description);
     /// Clicks on a field or a text pane of an open window and waits until it has the keyboard.

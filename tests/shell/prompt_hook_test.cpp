@@ -44,4 +44,42 @@ TEST(PromptHook, IsChosenByTheShellsName) {
     }
 }
 
+TEST(PromptHook, IsAddedToTheUsersOwn) {
+    const struct {
+        const char* shell;
+        ClearCaseUsage usage;
+        std::vector<std::string> expected;
+        bool runs;
+    } cases[] = {
+        {"/bin/tcsh",
+         ClearCaseUsage::on,
+         {R"(alias orvik_report 'printf "P:%s\nC:%s\nH:%s\nU:%s\nV:%s\n" "$prompt" "$cwd" "$HOST" "$USER" "$CLEARCASE_ROOT" >! '\''/a b'\'''; alias precmd | grep -q orvik_report || alias precmd "`alias precmd`; orvik_report")"},
+         true},
+        {"/bin/bash",
+         ClearCaseUsage::off,
+         {R"(orvik_report() { printf "P:%s\nC:%s\nH:%s\nU:%s\nV:Not_used\n" "$PS1" "$PWD" "$HOSTNAME" "$USER" >| '/a b'; }; [[ ${PROMPT_COMMAND-} == *orvik_report* ]] || PROMPT_COMMAND+=$'\norvik_report')"},
+         true},
+        {"/bin/zsh",
+         ClearCaseUsage::off,
+         {R"(orvik_report() { printf "P:%s\nC:%s\nH:%s\nU:%s\nV:Not_used\n" "$PS1" "$PWD" "$HOST" "$USER" >| '/a b'; }; precmd_functions=(${precmd_functions:#orvik_report} orvik_report))"},
+         true},
+        {"/bin/ksh93",
+         ClearCaseUsage::off,
+         {R"(PROMPT_COMMAND='printf "P:%s\nC:%s\nH:%s\nU:%s\nV:Not_used\n" "$PS1" "$PWD" "$HOSTNAME" "$USER" > '\''/a b'\''')"},
+         false},
+        {"/bin/fish", ClearCaseUsage::off, {}, false},
+    };
+    for (const auto& [shell, usage, expected, runs] : cases) {
+        std::vector<std::string> texts;
+        for (const PromptHook& hook :
+             prompt_hooks(shell, {shell_family(shell), true}, usage, "/a b", HookStyle::add)) {
+            texts.push_back(hook.text);
+        }
+        EXPECT_EQ(texts, expected);
+        EXPECT_EQ(runs_prompt_hook(shell, HookStyle::add), runs) << shell;
+    }
+    EXPECT_TRUE(runs_prompt_hook("/bin/bash", HookStyle::replace));
+    EXPECT_FALSE(runs_prompt_hook("/bin/zsh", HookStyle::replace));
+}
+
 }  // namespace
