@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "app/options.h"
 #include "app/quit.h"
 #include "app/startup.h"
 #include "toolkit/application.h"
@@ -6,8 +7,17 @@
 #include "ui/main_window.h"
 #include "ui/windows.h"
 
+#include <cstdio>
+#include <string>
+#include <utility>
+#include <vector>
+
 int main(int argc, char** argv) {
-    start_up(std::vector<std::string>(argv, argv + argc));
+    std::vector<std::string> arguments(argv, argv + argc);
+    if (const std::string answer = answer_to(arguments); !answer.empty()) {
+        return std::fputs(answer.c_str(), stdout) < 0 || std::fflush(stdout) != 0 ? 1 : 0;
+    }
+    start_up(std::move(arguments));
     on_lost_display(clean_up_without_display);
     xv_main_loop(main_window());
     clean_up();

@@ -15,6 +15,9 @@ struct CommandLineOptions {
     std::string hostname;
 };
 
+/// What "--help" and "--version" ask for; empty where neither is given.
+[[nodiscard]] std::string answer_to(std::span<const std::string> arguments);
+
 /// Reads the arguments behind the program's name (the first one). Unknown ones are skipped; an option at the
 /// end without its value has its flag set and an empty value. Returns 0, or 1 when a value begins with "-":
 /// what was read so far is then in `options`, and the caller should use none of it.

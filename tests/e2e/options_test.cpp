@@ -57,6 +57,17 @@ TEST_F(Options, OpenedStartsAsWindowAndGeometryPlacesItsFrame) {
     EXPECT_EQ(display().place(window).height, 600);
 }
 
+TEST_F(Options, HelpAndVersionAnswerWithoutADisplay) {
+    setup_.without = {"DISPLAY", "HOME", "LOGNAME", "SHELL", "ORVIK_HOME"};
+    for (const auto& [option, begin] :
+         {std::pair("--version", "orvik 9.90\n"), {"--help", "Usage: orvik [OPTION]..."}}) {
+        setup_.options = {"-work", option};
+        const Program asked(setup_);
+        EXPECT_EQ(asked.process().wait_for_end(patience), 0);
+        EXPECT_TRUE(asked.output().starts_with(begin)) << asked.output();
+    }
+}
+
 /// A size smaller than the controls need is made larger; the corner stays where it is said to be.
 TEST_F(Options, GeometryCountsFromTheLowerRightWithTheFrame) {
     setup_.options = {"-geometry", "300x200-10-20"};

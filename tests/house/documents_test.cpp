@@ -45,6 +45,7 @@ const std::string& program() {
 Names options_in_code() {
     Names names = found_in(read_file(top / "app/options.cpp"), R"re(Option\{"(-\w+)")re");
     names.merge(found_in(read_file(top / "toolkit/application.cpp"), R"re(name != "(-\w+)")re"));
+    names.merge(found_in(read_file(top / "app/options.cpp"), R"re(argument == "(--\w+)")re"));
     return names;
 }
 
