@@ -157,6 +157,12 @@ void load_bookmarks_at_startup() {
     report_load(bookmarks_load, SetupBookmarksMenu(bookmark_path()));
 }
 
+Message tell_of_missing_bookmarks() {
+    return main_window().bookmark_menu.menu().has_entries()
+               ? ""
+               : "No bookmarks yet: the button \"add bookmark\" makes one";
+}
+
 Message BookmarksUpdate() {
     const std::string path = bookmark_path();
     return has_bookmark_file(path) ? rebuild_menus(path, "Bookmark menu updated") : no_bookmark_file;

@@ -144,7 +144,11 @@ Message my_action_proc2(const std::string& path) {
     if (path.empty() || std::filesystem::is_directory(path, unknown)) {
         return {};
     }
-    return load_message(commands_menu_load, load_command_list(path));
+    const int result = load_command_list(path);
+    if (result == 1) {
+        command_list_manager().open();  // the rows are what the user has chosen it for
+    }
+    return load_message(commands_menu_load, result);
 }
 
 void BaseWindowCommandList() { command_list_manager().open(); }

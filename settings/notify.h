@@ -48,6 +48,8 @@ void CommandListFollowWindow();
 void CommandListSetupWindowWidth();
 
 // "Bookmarks".
+/// Before the main window's menu of bookmarks opens, which an empty one does not.
+Message tell_of_missing_bookmarks();
 void BookmarkSetupFileName();
 Message BookmarksUpdate();
 Message BookmarkFIleEdit();

@@ -8,6 +8,7 @@
 
 #include <QMenu>
 
+#include <algorithm>
 #include <utility>
 
 Menu::Menu(std::string_view title, std::span<const MenuItem> items) : menu_(std::make_unique<QMenu>()) {
@@ -77,6 +78,11 @@ void Menu::set_entries(const std::vector<MenuEntry>& entries, MenuNotify chosen)
         }
     }
     menu_->addActions(items);
+}
+
+bool Menu::has_entries() const {
+    return !entries_.empty() ||
+           std::ranges::any_of(pull_rights_, [](const auto& menu) { return menu->has_entries(); });
 }
 
 Menu& Menu::add_pull_right(std::string_view label, Menu menu, Notify about_to_show) {

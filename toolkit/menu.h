@@ -45,7 +45,8 @@ class Menu {
 
     /// Replaces the entries. A long label is shown shortened; a value that says more is its tool tip.
     void set_entries(const std::vector<MenuEntry>& entries, MenuNotify chosen);
-    [[nodiscard]] bool has_entries() const { return !entries_.empty(); }
+    /// Whether there are any, here or in a menu behind an item.
+    [[nodiscard]] bool has_entries() const;
     /// Appends an item that opens another menu, behind everything that is there. `about_to_show` is called
     /// whenever that menu is about to be shown, and may set its entries.
     Menu& add_pull_right(std::string_view label, Menu menu, Notify about_to_show = nullptr);

@@ -60,7 +60,7 @@ struct MainWindow : Frame {
     PullRight edit_startup{edit_menu, "Startup", Edit_menu_startup};
     MenuButton user_menu{menus, "User", Menu("User Definitions", user_menu_items)};
     MenuButton command_menu{menus, "Command", Menu("Commands"), BaseWindowCommandMenu};
-    MenuButton bookmark_menu{menus, "BM", Menu({})};
+    MenuButton bookmark_menu{menus, "BM", Menu({}), tell_of_missing_bookmarks};
     Stretch before_quit{menus};
     Button quit{menus, "Quit", Quit_button};
 

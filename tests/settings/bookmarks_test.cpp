@@ -7,6 +7,8 @@
 #include "ui/bookmarks.h"
 #include "ui/file_list_browser.h"
 
+#include <QPushButton>
+
 #include <csignal>
 #include <tuple>
 
@@ -42,8 +44,15 @@ TEST_F(BookmarksTest, AreReadAtStartAndOnUpdateAndSayWhatIsWrong) {
               "Not a valid bookmarks file\nFirst line of text must be _BOOKMARK\n");
     EXPECT_EQ(BookmarksUpdate(), "Not a valid bookmarks file");
     EXPECT_EQ(on_main_button(), Rows{});
+    const auto press = [] { QTest::keyClick(&control<QPushButton>(main_window(), "BM"), Qt::Key_Space); };
+    const std::string none = "No bookmarks yet: the button \"add bookmark\" makes one";
+    EXPECT_EQ(footer_after(press), none);
+    home.write("bookmarks", new_bookmark_file());
+    EXPECT_EQ(BookmarksUpdate(), "Bookmark menu updated");
+    EXPECT_EQ(footer_after(press), none);
     home.write("bookmarks", valid);
     EXPECT_EQ(board_after(load_bookmarks_at_startup), "");
+    EXPECT_EQ(footer_after(press), "");
     const Rows categories{"Directories", "Sources", "Executables", "Scripts", "HTML", "PDF", "Other"};
     EXPECT_EQ(on_main_button(), categories);
     EXPECT_EQ(on_list_button(), Rows{});

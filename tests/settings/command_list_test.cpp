@@ -42,7 +42,9 @@ TEST_F(CommandListTest, FilesAreChosenFromTheCommandMenu) {
     EXPECT_EQ(open_menu(), "");
     const Menu& menu = main_window().command_menu.menu();
     EXPECT_EQ(lines(menu), (Rows{"bad", "good", "sub/"}));
+    EXPECT_FALSE(manager().shown());
     choose(menu, "good");
+    EXPECT_TRUE(manager().shown());
     const std::string good = home / "commands/good";
     EXPECT_EQ(manager().list.all_rows(), (Rows{"ls", "make /* all */"}));
     EXPECT_EQ(loaded(), good);
