@@ -45,7 +45,10 @@ Message edit_selected_file() {
         return name.refusal;
     }
     const std::optional<CommandLine> line = editor_line(name.text);
-    return line ? send(CommandLine(*line).in_background()) : no_editor;
+    if (!line) {
+        return no_editor;
+    }
+    return send(editor_needs_terminal() ? *line : CommandLine(*line).in_background());
 }
 
 Message go_directory_up() { return send_directory_change(CommandLine("cd ..")); }

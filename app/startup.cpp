@@ -112,7 +112,7 @@ void set_initial_values() {
     file_tree_browser().font_size.set_value(small);
     status_display().enable.set_value(status_host | status_pid | status_user);
     text_editor_setup().user_editor.set_text(
-        windowed_editor(environment_text("VISUAL"), environment_text("EDITOR")));
+        usual_editor(environment_text("VISUAL"), environment_text("EDITOR"), user_shell.family));
     default_settings().prompt_ending_delimiter.set_text(usual_prompt_delimiter(shell_name, geteuid() == 0));
 }
 

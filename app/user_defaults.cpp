@@ -39,13 +39,18 @@ bool opens_a_window(std::string_view command) {
 
 }  // namespace
 
-std::string windowed_editor(std::string_view visual, std::string_view editor) {
+std::string usual_editor(std::string_view visual, std::string_view editor, ShellFamily shell) {
     for (const std::string_view command : {visual, editor}) {
         if (opens_a_window(command)) {
             return std::string(command);
         }
     }
-    return "xdg-open";
+    if (visual.empty() && editor.empty()) {
+        return "xdg-open";
+    }
+    const bool is_split =
+        shell != ShellFamily::zsh || (editor.empty() ? visual : editor).find(' ') == std::string_view::npos;
+    return std::string(is_split ? "$" : "$=") + (editor.empty() ? "VISUAL" : "EDITOR");
 }
 
 std::string usual_prompt_delimiter(std::string_view shell, bool superuser) {

@@ -4,7 +4,6 @@
 #include "settings/history_format.h"
 #include "settings/load_file.h"
 #include "settings/notify.h"
-#include "shell/background.h"
 #include "shell/doubleclick.h"
 #include "shell/editor.h"
 #include "shell/send.h"
@@ -102,15 +101,11 @@ Message CommandHistorySaveButton() { return save_history_to(command_history_mana
 
 Message EditCommandHistory() {
     const std::string path = history_path();
-    const std::optional<CommandLine> line = editor_line(path);
-    if (!line) {
+    if (!has_editor()) {
         return no_editor;
     }
     Message failure = save_history_to(command_history_manager(), path);
-    if (failure.empty()) {
-        run_in_background(*line);
-    }
-    return failure;
+    return failure.empty() ? edit_file(path) : failure;
 }
 
 Message UpdateCommandHistory() {

@@ -2,6 +2,7 @@
 #include "shell/editor.h"
 
 #include "shell/background.h"
+#include "shell/send.h"
 #include "ui/text_editor_setup.h"
 
 #include <array>
@@ -56,6 +57,12 @@ void gedit_command(CommandLine& line) {
     geometry_options(line, text_editor_setup().width_chars.value(), text_editor_setup().height_chars.value());
 }
 
+bool editor_needs_terminal() {
+    const TextEditorSetup& setup = text_editor_setup();
+    return setup.text_editor.value() == TextEditorSetup::user_defined &&
+           setup.user_editor.text().starts_with('$');
+}
+
 bool has_editor() {
     const TextEditorSetup& setup = text_editor_setup();
     return setup.text_editor.value() != TextEditorSetup::user_defined || !setup.user_editor.text().empty();
@@ -85,12 +92,17 @@ Message edit_file(const std::string& path, EditorAsker asker) {
     if (!line) {
         return no_editor;
     }
+    if (editor_needs_terminal()) {
+        return send(*line, Remember::last_command);
+    }
     run_in_background(*line);
     return {};
 }
 
 void edit_file_silently(const std::string& path) {
-    if (const std::optional<CommandLine> line = editor_line(path)) {
+    if (editor_needs_terminal()) {
+        (void)edit_file(path);
+    } else if (const std::optional<CommandLine> line = editor_line(path)) {
         start_in_background(*line);
     }
 }

@@ -26,11 +26,16 @@ inline const Message no_editor = "User editor not specified";
 /// Who opens a file. The file tree puts another blank behind the first editor.
 enum class EditorAsker : bool { usual, file_tree };
 
-/// The command that opens a file in the editor, ready for the " &" behind it; nothing while there is none.
+/// The command that opens a file in the editor, ready for the " &" behind it where it needs no terminal;
+/// nothing while there is none.
 [[nodiscard]] std::optional<CommandLine> editor_line(std::string_view path,
                                                      EditorAsker asker = EditorAsker::usual);
 
-/// Opens a file in the editor and shows the command on the Message Board.
+/// Whether the editor is one for the terminal: "User Editor:" begins with a variable, and the command is the
+/// shell's to run.
+[[nodiscard]] bool editor_needs_terminal();
+
+/// Opens a file in the editor: shows the command on the Message Board, or types it into the shell.
 [[nodiscard]] Message edit_file(const std::string& path, EditorAsker asker = EditorAsker::usual);
 /// The same, but nobody is told anything.
 void edit_file_silently(const std::string& path);

@@ -12,7 +12,11 @@
 struct TextEditorSetup : CommandFrame {
     static constexpr int user_defined = 6;  ///< the item "user def": "User Editor:" holds
 
-    TextEditorSetup() : CommandFrame("Text Editor Setup", 2) { text_editor.set_value(user_defined); }
+    TextEditorSetup() : CommandFrame("Text Editor Setup", 2) {
+        text_editor.set_value(user_defined);
+        user_editor.set_tool_tip(
+            "a command; one that begins with a variable, as $EDITOR, is typed into the shell");
+    }
 
     Choice text_editor{
         panel, "Text Editor", {"TextEdit.app", "Smultron.app", "vi", "nedit", "gedit", "xemacs", "user def"}};

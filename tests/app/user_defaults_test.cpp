@@ -14,17 +14,20 @@ namespace {
 TEST(UserDefaults, PreferAnEditorWithAWindowOfItsOwn) {
     const std::tuple<const char*, const char*, const char*> cases[] = {
         {"", "", "xdg-open"},
-        {"vi", "nano -w", "xdg-open"},
+        {"vi", "nano -w", "$EDITOR"},
+        {"vi", "", "$VISUAL"},
         {"gvim -f", "kate", "gvim -f"},
         {"vi", "/usr/bin/gedit", "/usr/bin/gedit"},
-        {"/opt/gedit/vi", "gedit2", "xdg-open"},
+        {"/opt/gedit/vi", "gedit2", "$EDITOR"},
         {"emacs -nw", "emacs -f x", "emacs -f x"},
-        {"emacs -t", "xemacs --no-window-system", "xdg-open"},
+        {"emacs -t", "xemacs --no-window-system", "$EDITOR"},
         {"emacs --tty=/dev/tty", "emacs -title x", "emacs -title x"},
     };
     for (const auto& [visual, editor, expected] : cases) {
-        EXPECT_EQ(windowed_editor(visual, editor), expected) << visual << ", " << editor;
+        EXPECT_EQ(usual_editor(visual, editor, ShellFamily::bash), expected) << visual << ", " << editor;
     }
+    EXPECT_EQ(usual_editor("", "vi", ShellFamily::zsh), "$EDITOR");
+    EXPECT_EQ(usual_editor("", "nano -w", ShellFamily::zsh), "$=EDITOR") << "zsh splits no variable";
 }
 
 TEST(UserDefaults, KnowWhatThePromptOfAShellEndsIn) {
