@@ -26,7 +26,7 @@ printf '    const char* name = argc > 1 ? argv[1] : "world";\n    std::cout << "
 git add . && git commit -qm 'Greet the world'
 git checkout -qb names && printf 'Names may be given.\n' >>README.md && git commit -qam 'Say that names may be given'
 git checkout -q main && printf 'clean:\n\trm -f greet\n' >>Makefile && git commit -qam 'Clean up'
-git merge -q --no-edit names
+git merge -q --no-edit names && sed 's/Hello/Good day/' greet.cpp >welcome.cpp
 )";
 
 /// What a user might have saved, by the setup file's lines.
@@ -175,25 +175,64 @@ class Tour {
         take_desktop("file-list-menu");
         press_keys(std::array{"Escape", "Escape", "Escape"});
     }
+    /// The node with a label, with the keyboard at it.
+    Accessible go_to_node(const std::string& label) {
+        const Accessible canvas =
+            program_.window("File Tree Browser").find({"tree", "File Tree Browser tree"});
+        Accessible node;
+        if (!wait_until([&] { return static_cast<bool>(node = canvas.find({"table cell", label})); })) {
+            give_up("the tree does not show " + label);
+        }
+        if (!node.take_focus() || !wait_until([&] { return node.focused(); })) {
+            give_up("the keyboard does not come to " + label);
+        }
+        return node;
+    }
+    /// Clicks on an item of a menu of the tree that is open.
+    void choose_in_tree(const char* item) {
+        const Accessible browser = program_.window("File Tree Browser");
+        Accessible entry;
+        if (!wait_until([&] { return (entry = browser.find({"menu item", item})).showing(); })) {
+            give_up(std::string("the tree has no item \"") + item + "\"");
+        }
+        display_.click(entry.place());
+    }
+    /// Selects two files, opens the menu of what can be done with them, packs and compares them.
+    void show_operations(const std::string& first, const std::string& second) {
+        (void)go_to_node(first);
+        display_.press_key("space");
+        const Rectangle node = go_to_node(second).place();
+        display_.press_key("space", "Control_L");
+        display_.click(node, 3);
+        take_desktop("tree-menu");
+        choose_in_tree("Pack/Unpack File(s)");
+        if (!program_.window("Pack / Unpack Using Tar")) {
+            give_up("the window for packing does not open");
+        }
+        take_window("Pack / Unpack Using Tar", "pack");
+        press_escape();
+        display_.click(program_.window("File Tree Browser").find({"push button", "More"}).place());
+        choose_in_tree("Compare (diff)");
+        wait_for_text("! ");
+        take_main_window("compare");
+    }
+    void clear_tree() {
+        if (!program_.window("File Tree Browser").find({"push button", "Clear All"}).press()) {
+            give_up("the tree has no button \"Clear All\"");
+        }
+    }
     /// Draws a directory as a tree, opens directories in it one after the other, and selects what is named
     /// last.
     void show_tree(const std::string& root, const std::vector<std::string>& labels,
                    const std::string& picture) {
         const std::string title = "File Tree Browser";
         const Accessible browser = program_.open(display_, "Browse", "File Tree", title);
-        const Accessible canvas = browser.find({"tree", title + " tree"});
         if (!browser.find({"text", "Root Directory:"}).set_text(root) ||
             !browser.find({"push button", "Set Root (root directory)"}).press()) {
             give_up("\"Root Directory:\" does not take a root");
         }
         for (const std::string& label : labels) {
-            Accessible node;
-            if (!wait_until([&] { return static_cast<bool>(node = canvas.find({"table cell", label})); })) {
-                give_up("the tree does not show " + label);
-            }
-            if (!node.take_focus() || !wait_until([&] { return node.focused(); })) {
-                give_up("the keyboard does not come to " + label);
-            }
+            (void)go_to_node(label);
             display_.press_key(label == labels.back() ? "space" : "Return");
         }
         std::this_thread::sleep_for(std::chrono::milliseconds{600});  // then the view is centred
@@ -291,6 +330,9 @@ void play(Tour& tour, const fs::path& home) {
         tour.show_popup(stop);
     }
     tour.show_file_list(home / "src", "build.sh");
+    tour.show_tree(home / "src", {"include"}, "small-tree");
+    tour.show_operations("greet.cpp", "welcome.cpp");
+    tour.clear_tree();
     tour.show_tree(home / "orvik", {"browsers", "tree", "file_tree.cpp"}, "file-tree");
     tour.plot_tree("A2", "50%", "plot");
     tour.press_escape();
