@@ -68,6 +68,9 @@ bool TerminalView::interpose(KeyEvent& event) {
 
 bool TerminalView::handle_own_key(const QKeyEvent& event) {
     const Qt::KeyboardModifiers modifiers = modifiers_of(event);
+    if (handle_zoom_key(event)) {
+        return true;
+    }
     if (modifiers == control_shift) {
         switch (event.key()) {
             case Qt::Key_C:
@@ -86,9 +89,6 @@ bool TerminalView::handle_own_key(const QKeyEvent& event) {
             default:
                 return false;
         }
-    }
-    if (handle_zoom_key(event)) {
-        return true;
     }
     const bool menu_key =
         event.key() == Qt::Key_Menu || (event.key() == Qt::Key_F10 && modifiers == Qt::ShiftModifier);

@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <csignal>
+#include <utility>
 
 namespace {
 
@@ -53,9 +54,13 @@ TEST_F(TerminalPaneTest, KeysReachTheProgramAndNotTheWindowsShortcuts) {
 TEST_F(TerminalPaneTest, FontIsZoomedByKeysAndItsUsualSizeComesBack) {
     const auto height = [this] { return view().cell_area({0, 0}).height(); };
     const int usual = height();
-    press(Qt::Key_Plus, Qt::ControlModifier | Qt::ShiftModifier);
-    press(Qt::Key_Equal, Qt::ControlModifier);
-    press(Qt::Key_Plus, Qt::ControlModifier | Qt::KeypadModifier);
+    for (const auto& [key, modifiers] : {std::pair(Qt::Key_Plus, Qt::ControlModifier | Qt::ShiftModifier),
+                                         std::pair(Qt::Key_Equal, Qt::KeyboardModifiers(Qt::ControlModifier)),
+                                         std::pair(Qt::Key_Plus, Qt::ControlModifier | Qt::KeypadModifier)}) {
+        const double before = view().terminal_font().pointSizeF();
+        press(key, modifiers);
+        EXPECT_EQ(view().terminal_font().pointSizeF(), before + 1) << key;
+    }
     const int larger = height();
     EXPECT_GT(larger, usual);
     press(Qt::Key_Minus, Qt::ControlModifier);
