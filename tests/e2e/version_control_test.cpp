@@ -136,6 +136,7 @@ class ClearCase : public VersionControl {
         const Accessible setup = open_window("ClearCase Setup");
         EXPECT_TRUE(setup.find({"text", "ClearTool Alias:"}).set_text((home_ / "cleartool").string()));
         display().press_key("Escape");
+        (void)open_window("File Tree Browser");  // above the main window again
     }
     [[nodiscard]] std::vector<std::string> record() const {
         std::istringstream lines(read_file(home_ / "record"));
@@ -147,9 +148,9 @@ class ClearCase : public VersionControl {
     }
 };
 
-TEST_F(ClearCase, CopiesTwoThousandFilesIntoAVob) {
+TEST_F(ClearCase, CopiesATreeIntoAVob) {
     constexpr int directories = 20;
-    constexpr int files = 100;
+    constexpr int files = 20;
     const std::string source = home_ / "project/src";
     const std::string vob = home_ / "vob's";
     fs::remove_all(source);
@@ -173,9 +174,8 @@ TEST_F(ClearCase, CopiesTwoThousandFilesIntoAVob) {
     EXPECT_TRUE(window.find({"check box", "Execute"}).press());
     fill("Copy Files to Clearcase Vob", {{"Destination Directory:", vob}}, "Run");
 
-    constexpr std::chrono::minutes thousands_of_programs{5};
-    EXPECT_TRUE(
-        wait_until([&] { return record().size() >= made.size() + checked_in.size(); }, thousands_of_programs))
+    constexpr std::chrono::minutes many_programs{1};
+    EXPECT_TRUE(wait_until([&] { return record().size() >= made.size() + checked_in.size(); }, many_programs))
         << terminal_.text();
     std::vector<std::string> lines = record();
     EXPECT_TRUE(std::ranges::is_permutation(std::span(lines).first(made.size()), made));

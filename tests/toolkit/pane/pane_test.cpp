@@ -280,7 +280,7 @@ TEST_F(TerminalPaneTest, ClearLeavesTheLineThatAShellReads) {
     start("printf 'old\nprompt> '; read a; set -m; sh -c 'printf busy; read b'");
     ASSERT_TRUE(wait_for_text("prompt> "));
     pane.clear();
-    EXPECT_EQ(text(), "prompt>");
+    EXPECT_EQ(text(), "prompt> ");
     press(Qt::Key_Return);
     ASSERT_TRUE(wait([this] { return !pane.use().in_front; }));
     ASSERT_TRUE(wait_for_text("busy"));
