@@ -42,7 +42,7 @@ class OneLine : public QObject {
         const qsizetype cursor = edit_.cursorPosition();
         const qsizetype behind = text.size() - cursor;
         const qsizetype kept = std::clamp<qsizetype>(before.size() - behind, 0, cursor);
-        const auto head = std::mismatch(text.begin(), text.begin() + kept, before.begin()).first;
+        const auto* const head = std::mismatch(text.begin(), text.begin() + kept, before.begin()).first;
         const qsizetype begin = head - text.begin();
         const QString inserted = text.mid(begin, cursor - begin);
         if (!is_being_put_right_ &&
