@@ -95,13 +95,10 @@ class FrameWidget : public QWidget {
     }
     /// Another window that shows and stands at that very place.
     [[nodiscard]] bool is_taken(QPoint place) const {
-        for (const QWidget* window : QApplication::topLevelWidgets()) {
-            if (window != this && window->isVisible() &&
-                dynamic_cast<const FrameWidget*>(window) != nullptr && window->pos() == place) {
-                return true;
-            }
-        }
-        return false;
+        return std::ranges::any_of(QApplication::topLevelWidgets(), [this, place](const QWidget* window) {
+            return window != this && window->isVisible() && window->pos() == place &&
+                   dynamic_cast<const FrameWidget*>(window) != nullptr;
+        });
     }
     /// Who gets the keyboard back when the window closes.
     void set_opener(QWidget* opener) { opener_ = opener == this ? opener_.data() : opener; }

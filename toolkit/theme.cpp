@@ -242,7 +242,7 @@ void apply_theme(Shade shade) {
 QPalette desktop_palette() {
     const QPalette own = QApplication::palette();
     QApplication::setPalette(QPalette());
-    const QPalette desktops = QApplication::palette();
+    QPalette desktops = QApplication::palette();
     if (own != desktops) {
         QApplication::setPalette(own);
     }

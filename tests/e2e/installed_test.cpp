@@ -13,7 +13,8 @@ class Installed : public OrvikTest {};
 /// A desktop's menu sets nothing that a log-in sets.
 TEST_F(Installed, StartsFromItsDesktopEntry) {
     const std::string prefix = home_ / "installed here";
-    ASSERT_EQ(std::system(("cmake --install " ORVIK_BUILD " --prefix '" + prefix + "' >/dev/null").c_str()), 0);
+    ASSERT_EQ(std::system(("cmake --install " ORVIK_BUILD " --prefix '" + prefix + "' >/dev/null").c_str()),
+              0);
     const std::string entry = read_file(prefix + "/share/applications/orvik.desktop");
     const std::string key = "\nExec=";
     std::istringstream line(entry.substr(entry.find(key) + key.size()));

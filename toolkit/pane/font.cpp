@@ -70,9 +70,9 @@ ShapedCell shape(const QString& text, const QFont& font) {
     return cell;
 }
 
-/// As a picture, not as a character: what is two cells wide among the symbols, and what is followed by U+FE0F;
-/// but nothing followed by U+FE0E (Unicode Technical Standard 51). Ideographs and syllables are wide, too, and
-/// keep their face.
+/// As a picture, not as a character: what is two cells wide among the symbols, and what is followed by
+/// U+FE0F; but nothing followed by U+FE0E (Unicode Technical Standard 51). Ideographs and syllables are wide,
+/// too, and keep their face.
 bool is_emoji(const QString& text, int cells) {
     constexpr uint first_symbol = 0x231A;
     constexpr uint behind_symbols = 0x2C00;
