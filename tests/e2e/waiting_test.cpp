@@ -111,8 +111,11 @@ TEST_F(Waiting, StripSendsAndDropsLines) {
     ASSERT_TRUE(button("Show").press());
     const Accessible list = strip().find({.role = "list", .name = "waiting lines list"});
     ASSERT_TRUE(wait_until([&] { return list.showing(); }));
-    display().click(list.find({.role = "list item", .name = "echo three"}).place());
-    ASSERT_TRUE(wait_until([&] { return button("Drop Line").press() && list.children().size() == 2; }));
+    const Accessible third = list.find({.role = "list item", .name = "echo three"});
+    display().click(third.place());
+    ASSERT_TRUE(wait_until([&] { return third.focused(); }));
+    ASSERT_TRUE(button("Drop Line").press());
+    ASSERT_TRUE(wait_until([&] { return list.children().size() == 2; }));
     display().press_key("Escape");
     EXPECT_TRUE(wait_until([this] { return terminal_.focused(); }));
     expect_strip("2 lines wait for cat: echo two");
