@@ -120,9 +120,10 @@ TEST(ProgramName, IsLookedForInTheBackground) {
         pause();
         _exit(0);
     }
+    ASSERT_TRUE(wait_until([&] { return getsid(leader) == leader; }));
     EXPECT_TRUE(wait_until([&] { return works_in_background(leader, "sleep"); }));
     EXPECT_FALSE(works_in_background(leader, "svn"));
-    kill(-leader, SIGKILL);
+    EXPECT_EQ(kill(leader, SIGKILL), 0);
     EXPECT_EQ(waitpid(leader, nullptr, 0), leader);
 }
 
