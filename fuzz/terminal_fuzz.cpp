@@ -44,15 +44,16 @@ Cell cell_at(const Terminal& terminal, Position at) {
 }
 
 /// Whether a text holds this beginning, wherever it stands, and behind it as much of the rest as there is
-/// room for. Empty rows at the end are no text.
-bool keeps(std::string now, std::string_view beginning, std::string_view rest) {
-    const std::size_t end_of_text = beginning.find_last_not_of('\n') + 1;  // 0 behind npos
-    now.append(beginning.size() - end_of_text, '\n');
-    for (std::size_t at = now.find(beginning); at != now.npos; at = now.find(beginning, at + 1)) {
-        std::string behind = now.substr(at + beginning.size());
-        behind.erase(behind.find_last_not_of('\n') + 1);
-        if (rest.starts_with(behind)) {
-            return true;
+/// room for. Empty rows at the end are no text, nor are blanks where a line was cut.
+bool keeps(const std::string& now, std::string_view beginning, std::string_view rest) {
+    const std::size_t end_of_text = beginning.find_last_not_of(" \n") + 1;  // 0 behind npos
+    for (const std::string& text : {now, now + std::string(beginning.substr(end_of_text))}) {
+        for (std::size_t at = text.find(beginning); at != text.npos; at = text.find(beginning, at + 1)) {
+            std::string behind = text.substr(at + beginning.size());
+            behind.erase(behind.find_last_not_of('\n') + 1);
+            if (rest.starts_with(behind)) {
+                return true;
+            }
         }
     }
     return false;
