@@ -1,10 +1,12 @@
 # SPDX-License-Identifier: MIT
 """Orvik and other terminals that happen to be installed, started on a display of their own."""
+import mmap
 import os
 import pathlib
 import shutil
 import signal
 import statistics
+import struct
 import subprocess
 import tempfile
 import time
@@ -27,9 +29,10 @@ class Display:
     """An Xvfb, as long as it is open."""
 
     def __enter__(self):
+        self.folder = tempfile.TemporaryDirectory()
         read_end, write_end = os.pipe()
         self.server = subprocess.Popen(
-            ["Xvfb", "-displayfd", str(write_end), "-screen", "0", "1600x1200x24", "-noreset"],
+            ["Xvfb", "-displayfd", str(write_end), "-screen", "0", "1600x1200x24", "-noreset", "-fbdir", self.folder.name],
             pass_fds=[write_end], stderr=subprocess.DEVNULL)
         os.close(write_end)
         with os.fdopen(read_end) as answer:
@@ -37,11 +40,29 @@ class Display:
         if not number:
             raise SystemExit("Xvfb does not start")
         self.name = ":" + number
+        with open(os.path.join(self.folder.name, "Xvfb_screen0"), "rb") as file:
+            self.screen = mmap.mmap(file.fileno(), 0, prot=mmap.PROT_READ)
         return self
 
     def __exit__(self, *_):
+        self.screen.close()
         self.server.terminate()
         self.server.wait()
+        self.folder.cleanup()
+
+    def red_points(self):
+        """How many of the points of a grid are red. The server shares its screen as a file in the format of xwd(1):
+        25 numbers, a name and a table of colours precede the pixels, four bytes each with blue first."""
+        step = 20
+        header = struct.unpack(">25I", self.screen[:100])
+        header_size, height, line_bytes, colours = header[0], header[5], header[12], header[19]
+        begin = header_size + 12 * colours
+        count = 0
+        for y in range(0, height, step):
+            line = self.screen[begin + y * line_bytes:begin + (y + 1) * line_bytes]
+            points = zip(line[::4 * step], line[1::4 * step], line[2::4 * step])
+            count += sum(1 for blue, green, red in points if red > 1.5 * max(green, blue) + 30)
+        return count
 
 
 class Run:
@@ -60,14 +81,21 @@ class Run:
 
     def wait(self, seconds):
         """The numbers found; nothing when the terminal has ended without an answer or takes too long."""
+        def numbers():
+            text = self.findings.read_text() if self.findings.exists() else ""
+            return [float(number) for number in text.split()] if text.endswith("\n") else None
+
+        return self.wait_for(numbers, seconds, 0.01)
+
+    def wait_for(self, condition, seconds, interval):
+        """What the condition gives as soon as that is something; nothing when the terminal has ended or it takes too long."""
         deadline = time.monotonic() + seconds
         while time.monotonic() < deadline:
-            text = self.findings.read_text() if self.findings.exists() else ""
-            if text.endswith("\n"):
-                return [float(number) for number in text.split()]
+            if found := condition():
+                return found
             if self.process.poll() is not None:
                 return None
-            time.sleep(0.01)
+            time.sleep(interval)
         return None
 
     def peak_memory(self):
