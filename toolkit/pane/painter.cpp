@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr int frame_milliseconds = 30;  // so long a key may wait while a frame is drawn
+constexpr int frame_milliseconds = 16;  // so long a key may wait while a frame is drawn
 
 using terminal::Cell;
 using terminal::Underline;

@@ -22,6 +22,11 @@ constexpr int echo_quiet_milliseconds = 20;
 constexpr int recent_key_milliseconds = 150;
 // Output can ask for answers faster than a program that does not listen takes them.
 constexpr std::size_t unread_replies_limit = 65'536;
+// The kernel holds some 12 KB for a program to read, and keys do not overtake that. A program that asks on
+// and on gets its answers no faster than it can read them byte by byte.
+constexpr std::size_t replies_at_once = 4096;
+constexpr std::size_t replies_a_tick = 1024;
+constexpr int reply_tick_milliseconds = 4;
 // So much time's work is read ahead: at the pace of a slice that took all its time.
 constexpr int slices_ahead = 4;
 constexpr std::size_t least_ahead = 4096;  // what the kernel hands out at once
@@ -34,8 +39,10 @@ PtyStream::PtyStream(std::unique_ptr<Pty> pty, Events events)
       reader_(std::make_unique<PtyReader>(*pty_)),
       events_(std::move(events)),
       readable_(reader_->descriptor(), QSocketNotifier::Read),
-      writable_(pty_->descriptor(), QSocketNotifier::Write) {
+      writable_(pty_->descriptor(), QSocketNotifier::Write),
+      replies_allowed_(replies_at_once) {
     writable_.setEnabled(false);
+    connect(&reply_timer_, &QTimer::timeout, this, [this] { pass_time_for_replies(); });
     connect(&readable_, &QSocketNotifier::activated, this, [this] { read_slice(); });
     connect(&writable_, &QSocketNotifier::activated, this, [this] { write_pending(); });
 }
@@ -43,6 +50,7 @@ PtyStream::PtyStream(std::unique_ptr<Pty> pty, Events events)
 void PtyStream::close() {
     readable_.setEnabled(false);
     writable_.setEnabled(false);
+    reply_timer_.stop();
     replies_.clear();
     reader_.reset();
     pty_.reset();
@@ -53,7 +61,9 @@ void PtyStream::write(std::string_view bytes) {
     watch_for_room();
 }
 
-void PtyStream::watch_for_room() { writable_.setEnabled(pty_->pending() > 0 || !replies_.empty()); }
+void PtyStream::watch_for_room() {
+    writable_.setEnabled(pty_->pending() > 0 || (!replies_.empty() && replies_allowed_ > 0));
+}
 
 void PtyStream::type(std::string_view bytes) {
     if (bytes.empty()) {
@@ -74,12 +84,25 @@ void PtyStream::reply(std::string_view bytes) {
 
 /// One by one, when the program has taken what was written before: keys do not wait behind all of them.
 void PtyStream::write_replies() {
-    while (pty_->pending() == 0 && !replies_.empty()) {
-        unread_replies_ -= replies_.front().size();
+    while (pty_->pending() == 0 && !replies_.empty() && replies_allowed_ > 0) {
+        const std::size_t size = replies_.front().size();
+        unread_replies_ -= size;
+        replies_allowed_ -= std::min(size, replies_allowed_);
         pty_->write(replies_.front());
         replies_.pop_front();
+        if (!reply_timer_.isActive()) {
+            reply_timer_.start(reply_tick_milliseconds);
+        }
     }
     watch_for_room();
+}
+
+void PtyStream::pass_time_for_replies() {
+    replies_allowed_ = std::min(replies_allowed_ + replies_a_tick, replies_at_once);
+    write_replies();
+    if (replies_allowed_ == replies_at_once) {
+        reply_timer_.stop();
+    }
 }
 
 void PtyStream::write_pending() {

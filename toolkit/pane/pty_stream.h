@@ -7,6 +7,7 @@
 #include <QElapsedTimer>
 #include <QObject>
 #include <QSocketNotifier>
+#include <QTimer>
 
 #include <deque>
 #include <functional>
@@ -38,8 +39,8 @@ class PtyStream final : public QObject {
     void write(std::string_view bytes);
     /// The same for keys, which the program is expected to answer.
     void type(std::string_view bytes);
-    /// The same for the terminal's own answers, which keys may overtake: they are dropped where a program
-    /// asks and asks and does not read them.
+    /// The same for the terminal's own answers, which keys may overtake: a program that asks and asks gets
+    /// some 256 KB of them a second, and they are dropped where it does not read them.
     void reply(std::string_view bytes);
 
     /// Reads what the program has written, and what it is about to echo of the last key typed. Waits at most
@@ -57,6 +58,7 @@ class PtyStream final : public QObject {
     void end_slice();
     void write_pending();
     void write_replies();
+    void pass_time_for_replies();
     void watch_for_room();
 
     std::unique_ptr<terminal::Pty> pty_;
@@ -68,5 +70,7 @@ class PtyStream final : public QObject {
     QElapsedTimer since_key_;
     std::deque<std::string> replies_;  ///< not written yet
     std::size_t unread_replies_ = 0;   ///< their bytes
+    std::size_t replies_allowed_;      ///< bytes of them that may be written now
+    QTimer reply_timer_;               ///< until more may be
     bool echo_due_ = false;            ///< a key was typed and nothing has been read since
 };

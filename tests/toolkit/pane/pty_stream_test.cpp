@@ -84,6 +84,19 @@ TEST(PtyStream, KeysOvertakeAnswersThatNobodyReads) {
     EXPECT_EQ(listener.text, "asks\nxread\n");
 }
 
+TEST(PtyStream, KeysStandBehindFewAnswersThatAreRead) {
+    Listener listener(
+        "stty raw -echo; echo asks; head -c 40001 | cut -dx -f1,2 --output-delimiter='\n' | "
+        "while read -r part; do echo ${#part}; done");
+    ASSERT_TRUE(listener.wait([&] { return listener.text == "asks\n"; })) << listener.text;
+    for (int answer = 0; answer < 40; ++answer) {
+        listener.stream.reply(std::string(1000, '.'));
+    }
+    listener.stream.type("x");
+    ASSERT_TRUE(listener.wait([&] { return std::ranges::count(listener.text, '\n') == 3; })) << listener.text;
+    EXPECT_EQ(listener.text, "asks\n5000\n35000\n");
+}
+
 TEST(PtyStream, TerminalThatNobodyHoldsIsTakenUpAgain) {
     Listener listener("tty=$(tty); exec </dev/null >/dev/null 2>&1; sleep 0.3; echo back >$tty; sleep 0.3");
     ASSERT_TRUE(listener.wait([&] { return listener.text == "back\r\n"; })) << listener.text;
