@@ -80,7 +80,7 @@ TEST_F(TerminalPaneTest, MenuOffersSizesAndFontsOfFixedWidth) {
         fonts = item->text() == "Font" ? item->menu() : fonts;
     }
     ASSERT_NE(fonts, nullptr);
-    emit fonts->aboutToShow();
+    fonts->aboutToShow();
     const QList<QAction*> items = fonts->actions();
     ASSERT_GT(items.size(), 4);
     EXPECT_EQ(std::ranges::count_if(items, &QAction::isChecked), 1);
