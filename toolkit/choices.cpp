@@ -94,6 +94,17 @@ QButtonGroup* make_items(Container& parent, Label label, std::initializer_list<s
     return buttons;
 }
 
+/// Tab stops at the item that is chosen, from the beginning; Qt sees to it only when a group has had the
+/// focus.
+void let_tab_stop_at_chosen(const QButtonGroup& buttons) {
+    for (QAbstractButton* button : buttons.buttons()) {
+        button->setFocusPolicy(Qt::ClickFocus);
+        QObject::connect(button, &QAbstractButton::toggled, button, [button](bool chosen) {
+            button->setFocusPolicy(chosen ? Qt::StrongFocus : Qt::ClickFocus);
+        });
+    }
+}
+
 void call_after_change(const QButtonGroup& buttons, std::function<void()> action) {
     QObject::connect(&buttons, &QButtonGroup::idToggled, &buttons,
                      [action = std::move(action)] { action(); });
@@ -103,6 +114,7 @@ void call_after_change(const QButtonGroup& buttons, std::function<void()> action
 
 Choice::Choice(Container& parent, Label label, std::initializer_list<std::string_view> items, Notify notify)
     : buttons_(make_items<QRadioButton>(parent, label, items, Exclusive::yes, notify)) {
+    let_tab_stop_at_chosen(*buttons_);
     set_value(0);
 }
 

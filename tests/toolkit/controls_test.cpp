@@ -174,6 +174,10 @@ TEST_F(Controls, AChoiceHasOneValueAndNotifiesItsUserOnly) {
     EXPECT_EQ(notified, 1);
     find<QAbstractButton>("One")->toggle();  // as assistive programs do
     EXPECT_EQ(notified, 2);
+    sample.choice.set_value(2);
+    find<QAbstractSpinBox>("Number:")->setFocus();
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget(), find<QAbstractButton>("Three"));
 }
 
 TEST_F(Controls, CheckBoxesAreBitsAndASingleOneIsInNoGroup) {
