@@ -138,7 +138,6 @@ class AccessibleNodes final : public CanvasObserver {
             ids_.erase(node);
         }
     }
-    void renamed(TreeNode* node) override { tell_if_known(node, QAccessible::NameChanged); }
     void selection_changed(TreeNode* node) override {
         selection_changed_ = true;
         tell_if_known(node, node->selected ? QAccessible::SelectionAdd : QAccessible::SelectionRemove);

@@ -13,7 +13,6 @@ struct CanvasObserver {
     virtual void added(TreeNode* node) = 0;
     /// The node is about to be destroyed.
     virtual void forgotten(TreeNode* node) = 0;
-    virtual void renamed(TreeNode* node) = 0;
     virtual void selection_changed(TreeNode* node) = 0;
     /// The user is at this node now, with the keyboard's focus.
     virtual void focused(TreeNode* node) = 0;

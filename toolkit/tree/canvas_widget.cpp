@@ -64,18 +64,6 @@ void CanvasWidget::forget(TreeNode* node) {
     observer_->forgotten(node);
 }
 
-void CanvasWidget::move(TreeNode* node, TreeNode* parent, int position) {
-    if (tree_.move(node, parent, position)) {
-        observer_->added(node);
-        changed();
-    }
-}
-
-void CanvasWidget::relabelled(TreeNode* node) {
-    observer_->renamed(node);
-    measure(node);
-}
-
 void CanvasWidget::set_opened(TreeNode* node, bool opened) {
     node->opened = opened;
     measure(node);

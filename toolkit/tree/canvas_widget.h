@@ -39,9 +39,6 @@ class CanvasWidget final : public QAbstractScrollArea {
     TreeNode* add(TreeNode* parent, std::unique_ptr<NodeRecord> record, int font_size, NodeKind kind,
                   int position);
     void destroy(TreeNode* node);
-    void move(TreeNode* node, TreeNode* parent, int position);
-    /// To be called when the label has changed.
-    void relabelled(TreeNode* node);
     void set_opened(TreeNode* node, bool opened);
 
     // Each tells whether it changed anything.

@@ -80,17 +80,6 @@ void NodeTree::destroy(TreeNode* node, const std::function<void(TreeNode*)>& for
     }
 }
 
-bool NodeTree::move(TreeNode* node, TreeNode* parent, int position) {
-    for (const LayoutNode* at = parent; at != nullptr; at = at->parent) {
-        if (at == node) {
-            return false;
-        }
-    }
-    layout_.remove(*node);
-    layout_.insert(*node, under(parent), position);
-    return true;
-}
-
 LayoutNode* NodeTree::children_of(const TreeNode* node) const {
     return node == nullptr ? layout_.ground().children : node->children;
 }

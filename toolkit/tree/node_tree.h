@@ -44,8 +44,6 @@ class NodeTree {
     TreeNode* add(std::unique_ptr<TreeNode> node, TreeNode* parent, int position);
     /// Destroys a node with all below it; `forget` is called with each, before any is gone.
     void destroy(TreeNode* node, const std::function<void(TreeNode*)>& forget);
-    /// False where that would put the node below itself.
-    bool move(TreeNode* node, TreeNode* parent, int position);
     void resize(TreeNode* node, int width, int height) { layout_.resize(*node, width, height); }
 
     /// Null for a root.

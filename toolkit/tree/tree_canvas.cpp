@@ -37,20 +37,6 @@ void TreeCanvas::destroy_children(TreeNode* node) {
     }
 }
 
-void TreeCanvas::move(TreeNode* node, TreeNode* parent, int position) {
-    widget_->move(node, parent, position);
-}
-
-void TreeCanvas::relabel(TreeNode* node, std::string label) {
-    node->record->label = std::move(label);
-    widget_->relabelled(node);
-}
-
-void TreeCanvas::set_record(TreeNode* node, std::unique_ptr<NodeRecord> record) {
-    node->record = std::move(record);
-    widget_->relabelled(node);
-}
-
 void TreeCanvas::set_opened(TreeNode* node, bool opened) { widget_->set_opened(node, opened); }
 
 int TreeCanvas::size() const { return widget_->tree().size(); }

@@ -43,11 +43,6 @@ class TreeCanvas {
     /// parent is it then.
     void destroy(TreeNode* node);
     void destroy_children(TreeNode* node);
-    /// Puts a node with all below it elsewhere, but not below itself.
-    void move(TreeNode* node, TreeNode* parent, int position = at_end);
-    /// Gives a node another label, or another record with its label. The selection stays.
-    void relabel(TreeNode* node, std::string label);
-    void set_record(TreeNode* node, std::unique_ptr<NodeRecord> record);
     /// A directory that has not been opened bears a mark.
     void set_opened(TreeNode* node, bool opened = true);
 

@@ -29,9 +29,8 @@ struct PlainTree {
         list.insert(list.begin() + (position < 0 ? size : std::min(position, size)), node);
         parent[node] = above;
     }
-    void take_out(TreeNode* node) { std::erase(children[parent.at(node)], node); }
     void remove(TreeNode* node) {
-        take_out(node);
+        std::erase(children[parent.at(node)], node);
         for (TreeNode* gone : branch(node)) {
             parent.erase(gone);
             children.erase(gone);
@@ -93,20 +92,17 @@ class RandomTree {
             add();
             return;
         }
-        switch (below(9)) {
+        switch (below(8)) {
             case 0:
                 destroy(node);
                 break;
             case 1:
-                move(node);
-                break;
-            case 2:
                 tree_.resize(node, 5 + below(100), 1 + below(30));
                 break;
-            case 3:
+            case 2:
                 select(node);
                 break;
-            case 4:
+            case 3:
                 EXPECT_EQ(tree_.deselect(node), std::erase(plain_.selected, node) > 0);
                 break;
             default:
@@ -166,16 +162,6 @@ class RandomTree {
         const Nodes expected = plain_.branch(node);
         EXPECT_EQ(forgotten, std::set<TreeNode*>(expected.begin(), expected.end()));
         plain_.remove(node);
-    }
-    void move(TreeNode* node) {
-        TreeNode* parent = any(3);
-        const int position = any_position();
-        const bool possible = std::ranges::count(plain_.branch(node), parent) == 0;
-        EXPECT_EQ(tree_.move(node, parent, position), possible);
-        if (possible) {
-            plain_.take_out(node);
-            plain_.insert(node, parent, position);
-        }
     }
     void select(TreeNode* node) {
         const bool changes = std::ranges::count(plain_.selected, node) == 0;
