@@ -214,6 +214,7 @@ class Tour {
         display_.click(program_.window("File Tree Browser").find({"push button", "More"}).place());
         choose_in_tree("Compare (diff)");
         wait_for_text("! ");
+        raise_main_window();
         take_main_window("compare");
     }
     void clear_tree() {
@@ -281,6 +282,13 @@ class Tour {
         const Rectangle place = display_.place_with_frame(*window);
         take(picture, "-crop " + std::to_string(place.width) + "x" + std::to_string(place.height) + "+" +
                           std::to_string(place.x) + "+" + std::to_string(place.y) + " +repage ");
+    }
+    /// Clicks on the title.
+    void raise_main_window() {
+        const auto window = display_.window(program_.process().pid(), program_.main_window().name());
+        const Rectangle frame = display_.place_with_frame(*window);
+        const Rectangle content = program_.main_window().place();
+        display_.click({frame.x, frame.y, content.width / 2, content.y - frame.y});
     }
     void take_main_window(const std::string& picture) { take_window(program_.main_window().name(), picture); }
     void take_desktop(const std::string& picture) { take(picture, ""); }
