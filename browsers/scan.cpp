@@ -64,7 +64,8 @@ void add_rows(Scan& scan, const Directory& directory, std::vector<std::string> n
     Scan files;
     scan.rows.reserve(names.size() + 1);
     scan.facts.reserve(names.size() + 1);
-    scan.rows.push_back({std::string(go_up_row), Glyph::arrow});
+    const ListRow go_up{std::string(go_up_row), Glyph::arrow};
+    scan.rows.push_back(go_up);
     scan.facts.emplace_back();
     for (std::string& name : names) {
         if (progress != nullptr && !progress->next()) {

@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <charconv>
 
+#include <fmt/format.h>
+
 namespace terminal {
 
 namespace {
@@ -44,7 +46,7 @@ std::string TabStops::text() const {
     std::string text;
     for (std::size_t column = 0; column < stops_.size(); ++column) {
         if (stops_[column]) {
-            text += (text.empty() ? "" : "/") + std::to_string(column + 1);
+            text += fmt::format("{}{}", text.empty() ? "" : "/", column + 1);
         }
     }
     return text;

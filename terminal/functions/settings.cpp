@@ -6,6 +6,8 @@
 #include <array>
 #include <cassert>
 
+#include <fmt/format.h>
+
 // Device control strings: reports of settings, of the terminal's capabilities and of what it presents.
 
 namespace terminal {
@@ -92,7 +94,8 @@ void Terminal::xtgettcap(std::string_view request) {
         if (found == std::end(capabilities)) {
             break;
         }
-        known += (known.empty() ? "" : ";") + hexadecimal(found->name) + '=' + hexadecimal(found->value);
+        known += fmt::format("{}{}={}", known.empty() ? "" : ";", hexadecimal(found->name),
+                             hexadecimal(found->value));
         request.remove_prefix(std::min(name.size() + 1, request.size()));
     }
     reply(known.empty() ? "\x1bP0+r\x1b\\" : "\x1bP1+r" + known + "\x1b\\");
