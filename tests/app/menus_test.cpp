@@ -198,7 +198,9 @@ TEST_P(Menus, HaveNoDeadItem) {
         answer("Cancel");
         const std::string before = looks();
         action->trigger();
-        EXPECT_TRUE(asked || looks() != before || !typed().empty()) << label_of(action);
+        const bool shows = looks() != before;
+        const bool types = !typed().empty();  // asked each time, or it would be taken for the next item's
+        EXPECT_TRUE(asked || shows || types) << label_of(action);
     }
 }
 

@@ -20,14 +20,9 @@ class End : public OrvikTest {
         home_.write("Orvik.setup", setup_text({{39, "1"}}));  // the history is saved when quitting
         home_.write(".orvik-history", history_text);
     }
-    /// Starts the program and waits until the shell has run all that is typed at the start.
-    void start_and_settle() {
-        start_with_shell("/bin/bash");
-        expect_cwd(home_.path().string());
-    }
-    /// The history is in the program's memory only then.
+    /// Starts the program; the history is in its memory only then.
     void start_with_history() {
-        start_and_settle();
+        start_and_settle("/bin/bash");
         fs::remove(home_ / ".orvik-history");
     }
     [[nodiscard]] std::string history() const { return read_file(home_ / ".orvik-history"); }
@@ -100,7 +95,7 @@ TEST_F(End, QuitAsksSavesAndCleansUp) {
 }
 
 TEST_F(End, TheQuestionNamesWhatStillRuns) {
-    start_and_settle();
+    start_and_settle("/bin/bash");
     ask_to_quit();
     EXPECT_EQ(program_->application().tree().find("Still running"), std::string::npos);
     display().press_key("Return");

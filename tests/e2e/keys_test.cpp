@@ -26,8 +26,7 @@ class Keys : public OrvikTest {
                                                   {55, "1"},
                                                   {56, ">"}});
         home_.write("Orvik.setup", setup_text(settings));
-        start_with_shell(shell);
-        expect_cwd(home_.path().string());  // all that is typed at the start has run
+        start_and_settle(shell);
         expect_prompt("ready> ");
     }
     /// Waits until the terminal's text ends so. What is typed ahead of a prompt is drawn in its place.

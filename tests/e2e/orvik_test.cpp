@@ -83,6 +83,11 @@ void OrvikTest::start_with_shell(const std::string& path) {
         << terminal_.text();
 }
 
+void OrvikTest::start_and_settle(const std::string& path) {
+    start_with_shell(path);
+    expect_cwd(home_.path());
+}
+
 void OrvikTest::start_with_recording_shell(const std::string& name) {
     std::filesystem::create_symlink(RECORDING_SHELL, home_ / name);
     setup_.shell = home_ / name;

@@ -47,6 +47,8 @@ class OrvikTest : public testing::Test {
     void start();
     /// Starts it with a shell that greets with the prompt "ready> ", and waits for that.
     void start_with_shell(const std::string& path);
+    /// The same with a shell that reports, waiting until it has run all that is typed at the start.
+    void start_and_settle(const std::string& path);
     /// Starts it with a stand-in of this name that records what it is given; `typed()` is what that has read.
     void start_with_recording_shell(const std::string& name);
     [[nodiscard]] std::string typed() const { return read_file(home_ / "typed"); }

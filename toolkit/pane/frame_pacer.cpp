@@ -5,7 +5,6 @@
 
 namespace {
 
-constexpr int frame_milliseconds = 16;
 constexpr int longest_frame_milliseconds = 100;  // where painting is slow
 
 }  // namespace

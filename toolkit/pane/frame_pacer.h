@@ -6,6 +6,9 @@
 
 #include <functional>
 
+/// How long a frame is shown, and so how long one may take.
+inline constexpr int frame_milliseconds = 16;
+
 /// Says when the next frame is due: at most once a display frame, and less often where painting takes more
 /// than half of the time, so that the rest is for reading what comes.
 class FramePacer {

@@ -2,6 +2,7 @@
 #include "toolkit/pane/painter.h"
 
 #include "toolkit/pane/colours.h"
+#include "toolkit/pane/frame_pacer.h"
 
 #include <QPainter>
 #include <QPainterPath>
@@ -9,8 +10,6 @@
 #include <algorithm>
 
 namespace {
-
-constexpr int frame_milliseconds = 16;  // so long a key may wait while a frame is drawn
 
 using terminal::Cell;
 using terminal::Underline;

@@ -275,18 +275,13 @@ class Tour {
     }
     void press_escape() { display_.press_key("Escape"); }
     void take_window(const std::string& title, const std::string& picture) {
-        const auto window = display_.window(program_.process().pid(), title);
-        if (!window) {
-            give_up("no window is titled \"" + title + "\"");
-        }
-        const Rectangle place = display_.place_with_frame(*window);
+        const Rectangle place = place_with_frame(title);
         take(picture, "-crop " + std::to_string(place.width) + "x" + std::to_string(place.height) + "+" +
                           std::to_string(place.x) + "+" + std::to_string(place.y) + " +repage ");
     }
     /// Clicks on the title.
     void raise_main_window() {
-        const auto window = display_.window(program_.process().pid(), program_.main_window().name());
-        const Rectangle frame = display_.place_with_frame(*window);
+        const Rectangle frame = place_with_frame(program_.main_window().name());
         const Rectangle content = program_.main_window().place();
         display_.click({frame.x, frame.y, content.width / 2, content.y - frame.y});
     }
@@ -294,6 +289,13 @@ class Tour {
     void take_desktop(const std::string& picture) { take(picture, ""); }
 
   private:
+    [[nodiscard]] Rectangle place_with_frame(const std::string& title) const {
+        const auto window = display_.window(program_.process().pid(), title);
+        if (!window) {
+            give_up("no window is titled \"" + title + "\"");
+        }
+        return display_.place_with_frame(*window);
+    }
     template <typename Keys>
     void press_keys(const Keys& keys) {
         for (const std::string_view key : keys) {
